@@ -1,0 +1,19 @@
+#include "app/notify_plugin.h"
+
+#include "settings/catalogue.h"
+#include "settings/settings_key.h"
+
+TabSettings TabSettings::Read() {
+    CSettingsKey key = OpenProductKey();
+    TabSettings tabs;
+    tabs.showTabs = key.ReadDword(settings::ShowTabs.name, settings::ShowTabs.defaultValue);
+    tabs.sequence = key.ReadString(settings::ShowTabsSequence, L"");
+    return tabs;
+}
+
+bool NotifyPlugin(UINT updateMessage, WPARAM wParam, const TabSettings& atStart) {
+    const HWND plugin = FindWindowW(L"LumDiaryTimeHelperWnd_1.0", nullptr);
+    if (!plugin) return false;
+    const bool tabsChanged = TabSettings::Read() != atStart;
+    return PostMessageW(plugin, updateMessage, wParam, tabsChanged ? 1 : 0) != FALSE;
+}

@@ -1,0 +1,59 @@
+#include "app/open_entry.h"
+
+#include <vector>
+
+#include "app/language_table.h"
+#include "app/options_page.h"
+#include "app/options_sheet.h"
+#include "pages/calendar_common_page.h"
+#include "pages/calendar_show_page.h"
+#include "pages/calendar_tasks_page.h"
+#include "pages/general_auto_return_page.h"
+#include "pages/special_events_common_page.h"
+#include "pages/tasks_common_page.h"
+#include "resources/ids.h"
+
+namespace {
+
+template <typename Page>
+std::unique_ptr<OptionsPage> Make() {
+    return std::make_unique<Page>();
+}
+
+constexpr MainEntry::PageFactory kGeneralPages[] = {Make<GeneralAutoReturnPage>};
+constexpr MainEntry::PageFactory kCalendarPages[] = {
+    Make<CalendarCommonPage>,
+    Make<CalendarShowPage>,
+    Make<CalendarTasksPage>,
+};
+constexpr MainEntry::PageFactory kTasksPages[] = {Make<TasksCommonPage>};
+constexpr MainEntry::PageFactory kSpecialEventsPages[] = {Make<SpecialEventsCommonPage>};
+
+constexpr MainEntry kEntries[] = {
+    {IDS_GENERAL, IDI_GENERAL, IDS_GENERAL_CAPTION, kGeneralPages, true},
+    {IDS_CALENDAR, IDI_CALENDAR, IDS_CALENDAR_CAPTION, kCalendarPages, true},
+    {IDS_TASKS, IDI_TASKS, IDS_TASKS_CAPTION, kTasksPages, true},
+    {IDS_CONTACTS, IDI_CONTACTS, IDS_CONTACTS_CAPTION, {}, false},
+    {IDS_NOTES, IDI_NOTES, IDS_NOTES_CAPTION, {}, false},
+    {IDS_MESSAGES, IDI_MESSAGES, IDS_MESSAGES_CAPTION, {}, true},
+    {IDS_SPECIAL_EVENTS, IDI_SPECIAL_EVENTS, IDS_SPECIAL_EVENTS_CAPTION, kSpecialEventsPages,
+     false},
+    {IDS_CATEGORY_ICONS, IDI_CATEGORY_ICONS, IDS_CATEGORY_ICONS, {}, false},
+};
+
+}  // namespace
+
+std::span<const MainEntry> MainEntries() { return kEntries; }
+
+bool OpenEntry(WPARAM entry, LPARAM page) {
+    if (entry >= std::size(kEntries) || kEntries[entry].pages.empty()) return false;
+    const MainEntry& row = kEntries[entry];
+    std::vector<std::unique_ptr<OptionsPage>> pages;  // Outlive the sheet.
+    OptionsSheet sheet(GetLanguageTable().LoadString(row.caption));
+    for (const MainEntry::PageFactory make : row.pages) {
+        pages.push_back(make());
+        sheet.AddPage(*pages.back());
+    }
+    if (row.startPageCanBeChosen) sheet.SetActivePage(static_cast<int>(page));
+    return sheet.DoModal(GetActiveWindow()) != 0;
+}

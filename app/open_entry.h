@@ -1,0 +1,26 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <span>
+
+class OptionsPage;
+
+// An entry of the main screen and the sheet behind it. A new page is a row in one of these.
+struct MainEntry {
+    using PageFactory = std::unique_ptr<OptionsPage> (*)();
+
+    unsigned text;     // string id
+    unsigned icon;     // icon id
+    unsigned caption;  // string id of the sheet's caption
+    std::span<const PageFactory> pages;
+    bool startPageCanBeChosen;
+};
+
+// In the order of the main screen.
+std::span<const MainEntry> MainEntries();
+
+// Opens an entry's sheet at a page, over the active window, until it is closed. True when it ended
+// with a change. An entry that does not exist, or has no pages, does nothing.
+bool OpenEntry(WPARAM entry, LPARAM page);

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "settings/catalogue.h"
+#include "settings/diary_settings.h"
+#include "settings/value_labels.h"
+
+// What rows need of a page's controls, named by their ids.
+class PageControls {
+  public:
+    virtual ~PageControls() = default;
+    virtual bool IsChecked(int control) const = 0;
+    virtual void SetChecked(int control, bool checked) = 0;
+    virtual void Enable(int control, bool enabled) = 0;
+    virtual void AddItem(int control, unsigned label, std::int32_t value) = 0;
+    virtual int Selection(int control) const = 0;  // -1: none
+    virtual void SetSelection(int control, int index) = 0;
+    virtual int ItemCount(int control) const = 0;
+    virtual std::int32_t ItemValue(int control, int index) const = 0;  // as given to AddItem
+    virtual std::wstring ItemText(int control, int index) const = 0;
+};
+
+// What rows need of the product key.
+class PageValues {
+  public:
+    virtual ~PageValues() = default;
+    virtual std::uint32_t Read(const NumberSetting& setting) = 0;
+    virtual void Write(const NumberSetting& setting, std::uint32_t value) = 0;
+};
+
+// One control of a page and the number it edits: a value of the product key or a member of the
+// shared settings.
+struct Row {
+    enum class Kind {
+        kCheck,          // 1 while checked
+        kInvertedCheck,  // 0 while checked
+        kIndex,          // the index in a fixed list
+        kNumberText,     // the number that the text of a fixed list's entry is
+        kChoice,         // a value/label list, filled from `choices`
+        kNoValue,        // only enabled and disabled: a label, or a control the page itself loads
+    };
+
+    Kind kind;
+    int control;
+    NumberSetting setting = {};  // without a name: shared
+    std::int32_t CDiarySettings::*shared = nullptr;
+    const ValueLabel* choices = nullptr;
+    int enabledBy = 0;          // the check box that enables the control; 0: always enabled
+    bool keptWhileOff = false;  // a check box that shows empty while disabled and then comes back
+
+    constexpr Row EnabledBy(int checkBox) const {
+        Row row = *this;
+        row.enabledBy = checkBox;
+        return row;
+    }
+    constexpr Row KeptWhileOff(int checkBox) const {
+        Row row = EnabledBy(checkBox);
+        row.keptWhileOff = true;
+        return row;
+    }
+};
+
+namespace rows {
+
+constexpr Row Check(int control, NumberSetting setting) {
+    return {Row::Kind::kCheck, control, setting};
+}
+constexpr Row Check(int control, std::int32_t CDiarySettings::*shared) {
+    return {Row::Kind::kCheck, control, {}, shared};
+}
+constexpr Row InvertedCheck(int control, std::int32_t CDiarySettings::*shared) {
+    return {Row::Kind::kInvertedCheck, control, {}, shared};
+}
+constexpr Row Index(int control, NumberSetting setting) {
+    return {Row::Kind::kIndex, control, setting};
+}
+constexpr Row NumberText(int control, NumberSetting setting) {
+    return {Row::Kind::kNumberText, control, setting};
+}
+constexpr Row NumberText(int control, std::int32_t CDiarySettings::*shared) {
+    return {Row::Kind::kNumberText, control, {}, shared};
+}
+constexpr Row Choice(int control, NumberSetting setting, const ValueLabel* choices) {
+    return {Row::Kind::kChoice, control, setting, nullptr, choices};
+}
+constexpr Row Choice(int control, std::int32_t CDiarySettings::*shared, const ValueLabel* choices) {
+    return {Row::Kind::kChoice, control, {}, shared, choices};
+}
+constexpr Row NoValue(int control) { return {Row::Kind::kNoValue, control}; }
+
+}  // namespace rows
+
+// Fills a list and selects the entry of `value`, or the first one when the list has no such value.
+void FillChoices(PageControls& controls, int control, const ValueLabel* choices,
+                 std::int32_t value);
+
+// The value of the selected entry; `stored` when none is selected.
+std::int32_t ChosenValue(const PageControls& controls, int control, std::int32_t stored);
+
+// The rows of one page while it is open.
+class PageRows {
+  public:
+    explicit PageRows(std::vector<Row> rows);
+
+    // Shows the stored numbers, in the order of the rows: a first read creates the value.
+    void Load(PageControls& controls, PageValues& values, const CDiarySettings& shared);
+    // Stores every row. An entry that the list does not have stays as it was loaded.
+    void Save(const PageControls& controls, PageValues& values, CDiarySettings& shared) const;
+    // Enables what the check boxes enable; to be called when all is loaded and after each click.
+    void UpdateEnabled(PageControls& controls);
+    bool HasSharedRows() const;
+
+  private:
+    struct State {
+        std::int32_t loaded = 0;   // the number as it was loaded
+        bool keptChecked = false;  // of a row kept while off: the mark that comes back
+        bool enabled = true;
+    };
+
+    std::int32_t Edited(const PageControls& controls, std::size_t index) const;
+
+    std::vector<Row> rows_;
+    std::vector<State> states_;
+};

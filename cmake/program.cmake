@@ -1,0 +1,37 @@
+# DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
+# them, as on the device everything binds to the system's own libraries.
+add_executable(DiarySettings WIN32
+  app/about_dialog.cpp
+  app/diary_settings.rc
+  app/language_table.cpp
+  app/language_template.cpp
+  app/launch_help.cpp
+  app/main.cpp
+  app/main_frame.cpp
+  app/module.cpp
+  app/notify_plugin.cpp
+  app/open_entry.cpp
+  app/options_page.cpp
+  app/options_sheet.cpp
+  app/single_instance.cpp
+  appearance/scale.cpp
+  controls/dialog.cpp
+  controls/full_screen_dialog.cpp
+  controls/title_band.cpp
+  controls/window.cpp
+  pages/calendar_common_page.cpp
+  pages/calendar_show_page.cpp
+  pages/calendar_tasks_page.cpp
+  pages/general_auto_return_page.cpp
+  pages/special_events_common_page.cpp
+  pages/tasks_common_page.cpp
+  settings/device.cpp
+  settings/diary_settings.cpp
+  settings/install_path.cpp
+  settings/settings_key.cpp
+)
+target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
+target_link_libraries(DiarySettings PRIVATE
+  diary_art diary_pure diary_warnings pocketpc_headers coredll aygshell commctrl richink
+  inkx)
+add_dependencies(DiarySettings DiaryRes)

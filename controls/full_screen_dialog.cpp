@@ -1,0 +1,217 @@
+#include "controls/full_screen_dialog.h"
+
+#include <aygshell.h>
+
+#include <algorithm>
+
+#include "app/dialog_init.h"
+#include "app/language_table.h"
+#include "app/module.h"
+#include "appearance/scale.h"
+#include "controls/title_band.h"
+
+namespace {
+
+constexpr int kResourceTypeDialogInit = 240;
+constexpr int kBottomMargin = 8;   // below the last control
+constexpr int kScrollStep = 16;    // one line of the scroll bar
+constexpr int kFocusMargin = 4;    // around a control that is scrolled into view
+constexpr int kTitleLength = 256;  // of a sheet's caption
+
+SCROLLINFO VerticalScroll(HWND hwnd, UINT mask) {
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = mask;
+    if (!GetScrollInfo(hwnd, SB_VERT, &info)) info.nPos = 0;
+    return info;
+}
+
+int ClientHeight(HWND hwnd) {
+    RECT client = {};
+    GetClientRect(hwnd, &client);
+    return client.bottom;
+}
+
+RECT ControlRect(HWND dialog, HWND control) {
+    RECT rect = {};
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+}  // namespace
+
+INT_PTR FullScreenDialog::DoModal(HWND parent) {
+    return DialogBoxParamW(ResourceLibrary(), MAKEINTRESOURCEW(templateId_), parent,
+                           DialogProcedure, reinterpret_cast<LPARAM>(static_cast<Dialog*>(this)));
+}
+
+bool FullScreenDialog::OnInitDialog() {
+    const bool isPage = (GetWindowLongW(hwnd(), GWL_STYLE) & WS_CHILD) != 0;
+    if (!isPage) modal_ = std::make_unique<ModalWindow>(hwnd());
+    InitFullScreenDialog();
+    return false;
+}
+
+void FullScreenDialog::InitFullScreenDialog() {
+    scrollMessage_ = RegisterWindowMessageW(L"PPCD_ScrollMessage");
+
+    SHMENUBARINFO bar = {};
+    bar.cbSize = sizeof bar;
+    bar.hwndParent = hwnd();
+    bar.dwFlags = SHCMBF_EMPTYBAR;
+    bar.hInstRes = ResourceLibrary();
+    SHCreateMenuBar(&bar);
+
+    SHINITDLGINFO init = {};
+    init.dwMask = SHIDIM_FLAGS;
+    init.hDlg = hwnd();
+    init.dwFlags = SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
+    SHInitDialog(&init);
+
+    FillListsFromResource();
+    const bool focusFirst = OnInit();
+    GetLanguageTable().TranslateWindow(hwnd());
+    GetLanguageTable().TranslateMenuBar(hwnd());
+    if (focusFirst) SetFocus(GetWindow(hwnd(), GW_CHILD));
+
+    for (HWND child = GetWindow(hwnd(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (!(GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE)) continue;
+        contentHeight_ =
+            std::max(contentHeight_, static_cast<int>(ControlRect(hwnd(), child).bottom));
+    }
+    contentHeight_ += ScaleY(kBottomMargin);
+    UpdateScrollRange();
+}
+
+void FullScreenDialog::FillListsFromResource() {
+    const HMODULE library = ResourceLibrary();
+    const HRSRC resource = FindResourceW(library, MAKEINTRESOURCEW(templateId_),
+                                         MAKEINTRESOURCEW(kResourceTypeDialogInit));
+    if (!resource) return;
+    const auto* bytes =
+        static_cast<const std::uint8_t*>(LockResource(LoadResource(library, resource)));
+    if (!bytes) return;
+    for (const DialogInitRecord& record :
+         ParseDialogInit({bytes, SizeofResource(library, resource)})) {
+        if (record.target == DialogInitRecord::Target::kNone) continue;
+        const bool combo = record.target == DialogInitRecord::Target::kComboBox;
+        SendDlgItemMessageW(hwnd(), record.controlId, combo ? CB_ADDSTRING : LB_ADDSTRING, 0,
+                            reinterpret_cast<LPARAM>(record.text.c_str()));
+    }
+}
+
+bool FullScreenDialog::OnCommand(int id, int) {
+    if (id != IDOK && id != IDCANCEL) return false;
+    EndDialog(hwnd(), id == IDOK ? 1 : 0);
+    return true;
+}
+
+int FullScreenDialog::BandHeight() const { return TitleBandHeight(); }
+
+std::wstring FullScreenDialog::BandTitle() const {
+    wchar_t title[kTitleLength] = {};
+    GetWindowTextW(GetParent(hwnd()), title, kTitleLength);
+    return title;
+}
+
+std::optional<INT_PTR> FullScreenDialog::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == scrollMessage_ && message) {
+        InvalidateTitleBand(hwnd(), BandHeight(), ScrollPosition(), static_cast<int>(wParam));
+        return TRUE;
+    }
+    switch (message) {
+        case WM_PAINT: OnPaint(); return TRUE;
+        case WM_SIZE: UpdateScrollRange(); return FALSE;
+        case WM_VSCROLL: OnVerticalScroll(LOWORD(wParam)); return TRUE;
+        case WM_HELP: OnHelp(); return TRUE;
+        case WM_COMMAND: {
+            const HWND control = reinterpret_cast<HWND>(lParam);
+            if (control && control == GetFocus()) ScrollIntoView(control);
+            if (OnCommand(LOWORD(wParam), HIWORD(wParam))) return TRUE;
+            return std::nullopt;
+        }
+        // On the device dialogs stand on the window colour, as the title band does.
+        case WM_CTLCOLORDLG:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+            SetBkColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_WINDOW));
+            return reinterpret_cast<INT_PTR>(GetSysColorBrush(COLOR_WINDOW));
+        case WM_DESTROY: modal_.reset(); return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+void FullScreenDialog::OnPaint() {
+    PAINTSTRUCT paint;
+    const HDC dc = BeginPaint(hwnd(), &paint);
+    if (!dc) return;
+    const int top = -ScrollPosition();
+    const int band = BandHeight();
+    if (band >= 1) {
+        PaintTitleBand(dc, BandTitle(), band, top);
+    } else if (top > 0) {
+        PaintTitleBand(dc, {}, 0, top);
+    }
+    EndPaint(hwnd(), &paint);
+}
+
+int FullScreenDialog::ScrollPosition() const { return VerticalScroll(hwnd(), SIF_POS).nPos; }
+
+void FullScreenDialog::UpdateScrollRange() {
+    if (!contentHeight_) return;
+    const int height = ClientHeight(hwnd());
+    ScrollTo(ScrollPosition());
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = contentHeight_ - 1;
+    info.nPage = height;
+    SetScrollInfo(hwnd(), SB_VERT, &info, TRUE);
+}
+
+void FullScreenDialog::OnVerticalScroll(int request) {
+    const SCROLLINFO info = VerticalScroll(hwnd(), SIF_ALL);
+    const int step = ScaleY(kScrollStep);
+    switch (request) {
+        case SB_LINEUP: ScrollTo(info.nPos - step); break;
+        case SB_LINEDOWN: ScrollTo(info.nPos + step); break;
+        case SB_PAGEUP: ScrollTo(info.nPos - static_cast<int>(info.nPage)); break;
+        case SB_PAGEDOWN: ScrollTo(info.nPos + static_cast<int>(info.nPage)); break;
+        case SB_TOP: ScrollTo(0); break;
+        case SB_BOTTOM: ScrollTo(contentHeight_); break;
+        case SB_THUMBTRACK:
+        case SB_THUMBPOSITION: ScrollTo(info.nTrackPos); break;
+    }
+}
+
+void FullScreenDialog::ScrollTo(int position) {
+    const int last = std::max(0, contentHeight_ - ClientHeight(hwnd()));
+    const int wanted = std::clamp(position, 0, last);
+    const int current = ScrollPosition();
+    if (wanted == current) return;
+    // Whoever paints on the page learns the new position before it holds.
+    SendMessageW(hwnd(), scrollMessage_, wanted, 0);
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_POS;
+    info.nPos = wanted;
+    SetScrollInfo(hwnd(), SB_VERT, &info, TRUE);
+    ScrollWindowEx(hwnd(), 0, current - wanted, nullptr, nullptr, nullptr, nullptr,
+                   SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+    UpdateWindow(hwnd());
+}
+
+void FullScreenDialog::ScrollIntoView(HWND control) {
+    const RECT rect = ControlRect(hwnd(), control);
+    const int margin = ScaleY(kFocusMargin);
+    const int height = ClientHeight(hwnd());
+    const int position = ScrollPosition();
+    if (rect.top < margin) {
+        // The topmost controls bring the title band back with them.
+        const int top = position + rect.top - margin;
+        ScrollTo(top <= BandHeight() + margin ? 0 : top);
+    } else if (rect.bottom + margin > height) {
+        ScrollTo(position + rect.bottom + margin - height);
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "controls/dialog.h"
+#include "controls/modal_windows.h"
+
+// What every options page and full-screen dialog shares: Done button, empty menu bar, title band,
+// lists filled from the resource library, translated texts, and scrolling where the screen is too
+// low.
+class FullScreenDialog : public Dialog {
+  public:
+    unsigned templateId() const { return templateId_; }
+
+    // Runs the dialog modally over `parent`; the result is the dialog's own, 0 for cancelled.
+    INT_PTR DoModal(HWND parent);
+
+  protected:
+    explicit FullScreenDialog(unsigned templateId) : templateId_(templateId) {}
+
+    // The dialog's own initialisation, after the lists are filled and before texts are translated;
+    // returns whether the first control shall have the focus.
+    virtual bool OnInit() = 0;
+    // WM_COMMAND of a control or menu; true when handled.
+    virtual bool OnCommand(int id, int code);
+    virtual void OnHelp() = 0;
+    // Height in pixels of the title band; 0 for a dialog without one.
+    virtual int BandHeight() const;
+    virtual std::wstring BandTitle() const;
+
+    bool OnInitDialog() override;
+    std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void InitFullScreenDialog();
+    void FillListsFromResource();
+    void OnPaint();
+    void UpdateScrollRange();
+    void OnVerticalScroll(int request);
+    void ScrollTo(int position);
+    void ScrollIntoView(HWND control);
+    int ScrollPosition() const;
+
+    unsigned templateId_;
+    UINT scrollMessage_ = 0;
+    int contentHeight_ = 0;  // pixels, unscrolled
+    std::unique_ptr<ModalWindow> modal_;
+};

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <utility>
+
+// Owns a handle and gives it to `Release` when it goes out of scope. Movable, not copyable.
+template <typename Handle, typename Release>
+class OwnedHandle {
+  public:
+    OwnedHandle() = default;
+    explicit OwnedHandle(Handle handle) : handle_(handle) {}
+    OwnedHandle(OwnedHandle&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+    OwnedHandle& operator=(OwnedHandle&& other) noexcept {
+        if (this != &other) Reset(std::exchange(other.handle_, nullptr));
+        return *this;
+    }
+    ~OwnedHandle() { Reset(); }
+
+    Handle get() const { return handle_; }
+    explicit operator bool() const { return handle_ != nullptr; }
+    void Reset(Handle handle = nullptr) {
+        if (handle_) Release()(handle_);
+        handle_ = handle;
+    }
+
+  private:
+    Handle handle_ = nullptr;
+};
+
+// How each kind of handle is released.
+struct HandleRelease {
+    void operator()(HGDIOBJ object) const { DeleteObject(object); }
+    void operator()(HDC dc) const { DeleteDC(dc); }
+    void operator()(HICON icon) const { DestroyIcon(icon); }
+    void operator()(HIMAGELIST images) const { ImageList_Destroy(images); }
+};
+struct FileRelease {
+    void operator()(HANDLE file) const { CloseHandle(file); }
+};
+
+using OwnedFont = OwnedHandle<HFONT, HandleRelease>;
+using OwnedBitmap = OwnedHandle<HBITMAP, HandleRelease>;
+using OwnedDc = OwnedHandle<HDC, HandleRelease>;
+using OwnedIcon = OwnedHandle<HICON, HandleRelease>;
+using OwnedImageList = OwnedHandle<HIMAGELIST, HandleRelease>;
+
+// Owns an open file. CreateFileW says INVALID_HANDLE_VALUE, not null, when it fails.
+class OwnedFile {
+  public:
+    explicit OwnedFile(HANDLE handle) : handle_(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
+    HANDLE get() const { return handle_.get(); }
+    explicit operator bool() const { return static_cast<bool>(handle_); }
+
+  private:
+    OwnedHandle<HANDLE, FileRelease> handle_;
+};
+
+// Selects an object into a device context for the length of a scope.
+class SelectedObject {
+  public:
+    SelectedObject(HDC dc, HGDIOBJ object) : dc_(dc), previous_(SelectObject(dc, object)) {}
+    ~SelectedObject() { SelectObject(dc_, previous_); }
+    SelectedObject(const SelectedObject&) = delete;
+    SelectedObject& operator=(const SelectedObject&) = delete;
+
+  private:
+    HDC dc_;
+    HGDIOBJ previous_;
+};

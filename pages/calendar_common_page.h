@@ -1,0 +1,9 @@
+#pragma once
+
+#include "app/options_page.h"
+
+// How many days the calendar lists, how it counts weeks, its groups.
+class CalendarCommonPage : public OptionsPage {
+  public:
+    CalendarCommonPage();
+};

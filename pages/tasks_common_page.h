@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/options_page.h"
+
+// Which tasks the tasks tab lists, and how their subjects are shown.
+class TasksCommonPage : public OptionsPage {
+  public:
+    TasksCommonPage();
+
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+};

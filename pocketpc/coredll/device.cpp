@@ -1,0 +1,86 @@
+#include "pocketpc/coredll/device.h"
+
+#include <cstdio>
+
+#include "pocketpc/include/sipapi.h"
+
+namespace {
+
+constexpr wchar_t kFile[] = L"\\device.ini";
+constexpr DWORD kPlatformWindowsCe = 3;
+constexpr UINT kGetSipInfo = 225;
+constexpr UINT kGetPlatformType = 257;
+constexpr UINT kGetOemInfo = 258;
+constexpr int kNavigationBarHeight = 26;  // pixels at 96 dots per inch
+
+std::wstring Entry(const wchar_t* name, const std::wstring& defaultText) {
+    wchar_t text[128];
+    GetPrivateProfileStringW(L"device", name, defaultText.c_str(), text, 128, kFile);
+    return text;
+}
+
+Device ReadDevice() {
+    Device device;
+    device.hive = Entry(L"hive", device.hive);
+    device.platform = Entry(L"platform", device.platform);
+    swscanf(Entry(L"version", L"").c_str(), L"%lu.%lu.%lu", &device.major, &device.minor,
+            &device.build);
+    return device;
+}
+
+BOOL CopyText(const std::wstring& text, UINT length, void* buffer) {
+    if (!buffer || length <= text.size()) {
+        SetLastError(ERROR_INSUFFICIENT_BUFFER);
+        return FALSE;
+    }
+    wcscpy(static_cast<wchar_t*>(buffer), text.c_str());
+    return TRUE;
+}
+
+}  // namespace
+
+const Device& ThisDevice() {
+    static const Device device = ReadDevice();
+    return device;
+}
+
+extern "C" BOOL WINAPI Pocket_GetVersionExW(OSVERSIONINFOW* info) {
+    if (!info || info->dwOSVersionInfoSize < sizeof *info) {
+        SetLastError(ERROR_INSUFFICIENT_BUFFER);
+        return FALSE;
+    }
+    const Device& device = ThisDevice();
+    info->dwMajorVersion = device.major;
+    info->dwMinorVersion = device.minor;
+    info->dwBuildNumber = device.build;
+    info->dwPlatformId = kPlatformWindowsCe;
+    info->szCSDVersion[0] = L'\0';
+    return TRUE;
+}
+
+// The panel of this device is always down.
+extern "C" BOOL WINAPI Pocket_SipGetInfo(SIPINFO* info) {
+    if (!info || info->cbSize != sizeof *info || info->dwImDataSize != 0) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    const HDC screen = GetDC(nullptr);
+    const int top = (kNavigationBarHeight * GetDeviceCaps(screen, LOGPIXELSY) + 48) / 96;
+    ReleaseDC(nullptr, screen);
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    info->fdwFlags = SIPF_OFF | SIPF_DOCKED;
+    info->rcVisibleDesktop = {0, top, width, height};
+    info->rcSipRect = {0, height, width, height};
+    return TRUE;
+}
+
+extern "C" BOOL WINAPI Pocket_SystemParametersInfoW(UINT action, UINT parameter, void* data,
+                                                    UINT change) {
+    switch (action) {
+        case kGetPlatformType: return CopyText(ThisDevice().platform, parameter, data);
+        case kGetOemInfo: return CopyText(L"Stand-in Pocket PC", parameter, data);
+        case kGetSipInfo: return Pocket_SipGetInfo(static_cast<SIPINFO*>(data));
+    }
+    return SystemParametersInfoW(action, parameter, data, change);
+}

@@ -1,0 +1,74 @@
+// Programs and libraries: the device searches \Windows and its root, adds ".exe", and hands a
+// program its arguments without the program's name.
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+bool IsFile(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+// The full path of a program; empty when there is none.
+std::wstring FindProgram(const std::wstring& name) {
+    std::vector<std::wstring> folders = {L""};
+    if (name.find(L'\\') == std::wstring::npos) folders = {L"\\Windows\\", L"\\"};
+    for (const std::wstring& folder : folders) {
+        for (const wchar_t* ending : {L"", L".exe"}) {
+            if (IsFile(folder + name + ending)) return folder + name + ending;
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+extern "C" BOOL WINAPI Pocket_CreateProcessW(LPCWSTR image, LPWSTR arguments,
+                                             LPSECURITY_ATTRIBUTES processAttributes,
+                                             LPSECURITY_ATTRIBUTES threadAttributes, BOOL inherit,
+                                             DWORD flags, LPVOID environment, LPWSTR directory,
+                                             LPSTARTUPINFOW startup,
+                                             LPPROCESS_INFORMATION process) {
+    if (!image || processAttributes || threadAttributes || inherit || environment || directory ||
+        startup) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    const std::wstring path = FindProgram(image);
+    if (path.empty()) {
+        SetLastError(ERROR_FILE_NOT_FOUND);
+        return FALSE;
+    }
+    std::wstring commandLine = L"\"" + path + L"\"";
+    if (arguments && *arguments) commandLine.append(L" ").append(arguments);
+    STARTUPINFOW desktopStartup = {};
+    desktopStartup.cb = sizeof desktopStartup;
+    PROCESS_INFORMATION started = {};
+    if (!CreateProcessW(path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, flags, nullptr,
+                        nullptr, &desktopStartup, &started)) {
+        return FALSE;
+    }
+    if (process) {
+        *process = started;
+    } else {
+        CloseHandle(started.hThread);
+        CloseHandle(started.hProcess);
+    }
+    return TRUE;
+}
+
+extern "C" HMODULE WINAPI Pocket_LoadLibraryW(LPCWSTR name) {
+    const std::wstring inWindows = std::wstring(L"\\Windows\\") + (name ? name : L"");
+    const bool bare = name && !wcschr(name, L'\\');
+    return LoadLibraryW(bare && IsFile(inWindows) ? inWindows.c_str() : name);
+}
+
+extern "C" FARPROC WINAPI Pocket_GetProcAddressW(HMODULE module, LPCWSTR name) {
+    if (IS_INTRESOURCE(name)) return GetProcAddress(module, reinterpret_cast<LPCSTR>(name));
+    std::string narrow;
+    for (const wchar_t* c = name; *c; ++c) narrow += *c < 0x80 ? static_cast<char>(*c) : '?';
+    return GetProcAddress(module, narrow.c_str());
+}

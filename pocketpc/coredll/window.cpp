@@ -1,0 +1,50 @@
+// Window calls whose manners differ.
+#include <windows.h>
+
+namespace {
+
+// Means nothing on the device; on the desktop it asks for a child of an MDI window, which fails.
+constexpr DWORD kMdiChild = 0x40;
+constexpr int kColorFlag = 0x40000000;
+// Two colours that only the device has: the face and the text of static controls.
+constexpr int kColorStatic = 25;
+constexpr int kColorStaticText = 26;
+
+int DesktopColor(int index) {
+    const int plain = index & ~kColorFlag;
+    if (plain == kColorStatic) return COLOR_WINDOW;
+    if (plain == kColorStaticText) return COLOR_WINDOWTEXT;
+    return plain;
+}
+
+}  // namespace
+
+extern "C" HWND WINAPI Pocket_CreateWindowExW(DWORD extendedStyle, LPCWSTR className, LPCWSTR title,
+                                              DWORD style, int x, int y, int width, int height,
+                                              HWND parent, HMENU menu, HINSTANCE instance,
+                                              LPVOID parameter) {
+    return CreateWindowExW(extendedStyle & ~kMdiChild, className, title, style, x, y, width, height,
+                           parent, menu, instance, parameter);
+}
+
+// With the low bit set, the whole application comes forward, with the dialog it has open in front.
+extern "C" BOOL WINAPI Pocket_SetForegroundWindow(HWND hwnd) {
+    const auto value = reinterpret_cast<ULONG_PTR>(hwnd);
+    if (!(value & 1)) return SetForegroundWindow(hwnd);
+    const auto window = reinterpret_cast<HWND>(value & ~ULONG_PTR{1});
+    return SetForegroundWindow(GetLastActivePopup(window));
+}
+
+// The desktop's first child is the Today screen; elsewhere any program's window may be the first.
+extern "C" HWND WINAPI Pocket_GetWindow(HWND hwnd, UINT relation) {
+    if (relation == GW_CHILD && hwnd == GetDesktopWindow()) {
+        return FindWindowW(L"DesktopExplorerWindow", nullptr);
+    }
+    return GetWindow(hwnd, relation);
+}
+
+extern "C" DWORD WINAPI Pocket_GetSysColor(int index) { return GetSysColor(DesktopColor(index)); }
+
+extern "C" HBRUSH WINAPI Pocket_GetSysColorBrush(int index) {
+    return GetSysColorBrush(DesktopColor(index));
+}

@@ -1,0 +1,140 @@
+// Resource ids of DiaryRes.Dll. Included by resource scripts as well, so it holds nothing but defines.
+//
+// Ranges: dialogs 2000-2999, a page's controls 100 apart from 3000 on, own strings from 1000 on. Dialog
+// ids stay at or below 30720, and no string lies in 57344-64999: the language file's template stops there
+// and skips those.
+#pragma once
+
+// Icons of the main screen; the ids are the ones the plug-in's skins and documentation know.
+#define IDI_CALENDAR 102
+#define IDI_TASKS 103
+#define IDI_CONTACTS 105
+#define IDI_NOTES 117
+#define IDI_MESSAGES 126
+#define IDI_GENERAL 128
+#define IDI_SPECIAL_EVENTS 150
+#define IDI_CATEGORY_ICONS 215
+
+// The main window's menu bar and its commands.
+#define IDM_MAIN 128
+#define IDM_ABOUT_BOX 32784
+#define IDM_EXPORT 40019
+#define IDM_IMPORT 40020
+#ifndef ID_APP_EXIT
+#define ID_APP_EXIT 57665
+#define ID_APP_ABOUT 57664
+#endif
+#define IDM_ACCEPTED 57600
+
+// Texts whose ids are fixed.
+#define IDS_TASKS 72
+#define IDS_CALENDAR 171
+#define IDS_NOTES 172
+#define IDS_CONTACTS 173
+#define IDS_SETTINGS_FILE_TYPE 174
+#define IDS_SETTINGS_FILE_NAME 175
+#define IDS_INBOX 188
+#define IDS_MESSAGES_CAPTION 215
+#define IDS_SPECIAL_EVENTS 254
+#define IDS_SPECIAL_EVENTS_CAPTION 255
+#define IDS_PERIOD_FIRST 267
+#define IDS_PERIOD_LAST 273
+#define IDS_NO_LAYOUT 276
+#define IDS_SELECT_LAYOUTS 277
+#define IDS_DRAFTS 288
+#define IDS_DELETED_ITEMS 289
+#define IDS_SENT_ITEMS 290
+#define IDS_OUTBOX 291
+#define IDS_GENERAL 32788
+#define IDS_CATEGORY_ICONS 32792
+#define IDS_TASKS_CAPTION 32820
+#define IDS_CALENDAR_CAPTION 32821
+#define IDS_GENERAL_CAPTION 32822
+#define IDS_CONTACTS_CAPTION 32823
+#define IDS_ABOUT_TEXT 32832
+#define IDS_NOTES_CAPTION 32835
+#define IDS_APP_TITLE 32838
+#define IDS_CONFIRM_IMPORT 40017
+#define IDS_MESSAGES 40018
+
+// Value/label lists.
+#define IDS_PLACEMENT_START 1000
+#define IDS_PLACEMENT_DUE 1001
+#define IDS_PLACEMENT_BOTH 1002
+#define IDS_PLACEMENT_ALL 1003
+#define IDS_SUBJECT_WHOLE 1010
+#define IDS_SUBJECT_WHOLE_SELECTED 1011
+#define IDS_SUBJECT_ONE_LINE 1012
+#define IDS_TIMEOUT_15_MIN 1020
+#define IDS_TIMEOUT_1_HR 1021
+#define IDS_TIMEOUT_4_HR 1022
+#define IDS_TIMEOUT_8_HR 1023
+#define IDS_VIEW_CALENDAR 1030
+#define IDS_VIEW_TASKS 1031
+#define IDS_VIEW_CONTACTS 1032
+#define IDS_VIEW_NOTES 1033
+#define IDS_VIEW_MESSAGES 1034
+#define IDS_VIEW_SPECIAL_EVENTS 1035
+#define IDS_KEYBOARD_NEVER 1040
+#define IDS_KEYBOARD_WHEN_ACTIVE 1041
+#define IDS_KEYBOARD_ALWAYS 1042
+
+// About dialog.
+#define IDD_ABOUT 2000
+#define IDC_ABOUT_ICON 3000
+#define IDC_ABOUT_NAME 3001
+#define IDC_ABOUT_VERSION 3002
+#define IDC_ABOUT_TEXT 3003
+
+// General: return to a view, keyboard.
+#define IDD_GENERAL_AUTO_RETURN 2010
+#define IDC_TIMEOUT_ON 3100
+#define IDC_TIMEOUT_TIME 3101
+#define IDC_TIMEOUT_VIEW 3102
+#define IDC_TIMEOUT_VIEW_LABEL 3103
+#define IDC_KEYBOARD_SUPPORT 3104
+#define IDC_PHONE_BACKSPACE 3105
+
+// Calendar: general.
+#define IDD_CALENDAR_COMMON 2020
+#define IDC_CALENDAR_PERIOD 3200
+#define IDC_FIRST_YEAR_WEEK 3201
+#define IDC_COLLAPSE_BUT_TODAY 3202
+#define IDC_MARK_CONFLICTING 3203
+#define IDC_GROUP_TODAY 3204
+#define IDC_GROUP_WEATHER 3205
+#define IDC_GROUP_OFFSET 3206
+#define IDC_GROUP_SPAN 3207
+
+// Calendar: contents.
+#define IDD_CALENDAR_SHOW 2021
+#define IDC_SHOW_PAST 3300
+#define IDC_SHOW_EMPTY_DAYS 3301
+#define IDC_SHOW_FREE 3302
+#define IDC_SHOW_TODAY_ALWAYS 3303
+#define IDC_SHOW_BIRTHDAYS 3304
+#define IDC_SHOW_EMAILS 3305
+#define IDC_SHOW_TRANSACTIONS 3306
+
+// Calendar: tasks.
+#define IDD_CALENDAR_TASKS 2022
+#define IDC_SHOW_TASKS 3400
+#define IDC_SHOW_UNDATED_TASKS 3401
+#define IDC_SHOW_OVERDUE_TASKS 3402
+#define IDC_SHOW_COMPLETED_TASKS 3403
+#define IDC_TASK_PLACEMENT 3404
+#define IDC_TASK_PLACEMENT_LABEL 3405
+
+// Tasks: general.
+#define IDD_TASKS_COMMON 2030
+#define IDC_TASK_COMPLETION_MESSAGE 3500
+#define IDC_TASK_SUBJECT 3501
+#define IDC_TASKS_ALL_CATEGORIES 3502
+#define IDC_TASKS_COMPLETED 3503
+#define IDC_TASKS_ACTIVE 3504
+
+// Special events: general.
+#define IDD_SPECIAL_EVENTS_COMMON 2060
+#define IDC_SPECIAL_BIRTHDAYS 3600
+#define IDC_SPECIAL_TRANSACTIONS 3601
+#define IDC_SPECIAL_PERIOD 3602

@@ -1,0 +1,271 @@
+// The settings store over the device's registry. Each test starts from an empty product key.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "settings/diary_settings.h"
+#include "settings/install_path.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+constexpr wchar_t kInstallKey[] = L"SOFTWARE\\Apps\\Lum Diary";
+
+class Settings : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+        DeleteKeyTree(HKEY_LOCAL_MACHINE, kInstallKey);
+    }
+
+    struct Raw {
+        LSTATUS status;
+        DWORD type = 0;
+        std::vector<BYTE> data = std::vector<BYTE>(256);
+    };
+
+    // What the registry holds, past the class under test.
+    static Raw Stored(const wchar_t* name) {
+        HKEY key = nullptr;
+        Raw raw{RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &key)};
+        if (raw.status != ERROR_SUCCESS) return raw;
+        DWORD size = static_cast<DWORD>(raw.data.size());
+        raw.status = RegQueryValueExW(key, name, nullptr, &raw.type, raw.data.data(), &size);
+        raw.data.resize(raw.status == ERROR_SUCCESS ? size : 0);
+        RegCloseKey(key);
+        return raw;
+    }
+    static void Store(const wchar_t* name, DWORD type, const std::vector<BYTE>& data) {
+        HKEY key = nullptr;
+        DWORD disposition = 0;
+        ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, nullptr, 0, 0, nullptr, &key,
+                                  &disposition),
+                  ERROR_SUCCESS);
+        RegSetValueExW(key, name, 0, type, data.data(), static_cast<DWORD>(data.size()));
+        RegCloseKey(key);
+    }
+    static std::vector<BYTE> Bytes(const std::wstring& text) {
+        const auto* begin = reinterpret_cast<const BYTE*>(text.c_str());
+        return {begin, begin + (text.size() + 1) * sizeof(wchar_t)};
+    }
+};
+
+TEST_F(Settings, MissingNumberYieldsItsDefaultAndCreatesIt) {
+    CSettingsKey key = OpenProductKey();
+    EXPECT_EQ(key.ReadDword(L"Number", 7), 7u);
+    const Raw stored = Stored(L"Number");
+    EXPECT_EQ(stored.type, static_cast<DWORD>(REG_DWORD));
+    EXPECT_EQ(stored.data, (std::vector<BYTE>{7, 0, 0, 0}));
+    EXPECT_EQ(key.ReadDword(L"Number", 8), 7u);
+
+    EXPECT_EQ(key.ReadDword(L"None", SETTINGS_NO_DEFAULT), 0xDEF0u);
+    EXPECT_EQ(Stored(L"None").status, ERROR_FILE_NOT_FOUND);
+}
+
+TEST_F(Settings, NumbersOfOtherTypes) {
+    Store(L"Short", REG_BINARY, {1, 2});
+    Store(L"Four", REG_BINARY, {4, 3, 2, 1});
+    Store(L"Text", REG_SZ, Bytes(L"long"));
+    CSettingsKey key = OpenProductKey();
+    EXPECT_EQ(key.ReadDword(L"Short", 9), 0x0201u);
+    EXPECT_EQ(key.ReadDword(L"Four", 9), 0x01020304u);
+    EXPECT_EQ(key.ReadDword(L"Text", 9), 9u);
+    EXPECT_EQ(Stored(L"Text").type, static_cast<DWORD>(REG_DWORD));
+}
+
+TEST_F(Settings, Texts) {
+    CSettingsKey key = OpenProductKey();
+    EXPECT_EQ(key.ReadString(L"None"), L"");
+    EXPECT_EQ(Stored(L"None").status, ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(key.ReadString(L"Text", L"Ünï"), L"Ünï");
+    const Raw stored = Stored(L"Text");
+    EXPECT_EQ(stored.type, static_cast<DWORD>(REG_SZ));
+    EXPECT_EQ(stored.data, Bytes(L"Ünï"));
+    EXPECT_TRUE(key.WriteString(L"Empty", L""));
+    EXPECT_EQ(Stored(L"Empty").data.size(), 2u);
+
+    Store(L"Inner", REG_SZ, Bytes(std::wstring(L"a\0b", 3)));
+    Store(L"Odd", REG_BINARY, {'x', 0, 'y'});
+    Store(L"Open", REG_SZ, {'z', 0});
+    EXPECT_EQ(key.ReadString(L"Inner"), L"a");
+    EXPECT_EQ(key.ReadString(L"Odd"), L"xy");
+    EXPECT_EQ(key.ReadString(L"Open"), L"z");
+}
+
+TEST_F(Settings, UnreadablePointersTouchNothing) {
+    const auto* bad = reinterpret_cast<const wchar_t*>(8);
+    CSettingsKey key = OpenProductKey();
+    BYTE buffer[4];
+    DWORD size = sizeof buffer;
+    for (const wchar_t* name : {static_cast<const wchar_t*>(nullptr), bad}) {
+        EXPECT_EQ(key.ReadDword(name, 3), 3u);
+        EXPECT_FALSE(key.WriteDword(name, 1));
+        EXPECT_EQ(key.ReadString(name, L"x"), L"");
+        EXPECT_FALSE(key.WriteString(name, L"x"));
+        EXPECT_FALSE(key.WriteString(L"Name", name));
+        EXPECT_EQ(key.ReadString(L"Name", name), L"");
+        EXPECT_FALSE(key.WriteBinary(L"Name", name, 4));
+        EXPECT_FALSE(key.ReadBinary(name, buffer, &size));
+    }
+    size = 4;
+    EXPECT_FALSE(key.ReadBinary(L"Name", const_cast<wchar_t*>(bad), &size));
+    std::wstring name;
+    EXPECT_FALSE(key.FirstValueName(name)) << "wrote " << name.size() << " characters' name";
+}
+
+TEST_F(Settings, BinariesAndNames) {
+    CSettingsKey key = OpenProductKey();
+    EXPECT_TRUE(key.WriteBinary(L"Blob", "abc", 3));
+    DWORD size = 0;
+    EXPECT_TRUE(key.ReadBinary(L"Blob", nullptr, &size));
+    EXPECT_EQ(size, 3u);
+    BYTE small[2];
+    size = sizeof small;
+    EXPECT_FALSE(key.ReadBinary(L"Blob", small, &size));
+    key.WriteDword(L"Two", 2);
+    std::vector<std::wstring> names;
+    std::wstring name;
+    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
+        names.push_back(name);
+    }
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"Blob", L"Two"}));
+}
+
+TEST_F(Settings, KeyThatDoesNotOpen) {
+    CSettingsKey missing(HKEY_LOCAL_MACHINE, L"\\Software\\Nowhere", false, false);
+    EXPECT_FALSE(missing.IsOpen());
+    EXPECT_EQ(missing.ReadDword(L"Number", 5), 5u);
+    EXPECT_FALSE(missing.WriteDword(L"Number", 5));
+    EXPECT_EQ(missing.ReadString(L"Text", L"d"), L"d");
+    CSettingsKey impossible(HKEY_LOCAL_MACHINE, std::wstring(300, L'k').c_str(), true, true);
+    EXPECT_FALSE(impossible.IsOpen());
+    EXPECT_FALSE(impossible.WriteString(L"a", L"b"));
+}
+
+TEST_F(Settings, DeleteKeyTree) {
+    {
+        CSettingsKey a(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\A\\B\\C").c_str(), true,
+                       true);
+        CSettingsKey d(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\A\\D").c_str(), true,
+                       true);
+        a.WriteDword(L"x", 1);
+    }
+    EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, nullptr));
+    EXPECT_TRUE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
+    EXPECT_FALSE(CSettingsKey(HKEY_LOCAL_MACHINE, kProductKey, false, false).IsOpen());
+    EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
+    {
+        CSettingsKey held(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\A").c_str(), true,
+                          true);
+        EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
+    }
+}
+
+TEST_F(Settings, InstallPath) {
+    wchar_t program[MAX_PATH];
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::wstring path = program;
+    const std::wstring folder = path.substr(0, path.rfind(L'\\'));
+    EXPECT_EQ(GetInstallPath(), folder);
+    EXPECT_EQ(GetInstallPath(L"DiaryRes.Dll"), folder + L"\\DiaryRes.Dll");
+    CSettingsKey install(HKEY_LOCAL_MACHINE, kInstallKey, true, true);
+    EXPECT_EQ(GetInstallPath(), L"");
+    EXPECT_EQ(GetInstallPath(L"DiaryRes.Dll"), L"\\DiaryRes.Dll");
+    install.WriteString(L"InstallDir", L"\\Program Files\\Diary\\");
+    EXPECT_EQ(GetInstallPath(), L"\\Program Files\\Diary\\");
+    EXPECT_EQ(GetInstallPath(L"a.bin"), L"\\Program Files\\Diary\\\\a.bin");
+}
+
+// Name and default of every shared value, written out by hand.
+TEST_F(Settings, FreshDeviceGetsEveryDefault) {
+    const std::vector<std::pair<const wchar_t*, DWORD>> expected = {
+        {L"Task_ShowCheckbox", 1},
+        {L"Task_MakeDateIndent", 1},
+        {L"App_SubjectStyle", 3},
+        {L"App_MakeDateIndent", 1},
+        {L"AppGroup_Weather", 1},
+        {L"AppGroup_Today", 1},
+        {L"AppGroup_Offset", 1},
+        {L"AppGroup_Span", 1},
+        {L"App_TaskShowMultiday", 3},
+        {L"App_StatusBar", 1},
+        {L"App_Location", 1},
+        {L"App_StartOnly", 0},
+        {L"App_MarkConflicting", 1},
+        {L"App_CollapseButToday", 1},
+        {L"FoldingStripeStyle", 2},
+        {L"FoldingStripeDrawCounter", 1},
+        {L"FoldingStripeShowCollapseIcon", 1},
+        {L"FoldingStripeDontShowNull", 1},
+        {L"OneClick", 0},
+        {L"DoubleClick", 2},
+        {L"ContLeftIdent", 1},
+        {L"ContDisplay", 1},
+        {L"ContSearchCompany", 0},
+        {L"ContactsOneTap", 3},
+        {L"ContactShowTextForPhotos", 0},
+        {L"ContactGroupCompanyNoCase", 1},
+        {L"ContPreview_ShowAddressMode", 0},
+        {L"NoteDrawSize", 0},
+        {L"NoteDrawTime", 1},
+        {L"NoteMakeIndent", 1},
+        {L"EmailShowEmptyAccounts", 0},
+        {L"EmailsOnlyUnreaded", 0},
+        {L"EmailCounterStyle", 0},
+        {L"EmailShowSize", 0},
+        {L"EmailConfirmDeletion", 1},
+        {L"PhatNotesEnabled", 1},
+        {L"NotesType0Enabled", 1},
+        {L"NotesType1Enabled", 1},
+        {L"NotesType2Enabled", 1},
+        {L"NotesType3Enabled", 1},
+        {L"NotesType4Enabled", 1},
+        {L"NotesType5Enabled", 1},
+        {L"NotesType6Enabled", 1},
+        {L"ShowTasksInAllCategories", 0},
+        {L"ShowContactsInAllCategories", 0},
+        {L"SpecialPeriod", 0},
+        {L"PhoneKeyb_DisableBackspace", 0},
+        {L"PhoneKeyb_DisableLangSwitch", 1},
+        {L"EnableDoubleTapOnScrollButton", 0},
+        {L"dbgTextOffset", 4},
+    };
+    CDiarySettings settings;
+    settings.Load();
+    for (const auto& [name, value] : expected) {
+        const Raw stored = Stored(name);
+        const std::vector<BYTE> bytes = {static_cast<BYTE>(value), 0, 0, 0};
+        EXPECT_EQ(stored.data, bytes) << testing::PrintToString(name);
+        EXPECT_EQ(stored.type, static_cast<DWORD>(REG_DWORD));
+    }
+    EXPECT_EQ(Stored(L"CurTaskPattern").data, Bytes(L"p3nqrsc"));
+    EXPECT_EQ(Stored(L"CurAppPattern").data, Bytes(L"n3rqsca"));
+    EXPECT_EQ(Stored(L"CurContactPattern").data, Bytes(L"c1n"));
+
+    CSettingsKey key = OpenProductKey();
+    std::wstring name;
+    std::size_t count = 0;
+    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) ++count;
+    EXPECT_EQ(count, expected.size() + 3);
+}
+
+TEST_F(Settings, SaveWritesAllButTheTextOffset) {
+    CDiarySettings settings;
+    settings.Load();
+    settings.taskPattern.mode = 2;
+    settings.textOffset = 99;
+    settings.noteType6 = 0;
+    settings.taskPlacement = -5;
+    DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+    settings.Save();
+    EXPECT_EQ(Stored(L"CurTaskPattern").data, Bytes(L"p2nqrsc"));
+    EXPECT_EQ(Stored(L"NotesType6Enabled").data, (std::vector<BYTE>{0, 0, 0, 0}));
+    EXPECT_EQ(Stored(L"App_TaskShowMultiday").data, (std::vector<BYTE>{0xFB, 0xFF, 0xFF, 0xFF}));
+    EXPECT_EQ(Stored(L"EmailConfirmDeletion").data, (std::vector<BYTE>{1, 0, 0, 0}));
+    EXPECT_EQ(Stored(L"dbgTextOffset").status, ERROR_FILE_NOT_FOUND);
+}
+
+}  // namespace

@@ -1,0 +1,192 @@
+#include "app/page_rows.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <utility>
+
+namespace {
+
+// A page's controls as plain data. Lists are those that a template would bring along.
+class FakeControls : public PageControls {
+  public:
+    struct Item {
+        std::wstring text;
+        std::int32_t value = 0;
+    };
+    struct Control {
+        bool checked = false;
+        bool enabled = true;
+        int selection = -1;
+        std::vector<Item> items;
+    };
+    std::map<int, Control> controls;
+
+    bool IsChecked(int control) const override { return controls.at(control).checked; }
+    void SetChecked(int control, bool checked) override { controls[control].checked = checked; }
+    void Enable(int control, bool enabled) override { controls[control].enabled = enabled; }
+    void AddItem(int control, unsigned label, std::int32_t value) override {
+        controls[control].items.push_back({std::to_wstring(label), value});
+    }
+    int Selection(int control) const override { return controls.at(control).selection; }
+    void SetSelection(int control, int index) override { controls[control].selection = index; }
+    int ItemCount(int control) const override {
+        return static_cast<int>(controls.at(control).items.size());
+    }
+    std::int32_t ItemValue(int control, int index) const override {
+        return controls.at(control).items.at(index).value;
+    }
+    std::wstring ItemText(int control, int index) const override {
+        return controls.at(control).items.at(index).text;
+    }
+};
+
+class FakeValues : public PageValues {
+  public:
+    std::map<std::wstring, std::uint32_t> stored;
+    std::vector<std::wstring> readOrder;
+
+    std::uint32_t Read(const NumberSetting& setting) override {
+        readOrder.push_back(setting.name);
+        return stored.emplace(setting.name, setting.defaultValue).first->second;
+    }
+    void Write(const NumberSetting& setting, std::uint32_t value) override {
+        stored[setting.name] = value;
+    }
+};
+
+constexpr NumberSetting kFirst{L"First", 1};
+constexpr NumberSetting kSecond{L"Second", 0};
+
+struct Page {
+    FakeControls controls;
+    FakeValues values;
+    CDiarySettings shared;
+};
+
+TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
+    Page page;
+    page.values.stored[L"Second"] = 5;  // Any number but 0 shows as checked.
+    page.shared.keypadNoBackspace = 1;
+    PageRows rows({rows::Check(1, kSecond), rows::Check(2, kFirst),
+                   rows::InvertedCheck(3, &CDiarySettings::keypadNoBackspace)});
+    rows.Load(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.readOrder, (std::vector<std::wstring>{L"Second", L"First"}));
+    EXPECT_TRUE(page.controls.IsChecked(1));
+    EXPECT_TRUE(page.controls.IsChecked(2));
+    EXPECT_FALSE(page.controls.IsChecked(3));
+    EXPECT_TRUE(rows.HasSharedRows());
+
+    page.controls.SetChecked(2, false);
+    page.controls.SetChecked(3, true);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.stored[L"Second"], 1u);  // A check box stores exactly 0 or 1.
+    EXPECT_EQ(page.values.stored[L"First"], 0u);
+    EXPECT_EQ(page.shared.keypadNoBackspace, 0);
+}
+
+TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
+    struct Case {
+        Row::Kind kind;
+        std::uint32_t stored;
+        int selection;        // after loading
+        std::uint32_t saved;  // untouched
+    };
+    const std::vector<FakeControls::Item> fixed = {{L"1"}, {L"7"}, {L"14"}, {L"x"}};
+    for (const Case& c : {
+             Case{Row::Kind::kIndex, 0, 0, 0}, Case{Row::Kind::kIndex, 3, 3, 3},
+             Case{Row::Kind::kIndex, 4, -1, 4}, Case{Row::Kind::kIndex, 0xFFFFFFFF, -1, 0xFFFFFFFF},
+             Case{Row::Kind::kNumberText, 7, 1, 7}, Case{Row::Kind::kNumberText, 14, 2, 14},
+             Case{Row::Kind::kNumberText, 8, -1, 8},
+             Case{Row::Kind::kNumberText, 0xFFFFFFF9, -1, 0xFFFFFFF9},
+             Case{Row::Kind::kChoice, 0, 0, 0}, Case{Row::Kind::kChoice, 3, 3, 3},
+             Case{Row::Kind::kChoice, 99, 0,
+                  0},  // A value/label list falls back to its first entry.
+         }) {
+        Page page;
+        if (c.kind != Row::Kind::kChoice) page.controls.controls[1].items = fixed;
+        page.values.stored[L"First"] = c.stored;
+        PageRows rows({{c.kind, 1, kFirst, nullptr, kTaskPlacements}});
+        rows.Load(page.controls, page.values, page.shared);
+        EXPECT_EQ(page.controls.Selection(1), c.selection) << c.stored;
+        rows.Save(page.controls, page.values, page.shared);
+        EXPECT_EQ(page.values.stored[L"First"], c.saved) << c.stored;
+    }
+}
+
+TEST(PageRows, SelectedEntriesAreStored) {
+    Page page;
+    page.controls.controls[1].items = {{L"1"}, {L"7"}, {L"123456789012"}};
+    PageRows rows({rows::NumberText(1, &CDiarySettings::groupSpan),
+                   rows::Choice(2, &CDiarySettings::specialPeriod, kSpecialPeriods)});
+    rows.Load(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.controls.Selection(2), 3);  // 0 stands fourth.
+    page.controls.SetSelection(1, 1);
+    page.controls.SetSelection(2, 4);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.shared.groupSpan, 7);
+    EXPECT_EQ(page.shared.specialPeriod, 4);
+    page.controls.SetSelection(1, 2);  // No number that fits.
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.shared.groupSpan, 0);
+}
+
+// Switch 1 enables and keeps box 2, and enables list 3.
+class KeptRows : public ::testing::Test {
+  protected:
+    void Load(bool on, bool kept) {
+        page.values.stored = {{L"First", on}, {L"Second", kept}};
+        rows.Load(page.controls, page.values, page.shared);
+        rows.UpdateEnabled(page.controls);
+    }
+    void Click(int control, bool checked) {
+        page.controls.SetChecked(control, checked);
+        rows.UpdateEnabled(page.controls);
+    }
+    std::uint32_t SavedKept() {
+        rows.Save(page.controls, page.values, page.shared);
+        return page.values.stored[L"Second"];
+    }
+
+    Page page;
+    PageRows rows{{rows::Check(1, kFirst), rows::Check(2, kSecond).KeptWhileOff(1),
+                   rows::Choice(3, &CDiarySettings::taskPlacement, kTaskPlacements).EnabledBy(1)}};
+};
+
+TEST_F(KeptRows, SwitchingOffEmptiesAndSwitchingOnBringsBack) {
+    Load(true, true);
+    EXPECT_TRUE(page.controls.controls[2].enabled);
+    Click(1, false);
+    EXPECT_FALSE(page.controls.controls[2].enabled);
+    EXPECT_FALSE(page.controls.controls[3].enabled);
+    EXPECT_FALSE(page.controls.IsChecked(2));
+    EXPECT_EQ(SavedKept(), 1u);
+    Click(1, true);
+    EXPECT_TRUE(page.controls.IsChecked(2));
+    EXPECT_TRUE(page.controls.controls[3].enabled);
+    EXPECT_EQ(SavedKept(), 1u);
+}
+
+TEST_F(KeptRows, SavedWhileOffIsWhatWasLoaded) {
+    Load(true, true);
+    Click(2, false);
+    Click(1, false);
+    EXPECT_EQ(SavedKept(), 1u);
+    Click(1, true);
+    EXPECT_FALSE(
+        page.controls.IsChecked(2));  // The user's last mark comes back, not the stored one.
+    EXPECT_EQ(SavedKept(), 0u);
+}
+
+TEST_F(KeptRows, LoadedOffShowsEmptyAndKeeps) {
+    Load(false, true);
+    EXPECT_FALSE(page.controls.IsChecked(2));
+    EXPECT_FALSE(page.controls.controls[2].enabled);
+    rows.UpdateEnabled(page.controls);  // Clicking elsewhere loses nothing.
+    EXPECT_EQ(SavedKept(), 1u);
+    Click(1, true);
+    EXPECT_TRUE(page.controls.IsChecked(2));
+}
+
+}  // namespace
