@@ -16,6 +16,7 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"menu_worker";
 constexpr UINT_PTR kParentSubclass = 1;
+constexpr UINT kSettle = WM_APP;
 // Menus have no command of their own; their buttons get ids that no program uses.
 constexpr int kFirstMenuButton = 0xF000;
 
@@ -78,6 +79,7 @@ class MenuBar {
                 delete bar;
                 return 0;
             case WM_PAINT: bar->Paint(hwnd); return 0;
+            case kSettle: bar->Settle(); return 0;
             case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
             case WM_LBUTTONDOWN:
                 bar->Press(bar->ButtonAt(static_cast<short>(LOWORD(lParam))));
@@ -124,13 +126,19 @@ class MenuBar {
         return DefSubclassProc(hwnd, message, wParam, lParam);
     }
 
-    // A page's bar shows only while its page does, and then stands over all others.
-    void ShowWithParent() {
-        const bool visible = IsWindowVisible(parent_);
-        if (!visible && !IsWindowVisible(hwnd_)) return;
-        SetWindowPos(
-            hwnd_, HWND_TOPMOST, 0, 0, 0, 0,
-            SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | (visible ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+    // A page's bar shows only while its page does, and then stands over all others. That is settled by a
+    // message of the bar's own, behind whatever the windows below are still being told.
+    void ShowWithParent() { PostMessageW(hwnd_, kSettle, 0, 0); }
+
+    void Settle() {
+        constexpr UINT kFlags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+        if (!IsWindowVisible(parent_)) {
+            SetWindowPos(hwnd_, nullptr, 0, 0, 0, 0, kFlags | SWP_NOZORDER | SWP_HIDEWINDOW);
+            return;
+        }
+        // A window that is on top already would not be raised again.
+        SetWindowPos(hwnd_, HWND_NOTOPMOST, 0, 0, 0, 0, kFlags);
+        SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, kFlags | SWP_SHOWWINDOW);
     }
 
     Button* Find(int id) {

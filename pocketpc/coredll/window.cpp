@@ -23,6 +23,8 @@ extern "C" HWND WINAPI Pocket_CreateWindowExW(DWORD extendedStyle, LPCWSTR class
                                               DWORD style, int x, int y, int width, int height,
                                               HWND parent, HMENU menu, HINSTANCE instance,
                                               LPVOID parameter) {
+    // A program's main window has no caption of its own: the navigation bar shows its title.
+    if (!parent && !(style & (WS_CHILD | WS_POPUP))) style = (style & ~WS_CAPTION) | WS_POPUP;
     return CreateWindowExW(extendedStyle & ~kMdiChild, className, title, style, x, y, width, height,
                            parent, menu, instance, parameter);
 }

@@ -1,0 +1,90 @@
+#include "app/dialog_init.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+using Target = DialogInitRecord::Target;
+
+// One record: control 0x0C80, `message`, "Hi".
+Bytes Hi(std::uint16_t message) {
+    return {0x80,
+            0x0C,
+            static_cast<std::uint8_t>(message & 0xFF),
+            static_cast<std::uint8_t>(message >> 8),
+            6,
+            0,
+            0,
+            0,
+            'H',
+            0,
+            'i',
+            0,
+            0,
+            0};
+}
+
+Bytes operator+(Bytes left, const Bytes& right) {
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+const Bytes kEnd = {0, 0};
+
+TEST(DialogInit, MessagesTellTheKindOfList) {
+    struct Case {
+        std::uint16_t message;
+        Target target;
+    };
+    for (const Case& c :
+         {Case{0x0403, Target::kComboBox}, Case{0x0143, Target::kComboBox},
+          Case{0x0401, Target::kListBox}, Case{0x0180, Target::kListBox},
+          Case{0x1234, Target::kNone}, Case{0x0000, Target::kNone}, Case{0x4301, Target::kNone}}) {
+        const std::vector<DialogInitRecord> records = ParseDialogInit(Hi(c.message) + kEnd);
+        ASSERT_EQ(records.size(), 1u) << c.message;
+        EXPECT_EQ(records[0].controlId, 0x0C80);
+        EXPECT_EQ(records[0].target, c.target) << c.message;
+        EXPECT_EQ(records[0].text, c.target == Target::kNone ? L"" : L"Hi");
+    }
+}
+
+TEST(DialogInit, TextEndsAtItsTerminatorOrItsData) {
+    struct Case {
+        Bytes data;
+        std::wstring text;
+    };
+    for (const Case& c : {Case{{}, L""}, Case{{0, 0}, L""}, Case{{'a', 0, 0, 0, 'b', 0}, L"a"},
+                          Case{{'a', 0, 'b', 0}, L"ab"}, Case{{'a', 0, 'b'}, L"a"},
+                          Case{{0x10, 0x04, 0x3D, 0xD8, 0x00, 0xDE}, L"\x0410\xD83D\xDE00"}}) {
+        const Bytes head = {1, 0, 0x43, 0x01, static_cast<std::uint8_t>(c.data.size()), 0, 0, 0};
+        const std::vector<DialogInitRecord> records = ParseDialogInit(head + c.data + Hi(0x143));
+        ASSERT_EQ(records.size(), 2u);
+        EXPECT_EQ(records[0].text, c.text);
+        EXPECT_EQ(records[1].text, L"Hi");
+    }
+}
+
+TEST(DialogInit, ControlZeroEndsTheList) {
+    EXPECT_EQ(ParseDialogInit(Hi(0x143) + kEnd + Hi(0x143)).size(), 1u);
+    EXPECT_TRUE(ParseDialogInit(kEnd).empty());
+    EXPECT_TRUE(ParseDialogInit({}).empty());
+}
+
+TEST(DialogInit, ACutRecordEndsTheList) {
+    const Bytes whole = Hi(0x143) + Hi(0x180);
+    for (std::size_t size = 0; size <= whole.size(); ++size) {
+        // A copy, so that a read past its end is seen.
+        const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
+        EXPECT_EQ(ParseDialogInit(cut).size(), size / Hi(0x143).size()) << size;
+    }
+    // Sizes that would wrap a 32-bit position.
+    for (const std::uint8_t high : {0x7F, 0x80, 0xFF}) {
+        EXPECT_TRUE(ParseDialogInit(Bytes{1, 0, 0x43, 1, 0xF8, 0xFF, 0xFF, high, 'a', 0}).empty());
+    }
+}
+
+}  // namespace

@@ -1,0 +1,184 @@
+#include "app/language_file.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+using Entries = std::vector<LanguageEntry>;
+
+Bytes Utf16(std::wstring_view text) {
+    Bytes bytes = {0xFF, 0xFE};
+    for (const wchar_t c : text) {
+        bytes.push_back(static_cast<std::uint8_t>(c & 0xFF));
+        bytes.push_back(static_cast<std::uint8_t>(c >> 8 & 0xFF));
+    }
+    return bytes;
+}
+
+Bytes EightBit(std::string_view text) { return {text.begin(), text.end()}; }
+
+// Readable failures: "source=translation;" for each entry.
+std::string Shown(const Entries& entries) {
+    std::string shown;
+    const auto append = [&shown](const std::wstring& text) {
+        for (const wchar_t c : text) {
+            shown += c >= ' ' && c < 0x7F ? std::string(1, static_cast<char>(c))
+                                          : "{" + std::to_string(static_cast<unsigned>(c)) + "}";
+        }
+    };
+    for (const LanguageEntry& entry : entries) {
+        append(entry.source);
+        shown += '=';
+        append(entry.translation);
+        shown += ';';
+    }
+    return shown;
+}
+
+TEST(LanguageFile, ReadsLinesFieldsAndEscapes) {
+    using namespace std::string_view_literals;
+    struct Case {
+        std::wstring_view text;
+        std::string entries;
+    };
+    for (const Case& c : {
+             Case{L"", ""},
+             Case{L"Cancel|Abbrechen", "Cancel=Abbrechen;"},
+             Case{L"a|b\r\nc|d\r\n", "a=b;c=d;"},
+             Case{L"a|b\rc|d\r", "a=b;c=d;"},
+             Case{L"a|b\nc|d\n", "a=b;c=d;"},
+             Case{L"\r\n\r\na|b\r\n\r\n\r\nc|d", "a=b;c=d;"},
+             Case{L"$$$$$$$$ NEW FILE $$$$$$$\r\na|\r\nb|\r\n",
+                  "$$$$$$$$ NEW FILE $$$$$$$=;a=;b=;"},
+             // Without a bar a line ends all the same.
+             Case{L"alone\r\na|b", "alone=;a=b;"},
+             Case{L"alone\na|b", "alone=;a=b;"},
+             Case{L"alone\ra|b", "alone=;a=b;"},
+             Case{L"alone", "alone=;"},
+             // Behind a second bar the next entry begins.
+             Case{L"a|b|c|d\r\ne|f", "a=b;c=d;e=f;"},
+             Case{L"a|b|\r\nc|d", "a=b;c=d;"},
+             Case{L"a||b|c", "a=;b=c;"},
+             Case{L"|x\r\ny|z", "x=;y=z;"},
+             // Escapes.
+             Case{L"1\\n2|eins\\nzwei", "1{10}2=eins{10}zwei;"},
+             Case{L"a\\r\\nb|c", "a{13}{10}b=c;"},
+             Case{L"a\\|b|c\\|d", "a|b=c|d;"},
+             Case{L"\\\\|\\\\n", "\\=\\n;"},
+             Case{L"\\t\\N\\'|x", "tN'=x;"},
+             Case{L"a\\\nb|c\\\rd\ne|f", "a{10}b=c{13}d;e=f;"},
+             // A backslash with nothing behind it is nothing.
+             Case{L"a|b\\", "a=b;"},
+             Case{L"a\\", "a=;"},
+             Case{L"\\", ""},
+             // The text ends at a NUL, escaped or not.
+             Case{L"a|b\0c|d\ne|f"sv, "a=b;"},
+             Case{L"a|b\\\0c"sv, "a=b;"},
+             Case{L"\0a|b"sv, ""},
+             Case{L"a|b\n\0c|d"sv, "a=b;"},
+             // Units above the 8-bit range, halves of pairs among them, are characters like others.
+             Case{L"\x0410|\xD83D\xDE00\x017C"
+                  L"0\xD83D",
+                  "{1040}={55357}{56832}{380}0{55357};"},
+             Case{L"\xFF7C|\x0A0D\x0D0A", "{65404}={2573}{3338};"},
+         }) {
+        EXPECT_EQ(Shown(ParseLanguageFile(Utf16(c.text))), c.entries) << c.entries;
+    }
+}
+
+TEST(LanguageFile, ReadsBytesWithoutMarkAsCharacters) {
+    using namespace std::string_view_literals;
+    struct Case {
+        std::string_view bytes;
+        std::string entries;
+    };
+    for (const Case& c : {
+             Case{"Cancel|Abbrechen\r\nOK|Gut\r\n", "Cancel=Abbrechen;OK=Gut;"},
+             Case{"caf\xE9|\x80\xFF", "caf{233}={128}{255};"},
+             Case{"\xC3\xA9|x", "{195}{169}=x;"},
+             // Entries that can never match are kept.
+             Case{"|x\n\ny|z", "=;x=;y=z;"},
+             Case{"a|b\n\n\n\nc|d", "a=b;=;c=d;"},
+             Case{"\n", "=;"},
+             // UTF-16 without or with the other mark ends at its first high byte of 0.
+             Case{"C\0a\0|\0A\0"sv, "C=;"},
+             Case{"\xFE\xFF\0C\0|\0A"sv, "{254}{255}=;"},
+             // Too short for a mark.
+             Case{"a", "a=;"},
+             Case{"\xFF", "{255}=;"},
+             Case{"", ""},
+         }) {
+        EXPECT_EQ(Shown(ParseLanguageFile(EightBit(c.bytes))), c.entries) << c.entries;
+    }
+}
+
+TEST(LanguageFile, LeavesAnOddByteAtTheEndOfUtf16) {
+    for (const Bytes& bytes : {Bytes{0xFF, 0xFE}, Bytes{0xFF, 0xFE, 'x'}}) {
+        EXPECT_TRUE(ParseLanguageFile(bytes).empty());
+    }
+    Bytes bytes = Utf16(L"a|b");
+    bytes.push_back('c');
+    EXPECT_EQ(Shown(ParseLanguageFile(bytes)), "a=b;");
+}
+
+// A line has room for 4094 characters; what stands behind them is a line of its own.
+TEST(LanguageFile, CutsLongLines) {
+    const auto x = [](std::size_t count) { return std::wstring(count, L'x'); };
+    struct Case {
+        std::wstring text;
+        Entries entries;
+    };
+    const Case cases[] = {
+        {x(4092) + L"|t", {{x(4092), L"t"}}},
+        {x(4092) + L"|tu", {{x(4092), L"t"}, {L"u", L""}}},
+        {x(4093) + L"|t", {{x(4093), L""}, {L"t", L""}}},
+        {x(4094) + L"|t", {{x(4094), L""}, {L"t", L""}}},
+        {L"s|" + x(5000) + L"\nnext|t", {{L"s", x(4092)}, {x(908), L""}, {L"next", L"t"}}},
+        {x(10000) + L"|t\na|b", {{x(4094), L""}, {x(4094), L""}, {x(1812), L"t"}, {L"a", L"b"}}},
+        // Escapes take their room as they are written.
+        {x(4092) + L"\\n|t", {{x(4092) + L"\n", L""}, {L"t", L""}}},
+        {x(4093) + L"\\n|t", {{x(4093), L""}, {L"n", L"t"}}},
+        // A line break that the end of the room divides.
+        {x(4093) + L"\r\na|b", {{x(4093), L""}, {L"a", L"b"}}},
+        {x(4094) + L"\r\na|b", {{x(4094), L""}, {L"a", L"b"}}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(ParseLanguageFile(Utf16(c.text)), c.entries) << Shown(c.entries);
+    }
+    // The room begins anew with each line.
+    const std::wstring line = x(4000) + L"|y\r\n";
+    EXPECT_EQ(ParseLanguageFile(Utf16(line + line)), (Entries{{x(4000), L"y"}, {x(4000), L"y"}}));
+}
+
+TEST(LanguageFile, ReadsFilesOfManyMegabytes) {
+    std::wstring lines;
+    for (int i = 0; i < 200000; ++i) lines += L"text " + std::to_wstring(i) + L"|Text\r\n";
+    const Entries entries = ParseLanguageFile(Utf16(lines));
+    ASSERT_EQ(entries.size(), 200000u);
+    EXPECT_EQ(entries.back(), (LanguageEntry{L"text 199999", L"Text"}));
+
+    const Entries pieces = ParseLanguageFile(Bytes(5000000, 'x'));
+    ASSERT_EQ(pieces.size(), 1222u);
+    EXPECT_EQ(pieces.back().source.size(), 5000000u - 1221 * 4094);
+}
+
+TEST(LanguageFile, EscapesWhatAFieldCannotHold) {
+    EXPECT_EQ(EscapeLanguageText(L""), L"");
+    EXPECT_EQ(EscapeLanguageText(L"Total: 5\t%s"), L"Total: 5\t%s");
+    EXPECT_EQ(EscapeLanguageText(L"a\r\nb|c\\n"), L"a\\r\\nb\\|c\\\\n");
+}
+
+TEST(LanguageFile, TemplateListsTextsWithoutTranslations) {
+    EXPECT_EQ(LanguageTemplateText({}), L"$$$$$$$$ NEW FILE $$$$$$$\r\n");
+    const std::wstring texts[] = {L"Cancel", L"Two\nlines", L"a|b\\"};
+    const std::wstring file = LanguageTemplateText(texts);
+    EXPECT_EQ(file, L"$$$$$$$$ NEW FILE $$$$$$$\r\nCancel|\r\nTwo\\nlines|\r\na\\|b\\\\|\r\n");
+    EXPECT_EQ(Shown(ParseLanguageFile(Utf16(file))),
+              "$$$$$$$$ NEW FILE $$$$$$$=;Cancel=;Two{10}lines=;a|b\\=;");
+}
+
+}  // namespace

@@ -1,0 +1,102 @@
+# Wine prefixes, displays and device folders, as functions to be sourced. Needs ROOT, the checkout.
+#
+# A prefix takes seconds to make, so one template per density is made once and cloned. A session needs its
+# display from the start, and a server that stays, or every program would wait for the server's services.
+
+WINE_DIR=$ROOT/build/wine
+export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=,winemenubuilder.exe=d" LC_ALL=C.UTF-8
+
+# Changes with what make_template does, so that an older template is made anew.
+TEMPLATE_VERSION=1
+
+quietly() { "$@" </dev/null >/dev/null 2>&1; }
+
+reg_add() { # KEY NAME TYPE DATA
+    quietly wine reg add "$1" /v "$2" /t "$3" /d "$4" /f
+}
+
+make_template() {
+    local template=$WINE_DIR/template-96 fonts=/usr/share/wine/fonts
+    [ "$(cat "$WINE_DIR/version" 2>/dev/null)" = "$TEMPLATE_VERSION" ] && return
+    say "Making the Wine prefix (some seconds, once)"
+    rm -rf "$WINE_DIR"
+    mkdir -p "$WINE_DIR/home"
+    export WINEPREFIX=$template
+    # Documents, Desktop and the like are links into the home folder.
+    HOME=$WINE_DIR/home quietly wineboot -i
+    quietly wineserver -w
+    # The device's system font, and the symbols of check boxes and scroll bars.
+    cp "$fonts"/{tahoma,tahomabd,marlett,symbol}.ttf "$template/drive_c/windows/Fonts/"
+    quietly wineserver -p
+    # Without a window manager Wine waits whenever a managed window goes.
+    reg_add 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N
+    reg_add 'HKCU\Software\Microsoft\Windows\CurrentVersion\ThemeManager' ThemeActive REG_SZ 0
+    # A crash ends the program at once instead of asking.
+    reg_add 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
+    quietly wineserver -k
+    quietly wineserver -w
+    clone_prefix "$template" "$WINE_DIR/template-192"
+    export WINEPREFIX=$WINE_DIR/template-192
+    quietly wineserver -p
+    reg_add 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD 192
+    quietly wineserver -k
+    quietly wineserver -w
+    echo "$TEMPLATE_VERSION" >"$WINE_DIR/version"
+}
+
+clone_prefix() { # FROM TO: shares the system's files, which nobody writes, and copies the registry.
+    rm -rf "$2"
+    cp -al "$1" "$2"
+    cp --remove-destination "$1"/*.reg "$2/"
+    cp -a --remove-destination "$1/dosdevices/." "$2/dosdevices/"
+}
+
+start_display() { # WIDTHxHEIGHT
+    local number=$WINE_DIR/display-$$
+    Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp 3>"$number" </dev/null >/dev/null 2>&1 &
+    XVFB_PID=$!
+    local tries=0
+    until [ -s "$number" ]; do
+        sleep 0.05
+        tries=$((tries + 1))
+        [ $tries -lt 200 ] || fail "No virtual display could be started"
+    done
+    DISPLAY=:$(cat "$number")
+    export DISPLAY
+    rm -f "$number"
+}
+
+start_session() { # NAME DPI DEVICE: a clone of its own with the device as drive P:
+    export WINEPREFIX=$WINE_DIR/$1
+    [ -d "$WINEPREFIX" ] || clone_prefix "$WINE_DIR/template-$2" "$WINEPREFIX"
+    ln -sfn "$(realpath "$3")" "$WINEPREFIX/dosdevices/p:"
+    quietly wineserver -p
+    reg_add 'HKCU\Software\PocketPC Devices\Default\HKEY_LOCAL_MACHINE\SOFTWARE\Apps\Lum Diary' \
+        InstallDir REG_SZ '\Program Files\Lum Diary'
+}
+
+end_session() {
+    quietly wineserver -k || true
+    quietly wineserver -w || true
+}
+
+end_display() {
+    [ -z "${XVFB_PID:-}" ] || kill "$XVFB_PID" 2>/dev/null || true
+    XVFB_PID=
+}
+
+# A device: the folders and files that an owner's device has. What the build makes is brought up to date.
+furnish_device() { # DEVICE BIN
+    local install="$1/Program Files/Lum Diary"
+    mkdir -p "$install" "$1/Windows" "$1/My Documents"
+    cp -u "$2/DiaryRes.Dll" "$ROOT/help/LumDiary.htm" "$install/"
+    cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$1/Windows/"
+    [ -f "$1/device.ini" ] ||
+        printf '[device]\r\nhive=Default\r\nversion=5.2.19208\r\nplatform=PocketPC\r\n' >"$1/device.ini"
+}
+
+on_device() { # DEVICE PROGRAM ARGUMENTS...: runs a program with the device as current drive
+    local device=$1
+    shift
+    (cd "$device" && WINEPATH=${WINEPATH:-} wine "$@")
+}
