@@ -16,7 +16,8 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"menu_worker";
 constexpr UINT_PTR kParentSubclass = 1;
-constexpr UINT kSettle = WM_APP;
+constexpr UINT_PTR kSettleTimer = 1;
+constexpr UINT kSettleMilliseconds = 30;
 // Menus have no command of their own; their buttons get ids that no program uses.
 constexpr int kFirstMenuButton = 0xF000;
 
@@ -79,7 +80,10 @@ class MenuBar {
                 delete bar;
                 return 0;
             case WM_PAINT: bar->Paint(hwnd); return 0;
-            case kSettle: bar->Settle(); return 0;
+            case WM_TIMER:
+                KillTimer(hwnd, kSettleTimer);
+                bar->Settle();
+                return 0;
             case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
             case WM_LBUTTONDOWN:
                 bar->Press(bar->ButtonAt(static_cast<short>(LOWORD(lParam))));
@@ -126,9 +130,9 @@ class MenuBar {
         return DefSubclassProc(hwnd, message, wParam, lParam);
     }
 
-    // A page's bar shows only while its page does, and then stands over all others. That is settled by a
-    // message of the bar's own, behind whatever the windows below are still being told.
-    void ShowWithParent() { PostMessageW(hwnd_, kSettle, 0, 0); }
+    // A page's bar shows only while its page does, and then stands over all others. That is settled a
+    // moment later, when the desktop, too, has done with raising the window below.
+    void ShowWithParent() { SetTimer(hwnd_, kSettleTimer, kSettleMilliseconds, nullptr); }
 
     void Settle() {
         constexpr UINT kFlags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;

@@ -50,6 +50,13 @@ typedef struct tagSHACTIVATEINFO {
 #define SHCMBM_GETSUBMENU 0x0591
 #define SHCMBM_GETMENU 0x0592
 
+typedef enum tagSHUIMETRIC {
+    SHUIM_INVALID = 0,
+    SHUIM_FONTSIZE_POINT,       // hundredths of a point
+    SHUIM_FONTSIZE_PIXEL,       // pixels of this screen
+    SHUIM_FONTSIZE_PERCENTAGE,  // of the usual size
+} SHUIMETRIC;
+
 EXTERN_C BOOL WINAPI SHInitExtraControls(void);
 EXTERN_C BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info);
 EXTERN_C HWND WINAPI SHFindMenuBar(HWND parent);
@@ -59,3 +66,5 @@ EXTERN_C BOOL WINAPI SHHandleWMActivate(HWND hwnd, WPARAM wParam, LPARAM lParam,
                                         SHACTIVATEINFO* info, DWORD flags);
 EXTERN_C BOOL WINAPI SHHandleWMSettingChange(HWND hwnd, WPARAM wParam, LPARAM lParam,
                                              SHACTIVATEINFO* info);
+// Each metric is a DWORD. Missing on devices older than 4.21: to be looked up by name.
+EXTERN_C HRESULT WINAPI SHGetUIMetrics(SHUIMETRIC metric, void* buffer, DWORD size, DWORD* needed);
