@@ -1,0 +1,151 @@
+# Driving the program on a virtual display and taking pictures of it; functions to be sourced after
+# wine.sh. Needs BIN, the folder of the built programs.
+
+start_today() { # DEVICE
+    (cd "$1" && quietly wine "$BIN/today.exe") &
+    await_window Desktop
+}
+
+start_program() { # DEVICE ARGUMENTS...
+    local device=$1
+    shift
+    (cd "$device" && quietly wine "$BIN/DiarySettings.exe" "$@") &
+    PROGRAM_PID=$!
+}
+
+await_window() { # TITLE
+    local tries=0
+    until xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1; do
+        sleep 0.05
+        tries=$((tries + 1))
+        [ $tries -lt 400 ] || fail "The window \"$1\" did not appear"
+    done
+}
+
+# A picture of the screen once it has stopped changing.
+take_picture() { # FILE
+    local previous='' current=''
+    for _ in $(seq 40); do
+        sleep 0.15
+        current=$(import -display "$DISPLAY" -window root -depth 8 rgb:- | md5sum)
+        [ "$current" != "$previous" ] || break
+        previous=$current
+    done
+    mkdir -p "$(dirname "$1")"
+    import -display "$DISPLAY" -window root "$1"
+}
+
+close_program() {
+    quietly wine "$BIN/device_send.exe" close
+    wait "$PROGRAM_PID" || true
+}
+
+# A fresh device on a display of its own, for the length of one picture-taking.
+open_stage() { # NAME DPI SIZE
+    STAGE=$ROOT/build/stage/$1
+    rm -rf "$STAGE" "${WINE_DIR:?}/$1"
+    furnish_device "$STAGE" "$BIN"
+    start_display "$3"
+    start_session "$1" "$2" "$STAGE"
+    trap 'end_session; end_display' EXIT
+    start_today "$STAGE"
+}
+
+close_stage() {
+    end_session
+    end_display
+    trap - EXIT
+    rm -rf "${WINE_DIR:?}/$(basename "$STAGE")" "$STAGE"
+}
+
+product_values() { # NAMES...
+    local name
+    for name in "$@"; do
+        wine reg query 'HKCU\Software\PocketPC Devices\Default\HKEY_LOCAL_MACHINE\Software\Lum Software House\Lum Diary' \
+            /v "$name" </dev/null 2>/dev/null | tr -d '\r' | grep "  $name " || echo "    $name is not there"
+    done
+}
+
+run_demo() { # OUTPUT
+    rm -rf "$1"
+    open_stage demo 96 240x320
+    local values=(CalendarShowTasks CalendarShowOverdueTasks App_TaskShowMultiday)
+    say "The registry before"
+    product_values "${values[@]}"
+    say "Starting the program"
+    start_program "$STAGE"
+    await_window 'Lum Diary Options'
+    take_picture "$1/1_main_screen.png"
+    say "Opening Calendar"
+    xdotool mousemove 117 60 click 1
+    await_window 'Calendar options'
+    take_picture "$1/2_calendar.png"
+    say "Turning to the tasks page"
+    xdotool mousemove 138 284 click 1
+    take_picture "$1/3_tasks_page.png"
+    say "Clearing \"Show tasks in the calendar\""
+    xdotool mousemove 80 67 click 1
+    take_picture "$1/4_cleared.png"
+    say "Tapping ok"
+    xdotool mousemove 224 13 click 1
+    take_picture "$1/5_after_ok.png"
+    say "Closing the program"
+    xdotool mousemove 224 13 click 1
+    wait "$PROGRAM_PID" || true
+    take_picture "$1/6_today.png"
+    say "The registry after"
+    product_values "${values[@]}"
+    say "What the plug-in received"
+    sed 's/^/    /' "$STAGE/today.log"
+    close_stage
+    say "Pictures of each step are in ${1#"$ROOT"/}"
+}
+
+# Entry, page and name of every page there is.
+GALLERY_PAGES=(
+    "0:0 general_auto_return"
+    "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
+    "2:0 tasks_common"
+    "6:0 special_events_common"
+)
+
+run_gallery() { # OUTPUT
+    rm -rf "$1"
+    local screen page
+    for screen in "portrait 96 240x320" "landscape 96 320x240" "double 192 480x640"; do
+        read -r name dpi size <<<"$screen"
+        say "Taking pictures of every page at $size pixels"
+        open_stage "gallery-$name" "$dpi" "$size"
+        start_program "$STAGE"
+        await_window 'Lum Diary Options'
+        take_picture "$1/$name/main_screen.png"
+        quietly wine "$BIN/device_send.exe" command 57664
+        await_window About
+        take_picture "$1/$name/about.png"
+        close_program
+        for page in "${GALLERY_PAGES[@]}"; do
+            start_program "$STAGE" "-P${page%% *}"
+            await_window '.* options'
+            take_picture "$1/$name/${page#* }.png"
+            close_program
+        done
+        close_stage
+    done
+    write_gallery_index "$1"
+    say "The pictures are in ${1#"$ROOT"/}"
+}
+
+write_gallery_index() { # OUTPUT
+    {
+        echo '<!DOCTYPE html><title>Every page</title>'
+        echo '<style>body{font-family:sans-serif}figure{display:inline-block;margin:8px}img{border:1px solid #888}</style>'
+        local screen picture
+        for screen in portrait landscape double; do
+            echo "<h1>$screen</h1>"
+            for picture in "$1/$screen"/*.png; do
+                picture=$screen/$(basename "$picture")
+                echo "<figure><img src=\"$picture\"><figcaption>$picture</figcaption></figure>"
+            done
+        done
+    } >"$1/index.html"
+}
