@@ -1,3 +1,12 @@
+# What uses the platform but no windows; the program and its tests link the same.
+add_library(diary_models STATIC
+  settings/device.cpp
+  settings/diary_settings.cpp
+  settings/install_path.cpp
+  settings/settings_key.cpp
+)
+target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings)
+
 # DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
 # them, as on the device everything binds to the system's own libraries.
 add_executable(DiarySettings WIN32
@@ -25,13 +34,9 @@ add_executable(DiarySettings WIN32
   pages/general_auto_return_page.cpp
   pages/special_events_common_page.cpp
   pages/tasks_common_page.cpp
-  settings/device.cpp
-  settings/diary_settings.cpp
-  settings/install_path.cpp
-  settings/settings_key.cpp
 )
 target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
 target_link_libraries(DiarySettings PRIVATE
-  diary_art diary_pure diary_warnings pocketpc_headers coredll aygshell commctrl richink
+  diary_art diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
   inkx)
 add_dependencies(DiarySettings DiaryRes)

@@ -50,7 +50,8 @@ using OwnedImageList = OwnedHandle<HIMAGELIST, HandleRelease>;
 // Owns an open file. CreateFileW says INVALID_HANDLE_VALUE, not null, when it fails.
 class OwnedFile {
   public:
-    explicit OwnedFile(HANDLE handle) : handle_(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
+    explicit OwnedFile(HANDLE handle)
+        : handle_(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
     HANDLE get() const { return handle_.get(); }
     explicit operator bool() const { return static_cast<bool>(handle_); }
 

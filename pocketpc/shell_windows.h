@@ -9,14 +9,17 @@ namespace shell {
 inline constexpr wchar_t kDoneButton[] = L"PocketPC.DoneButton";
 inline constexpr wchar_t kMenuBar[] = L"PocketPC.MenuBar";
 
+// A length in pixels of this screen, from one at 96 dots per inch.
+inline int Scale(int length) {
+    const HDC screen = GetDC(nullptr);
+    const int density = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return (length * density + 48) / 96;
+}
+
 // Height in pixels of the navigation bar at the top of the screen, and of the menu bar at its
 // bottom.
-inline int BarHeight() {
-    const HDC screen = GetDC(nullptr);
-    const int height = (26 * GetDeviceCaps(screen, LOGPIXELSY) + 48) / 96;
-    ReleaseDC(nullptr, screen);
-    return height;
-}
+inline int BarHeight() { return Scale(26); }
 
 // What lies between the two bars.
 inline RECT WorkArea() {
@@ -25,16 +28,22 @@ inline RECT WorkArea() {
 }
 
 inline HFONT CreateBarFont(int weight) {
-    const HDC screen = GetDC(nullptr);
     LOGFONTW font = {};
-    font.lfHeight = -(12 * GetDeviceCaps(screen, LOGPIXELSY) + 48) / 96;
-    ReleaseDC(nullptr, screen);
+    font.lfHeight = -Scale(12);
     font.lfWeight = weight;
     wcscpy(font.lfFaceName, L"Tahoma");
     return CreateFontIndirectW(&font);
 }
 
 inline constexpr COLORREF kBarColor = RGB(0x1C, 0x3F, 0x7C);
+inline constexpr COLORREF kBarPressedColor = RGB(0x4A, 0x74, 0xBA);
+inline constexpr COLORREF kBarLineColor = RGB(0x5B, 0x7F, 0xBE);
 inline constexpr COLORREF kBarTextColor = RGB(255, 255, 255);
+
+inline void FillColor(HDC dc, const RECT& area, COLORREF color) {
+    const HBRUSH brush = CreateSolidBrush(color);
+    FillRect(dc, &area, brush);
+    DeleteObject(brush);
+}
 
 }  // namespace shell

@@ -1,4 +1,6 @@
-// The menu bar at the bottom of the screen: one or two soft keys, each a command or a menu.
+// The menu bar at the bottom of the screen: soft keys, each a command or a menu.
+#include "pocketpc/aygshell/menu_bar.h"
+
 #include <windows.h>
 
 #include <commctrl.h>
@@ -6,6 +8,7 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pocketpc/aygshell/navigation_bar.h"
@@ -15,9 +18,7 @@
 namespace {
 
 constexpr wchar_t kClassName[] = L"menu_worker";
-constexpr UINT_PTR kParentSubclass = 1;
-constexpr UINT_PTR kSettleTimer = 1;
-constexpr UINT kSettleMilliseconds = 30;
+constexpr UINT kPress = WM_APP;  // wParam: index of the button
 // Menus have no command of their own; their buttons get ids that no program uses.
 constexpr int kFirstMenuButton = 0xF000;
 
@@ -29,13 +30,18 @@ class MenuBar {
         HMENU menu = nullptr;
     };
 
-    MenuBar(HWND parent, std::vector<Button> buttons, HMENU menu)
-        : parent_(parent), buttons_(std::move(buttons)), menu_(menu) {}
+    MenuBar(HWND parent, std::vector<Button> buttons, HMENU menu, bool hidden)
+        : parent_(parent), buttons_(std::move(buttons)), menu_(menu), hidden_(hidden) {
+        all_.push_back(this);
+    }
     ~MenuBar() {
+        std::erase(all_, this);
         if (menu_) DestroyMenu(menu_);
     }
     MenuBar(const MenuBar&) = delete;
     MenuBar& operator=(const MenuBar&) = delete;
+
+    static const std::vector<MenuBar*>& All() { return all_; }
 
     bool Create() {
         WNDCLASSW windowClass = {};
@@ -51,13 +57,31 @@ class MenuBar {
                             GetAncestor(parent_, GA_ROOT), nullptr, windowClass.hInstance, this);
         if (!hwnd_) return false;
         SetPropW(parent_, shell::kMenuBar, hwnd_);
-        SetWindowSubclass(parent_, ParentProcedure, kParentSubclass,
-                          reinterpret_cast<DWORD_PTR>(this));
-        ShowWithParent();
         return true;
     }
 
     HWND hwnd() const { return hwnd_; }
+
+    bool BelongsTo(HWND root) const { return root && GetAncestor(parent_, GA_ROOT) == root; }
+    bool IsWanted() const { return !hidden_ && IsWindowVisible(parent_); }
+
+    void Show(bool show) {
+        constexpr UINT kFlags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+        if (!show) {
+            if (!IsWindowVisible(hwnd_)) return;
+            SetWindowPos(hwnd_, nullptr, 0, 0, 0, 0, kFlags | SWP_NOZORDER | SWP_HIDEWINDOW);
+            return;
+        }
+        // A window that is on top already would not be raised again.
+        SetWindowPos(hwnd_, HWND_NOTOPMOST, 0, 0, 0, 0, kFlags);
+        SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, kFlags | SWP_SHOWWINDOW);
+    }
+
+    // Posted, so that a menu opens outside of the message that asked for it.
+    bool PostPress(int index) const {
+        if (index >= static_cast<int>(buttons_.size())) return false;
+        return PostMessageW(hwnd_, kPress, index, 0) != FALSE;
+    }
 
   private:
     static MenuBar* Of(HWND hwnd) {
@@ -74,20 +98,16 @@ class MenuBar {
         if (!bar) return DefWindowProcW(hwnd, message, wParam, lParam);
         switch (message) {
             case WM_NCDESTROY:
-                RemoveWindowSubclass(bar->parent_, ParentProcedure, kParentSubclass);
                 RemovePropW(bar->parent_, shell::kMenuBar);
                 SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
                 delete bar;
                 return 0;
             case WM_PAINT: bar->Paint(hwnd); return 0;
-            case WM_TIMER:
-                KillTimer(hwnd, kSettleTimer);
-                bar->Settle();
-                return 0;
             case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
             case WM_LBUTTONDOWN:
                 bar->Press(bar->ButtonAt(static_cast<short>(LOWORD(lParam))));
                 return 0;
+            case kPress: bar->Press(static_cast<int>(wParam)); return 0;
             case TB_BUTTONCOUNT: return static_cast<LRESULT>(bar->buttons_.size());
             case TB_GETBUTTON: return bar->GetButton(wParam, reinterpret_cast<TBBUTTON*>(lParam));
             case TB_GETBUTTONINFOW:
@@ -101,48 +121,14 @@ class MenuBar {
                 const Button* button = bar->Find(static_cast<int>(lParam));
                 return reinterpret_cast<LRESULT>(button ? button->menu : nullptr);
             }
+            case SHCMBM_SETSUBMENU: {
+                Button* button = bar->Find(static_cast<int>(wParam));
+                if (!button) return 0;
+                return reinterpret_cast<LRESULT>(
+                    std::exchange(button->menu, reinterpret_cast<HMENU>(lParam)));
+            }
         }
         return DefWindowProcW(hwnd, message, wParam, lParam);
-    }
-
-    static LRESULT CALLBACK ParentProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
-                                            UINT_PTR, DWORD_PTR data) {
-        auto* const bar = reinterpret_cast<MenuBar*>(data);
-        switch (message) {
-            case WM_NCDESTROY: DestroyWindow(bar->hwnd_); break;
-            case WM_WINDOWPOSCHANGED: {
-                const LRESULT result = DefSubclassProc(hwnd, message, wParam, lParam);
-                bar->ShowWithParent();
-                return result;
-            }
-            case WM_ACTIVATE:
-                if (LOWORD(wParam) != WA_INACTIVE) bar->ShowWithParent();
-                break;
-            case WM_SYSCOMMAND:
-                // F10 is the left soft key, with Shift the right one.
-                if ((wParam & 0xFFF0) == SC_KEYMENU && lParam == 0 && !bar->buttons_.empty()) {
-                    const bool right = GetKeyState(VK_SHIFT) < 0;
-                    bar->Press(right ? static_cast<int>(bar->buttons_.size()) - 1 : 0);
-                    return 0;
-                }
-                break;
-        }
-        return DefSubclassProc(hwnd, message, wParam, lParam);
-    }
-
-    // A page's bar shows only while its page does, and then stands over all others. That is settled a
-    // moment later, when the desktop, too, has done with raising the window below.
-    void ShowWithParent() { SetTimer(hwnd_, kSettleTimer, kSettleMilliseconds, nullptr); }
-
-    void Settle() {
-        constexpr UINT kFlags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
-        if (!IsWindowVisible(parent_)) {
-            SetWindowPos(hwnd_, nullptr, 0, 0, 0, 0, kFlags | SWP_NOZORDER | SWP_HIDEWINDOW);
-            return;
-        }
-        // A window that is on top already would not be raised again.
-        SetWindowPos(hwnd_, HWND_NOTOPMOST, 0, 0, 0, 0, kFlags);
-        SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, kFlags | SWP_SHOWWINDOW);
     }
 
     Button* Find(int id) {
@@ -188,6 +174,7 @@ class MenuBar {
         return TRUE;
     }
 
+    // Up to two buttons are soft keys, each with half of the bar; more share it equally.
     RECT ButtonRect(int index) const {
         RECT area;
         GetClientRect(hwnd_, &area);
@@ -204,7 +191,8 @@ class MenuBar {
     }
 
     void Press(int index) {
-        if (index < 0 || !IsWindowEnabled(parent_)) return;
+        if (index < 0 || index >= static_cast<int>(buttons_.size())) return;
+        if (!IsWindowEnabled(parent_)) return;
         const Button button = buttons_[index];
         if (!button.menu) {
             PostMessageW(parent_, WM_COMMAND, button.id, 0);
@@ -213,8 +201,17 @@ class MenuBar {
         RECT rect = ButtonRect(index);
         MapWindowPoints(hwnd_, nullptr, reinterpret_cast<POINT*>(&rect), 2);
         const bool right = index > 0;
+        const HWND self = hwnd_;
+        SetPressed(index);
         TrackPopupMenuEx(button.menu, TPM_BOTTOMALIGN | (right ? TPM_RIGHTALIGN : TPM_LEFTALIGN),
                          right ? rect.right : rect.left, rect.top, parent_, nullptr);
+        if (Of(self) == this) SetPressed(-1);  // The bar may have gone meanwhile.
+    }
+
+    void SetPressed(int index) {
+        pressed_ = index;
+        InvalidateRect(hwnd_, nullptr, FALSE);
+        UpdateWindow(hwnd_);
     }
 
     void Paint(HWND hwnd) {
@@ -222,27 +219,36 @@ class MenuBar {
         const HDC dc = BeginPaint(hwnd, &paint);
         RECT area;
         GetClientRect(hwnd, &area);
-        const HBRUSH background = CreateSolidBrush(shell::kBarColor);
-        FillRect(dc, &area, background);
-        DeleteObject(background);
+        shell::FillColor(dc, area, shell::kBarColor);
         const HFONT font = shell::CreateBarFont(FW_BOLD);
         const HGDIOBJ oldFont = SelectObject(dc, font);
         SetBkMode(dc, TRANSPARENT);
         SetTextColor(dc, shell::kBarTextColor);
+        const int line = shell::Scale(1);
+        const int margin = shell::Scale(5);
         for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
             RECT rect = ButtonRect(i);
+            if (i == pressed_) shell::FillColor(dc, rect, shell::kBarPressedColor);
+            if (i > 0) {
+                const RECT separator = {rect.left, margin, rect.left + line, rect.bottom - margin};
+                shell::FillColor(dc, separator, shell::kBarLineColor);
+            }
             DrawTextW(dc, buttons_[i].text.c_str(), -1, &rect,
-                      DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS);
+                      DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX);
         }
         SelectObject(dc, oldFont);
         DeleteObject(font);
         EndPaint(hwnd, &paint);
     }
 
+    static inline std::vector<MenuBar*> all_;
+
     HWND parent_;
     std::vector<Button> buttons_;
     HMENU menu_;
+    bool hidden_;
     HWND hwnd_ = nullptr;
+    int pressed_ = -1;
 };
 
 std::vector<MenuBar::Button> ButtonsOf(HMENU menu) {
@@ -261,6 +267,19 @@ std::vector<MenuBar::Button> ButtonsOf(HMENU menu) {
 
 }  // namespace
 
+void ShowMenuBarsOf(HWND root) {
+    for (MenuBar* menuBar : MenuBar::All()) {
+        menuBar->Show(menuBar->BelongsTo(root) && menuBar->IsWanted());
+    }
+}
+
+bool PressSoftKey(HWND root, int index) {
+    for (const MenuBar* menuBar : MenuBar::All()) {
+        if (menuBar->BelongsTo(root) && menuBar->IsWanted()) return menuBar->PostPress(index);
+    }
+    return false;
+}
+
 BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info) {
     if (!info || info->cbSize != sizeof *info || !IsWindow(info->hwndParent)) {
         SetLastError(ERROR_INVALID_PARAMETER);
@@ -274,9 +293,11 @@ BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info) {
         if (!menu) return FALSE;
     }
     ShowNavigationBar();
-    auto bar = std::make_unique<MenuBar>(info->hwndParent, ButtonsOf(menu), menu);
+    const bool hidden = (info->dwFlags & SHCMBF_HIDDEN) != 0;
+    auto bar = std::make_unique<MenuBar>(info->hwndParent, ButtonsOf(menu), menu, hidden);
     if (!bar->Create()) return FALSE;
     info->hwndMB = bar.release()->hwnd();  // From now on the window owns it.
+    ShowMenuBarsOf(WindowOnScreen());
     return TRUE;
 }
 

@@ -2,46 +2,74 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <cmath>
+
+#include "pocketpc/aygshell/menu_bar.h"
 #include "pocketpc/shell_windows.h"
 
 namespace {
 
 HWND bar = nullptr;
-HHOOK hook = nullptr;
 // Kept beside GetActiveWindow, which says nothing while a menu or another program has the focus.
-HWND shownWindow = nullptr;
+HWND activeWindow = nullptr;
+bool pressed = false;
 
 RECT OkButton() {
     const int height = shell::BarHeight();
-    const int width = GetSystemMetrics(SM_CXSCREEN);
-    const int margin = height / 8;
-    return {width - height - margin, margin, width - margin, height - margin};
+    const int size = height - 2 * shell::Scale(3);
+    const int right = GetSystemMetrics(SM_CXSCREEN) - shell::Scale(4);
+    const int top = (height - size) / 2;
+    return {right - size, top, right, top + size};
+}
+
+bool HasOkButton() {
+    return IsWindow(activeWindow) && GetPropW(activeWindow, shell::kDoneButton) != nullptr;
+}
+
+COLORREF Blend(COLORREF over, COLORREF under, double share) {
+    const auto channel = [share](int a, int b) {
+        return static_cast<BYTE>(std::lround(a * share + b * (1 - share)));
+    };
+    return RGB(channel(GetRValue(over), GetRValue(under)),
+               channel(GetGValue(over), GetGValue(under)),
+               channel(GetBValue(over), GetBValue(under)));
+}
+
+// A disc with a lighter rim. GDI draws no smooth circles, so each pixel is blended by its distance.
+void PaintDisc(HDC dc, const RECT& square, COLORREF fill) {
+    const double radius = (square.right - square.left) / 2.0;
+    const double rim = radius - std::max(1.0, radius / 8);
+    for (int y = square.top; y < square.bottom; ++y) {
+        for (int x = square.left; x < square.right; ++x) {
+            const double distance =
+                std::hypot(x + 0.5 - square.left - radius, y + 0.5 - square.top - radius);
+            const double inDisc = std::clamp(radius - distance, 0.0, 1.0);
+            const double inFace = std::clamp(rim - distance + 0.5, 0.0, 1.0);
+            const COLORREF color = Blend(fill, shell::kBarTextColor, inFace);
+            if (inDisc > 0) SetPixelV(dc, x, y, Blend(color, shell::kBarColor, inDisc));
+        }
+    }
 }
 
 void PaintMark(HDC dc, int height) {
     constexpr COLORREF kPetals[] = {RGB(0xF2, 0x8C, 0x28), RGB(0x6F, 0xB5, 0x3C),
                                     RGB(0x4A, 0x90, 0xD9), RGB(0xF2, 0xC4, 0x2E)};
     const int size = height / 4;
+    const int gap = shell::Scale(1);
     const int left = height / 4;
+    const int top = (height - 2 * size - gap) / 2;
     for (int i = 0; i < 4; ++i) {
-        const int x = left + (i % 2) * (size + 1);
-        const int y = height / 2 - size + (i / 2) * (size + 1);
-        const RECT petal = {x, y, x + size, y + size};
-        const HBRUSH brush = CreateSolidBrush(kPetals[i]);
-        FillRect(dc, &petal, brush);
-        DeleteObject(brush);
+        const int x = left + (i % 2) * (size + gap);
+        const int y = top + (i / 2) * (size + gap);
+        shell::FillColor(dc, {x, y, x + size, y + size}, kPetals[i]);
     }
 }
 
 void PaintOkButton(HDC dc) {
     RECT button = OkButton();
-    const HPEN pen = CreatePen(PS_SOLID, 1, shell::kBarTextColor);
-    const HGDIOBJ oldPen = SelectObject(dc, pen);
-    const HGDIOBJ oldBrush = SelectObject(dc, GetStockObject(NULL_BRUSH));
-    Ellipse(dc, button.left, button.top, button.right, button.bottom);
-    SelectObject(dc, oldBrush);
-    SelectObject(dc, oldPen);
-    DeleteObject(pen);
+    PaintDisc(dc, button, pressed ? shell::kBarPressedColor : shell::kBarColor);
+    OffsetRect(&button, 0, -shell::Scale(1));
     DrawTextW(dc, L"ok", -1, &button, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
 }
 
@@ -50,38 +78,55 @@ void Paint(HWND hwnd) {
     const HDC dc = BeginPaint(hwnd, &paint);
     RECT area;
     GetClientRect(hwnd, &area);
-    const HBRUSH background = CreateSolidBrush(shell::kBarColor);
-    FillRect(dc, &area, background);
-    DeleteObject(background);
+    shell::FillColor(dc, area, shell::kBarColor);
     PaintMark(dc, area.bottom);
     const HFONT font = shell::CreateBarFont(FW_BOLD);
     const HGDIOBJ oldFont = SelectObject(dc, font);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, shell::kBarTextColor);
     wchar_t title[256] = {};
-    if (IsWindow(shownWindow)) GetWindowTextW(shownWindow, title, 256);
-    RECT text = {area.bottom, 0, OkButton().left - area.bottom / 4, area.bottom};
+    if (IsWindow(activeWindow)) GetWindowTextW(activeWindow, title, 256);
+    RECT text = {area.bottom, 0, OkButton().left - shell::Scale(6), area.bottom};
     DrawTextW(dc, title, -1, &text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
-    if (IsWindow(shownWindow) && GetPropW(shownWindow, shell::kDoneButton)) PaintOkButton(dc);
     SelectObject(dc, oldFont);
     DeleteObject(font);
+    if (HasOkButton()) {
+        const HFONT small = shell::CreateBarFont(FW_NORMAL);
+        SelectObject(dc, small);
+        PaintOkButton(dc);
+        SelectObject(dc, oldFont);
+        DeleteObject(small);
+    }
     EndPaint(hwnd, &paint);
 }
 
-void Press(LPARAM position) {
+bool IsOnOkButton(LPARAM position) {
     const RECT button = OkButton();
     const POINT point = {static_cast<short>(LOWORD(position)),
                          static_cast<short>(HIWORD(position))};
-    if (!PtInRect(&button, point) || !IsWindow(shownWindow)) return;
-    if (!GetPropW(shownWindow, shell::kDoneButton) || !IsWindowEnabled(shownWindow)) return;
-    PostMessageW(shownWindow, WM_COMMAND, IDOK, 0);
+    return HasOkButton() && PtInRect(&button, point);
+}
+
+void SetPressed(bool value) {
+    if (pressed != value) RepaintNavigationBar();
+    pressed = value;
 }
 
 LRESULT CALLBACK BarProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT: Paint(hwnd); return 0;
-        case WM_LBUTTONUP: Press(lParam); return 0;
         case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
+        case WM_LBUTTONDOWN:
+            SetPressed(IsOnOkButton(lParam));
+            if (pressed) SetCapture(hwnd);
+            return 0;
+        case WM_LBUTTONUP:
+            if (pressed && IsOnOkButton(lParam) && IsWindowEnabled(activeWindow)) {
+                PostMessageW(activeWindow, WM_COMMAND, IDOK, 0);
+            }
+            if (GetCapture() == hwnd) ReleaseCapture();
+            return 0;
+        case WM_CAPTURECHANGED: SetPressed(false); return 0;
     }
     return DefWindowProcW(hwnd, message, wParam, lParam);
 }
@@ -90,18 +135,69 @@ LRESULT CALLBACK BarProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPa
 LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
     const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
     if (code == HC_ACTION && message.hwnd != bar) {
-        const bool child = (GetWindowLongW(message.hwnd, GWL_STYLE) & WS_CHILD) != 0;
-        if (message.message == WM_ACTIVATE && LOWORD(message.wParam) != WA_INACTIVE && !child) {
-            shownWindow = message.hwnd;
-            RepaintNavigationBar();
-        } else if (message.message == WM_SETTEXT && message.hwnd == shownWindow) {
-            RepaintNavigationBar();
+        switch (message.message) {
+            case WM_ACTIVATE:
+                if (LOWORD(message.wParam) != WA_INACTIVE) {
+                    activeWindow = message.hwnd;
+                    RepaintNavigationBar();
+                    ShowMenuBarsOf(WindowOnScreen());
+                }
+                break;
+            case WM_SETFOCUS:
+                // Where no window manager runs, Wine raises the focused window above topmost ones.
+                ShowMenuBarsOf(WindowOnScreen());
+                break;
+            case WM_SETTEXT:
+                if (message.hwnd == activeWindow) RepaintNavigationBar();
+                break;
+            case WM_WINDOWPOSCHANGED: {
+                constexpr UINT kVisibility = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
+                const auto& position = *reinterpret_cast<const WINDOWPOS*>(message.lParam);
+                if (position.flags & kVisibility && GetPropW(message.hwnd, shell::kMenuBar)) {
+                    ShowMenuBarsOf(WindowOnScreen());
+                }
+                break;
+            }
+            case WM_DESTROY:
+                if (const auto menuBar =
+                        static_cast<HWND>(GetPropW(message.hwnd, shell::kMenuBar))) {
+                    DestroyWindow(menuBar);
+                }
+                break;
         }
     }
-    return CallNextHookEx(hook, code, wParam, lParam);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// A device's two soft keys are its first function keys. The first one here is the help key, so F10,
+// the desktop's key for menus, takes its place.
+LRESULT CALLBACK BeforeKey(int code, WPARAM wParam, LPARAM lParam) {
+    constexpr LPARAM kReleased = LPARAM{1} << 31;
+    if (code == HC_ACTION && (wParam == VK_F10 || wParam == VK_F2)) {
+        GUITHREADINFO thread = {};
+        thread.cbSize = sizeof thread;
+        GetGUIThreadInfo(GetCurrentThreadId(), &thread);
+        const bool inMenu = (thread.flags & GUI_INMENUMODE) != 0;
+        const int index = wParam == VK_F10 ? 0 : 1;
+        if (!inMenu && !(lParam & kReleased) && PressSoftKey(WindowOnScreen(), index)) return 1;
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 }  // namespace
+
+HWND WindowOnScreen() {
+    const RECT workArea = shell::WorkArea();
+    HWND hwnd = IsWindow(activeWindow) ? activeWindow : nullptr;
+    while (hwnd) {
+        RECT area;
+        GetWindowRect(hwnd, &area);
+        const HWND owner = GetWindow(hwnd, GW_OWNER);
+        if (!owner || area.bottom - area.top >= workArea.bottom - workArea.top) break;
+        hwnd = owner;
+    }
+    return hwnd;
+}
 
 void ShowNavigationBar() {
     if (bar) return;
@@ -114,7 +210,9 @@ void ShowNavigationBar() {
     bar = CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"HHTaskBar", L"",
                           WS_POPUP, 0, 0, GetSystemMetrics(SM_CXSCREEN), shell::BarHeight(),
                           nullptr, nullptr, windowClass.hInstance, nullptr);
-    hook = SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
+    SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
+    SetWindowsHookExW(WH_KEYBOARD, BeforeKey, nullptr, GetCurrentThreadId());
+    activeWindow = GetActiveWindow();
     ShowWindow(bar, SW_SHOWNOACTIVATE);
 }
 

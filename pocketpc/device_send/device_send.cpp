@@ -1,5 +1,5 @@
-// Tells the running program something from a shell: "close" closes it, "command N" sends it a menu's
-// command. Waits, for at most ten seconds, until a close is done.
+// Tells the running program something from a shell: "close" closes it, "command N" sends it a
+// menu's command. Waits, for at most ten seconds, until a close is done.
 #include <windows.h>
 
 #include <cwchar>

@@ -21,12 +21,13 @@ HWND todayWindow = nullptr;
 std::vector<std::wstring> events;
 UINT updateMessage = 0;
 
-void Note(const std::wstring& event) {
+// Shows a text on the screen and notes what it stands for.
+void Note(const wchar_t* shown, const std::wstring& event) {
     SYSTEMTIME now;
     GetLocalTime(&now);
     wchar_t time[16];
     swprintf(time, 16, L"%02d:%02d:%02d  ", now.wHour, now.wMinute, now.wSecond);
-    events.push_back(time + event);
+    events.push_back(std::wstring(time) + shown);
     if (events.size() > kMostLines) events.erase(events.begin());
     InvalidateRect(todayWindow, nullptr, TRUE);
     if (FILE* const log = _wfopen(L"\\today.log", L"ab")) {
@@ -83,7 +84,8 @@ LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
             reinterpret_cast<WINDOWPOS*>(lParam)->hwndInsertAfter = HWND_BOTTOM;
             return 0;
         case WM_WININICHANGE:
-            if (wParam == kReloadItems) Note(L"WM_WININICHANGE: Today items reloaded");
+            if (wParam == kReloadItems)
+                Note(L"Today items reloaded", L"WM_WININICHANGE wParam=242");
             return 0;
         case WM_DESTROY: PostQuitMessage(0); return 0;
     }
@@ -93,10 +95,9 @@ LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
 LRESULT CALLBACK PluginProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == updateMessage) {
         wchar_t text[128];
-        swprintf(text, 128, L"LumDiary_UpdateSettings wParam=%d lParam=%d: %ls",
-                 static_cast<int>(wParam), static_cast<int>(lParam),
-                 lParam ? L"tabs rebuilt" : L"settings reloaded");
-        Note(text);
+        swprintf(text, 128, L"LumDiary_UpdateSettings wParam=%d lParam=%d",
+                 static_cast<int>(wParam), static_cast<int>(lParam));
+        Note(lParam ? L"Tabs rebuilt" : L"Settings reloaded", text);
         return 0;
     }
     return DefWindowProcW(hwnd, message, wParam, lParam);

@@ -16,8 +16,8 @@
         }                                                                                \
     } while (false)
 
-// The bytes as text: a character each, but the two bytes behind a 0xFF are one. This way inputs stay
-// readable and reach every UTF-16 unit.
+// The bytes as text: a character each, but the two bytes behind a 0xFF are one. This way inputs
+// stay readable and reach every UTF-16 unit.
 inline std::wstring TextOf(std::span<const std::uint8_t> bytes) {
     std::wstring text;
     for (std::size_t i = 0; i < bytes.size(); ++i) {

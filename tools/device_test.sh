@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Runs a program on a fresh device of its own: a clone of the Wine prefix, a display, a device folder that is
+# the current drive.
+#
+# usage: device_test.sh NAME DPI WIDTHxHEIGHT PROGRAM ARGUMENTS...
+set -euo pipefail
+ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$ROOT/tools/common.sh"
+. "$ROOT/tools/wine.sh"
+
+name=$1 dpi=$2 size=$3 program=$4
+shift 4
+BIN=$(dirname "$program")
+device=$ROOT/build/stage/$name
+rm -rf "$device" "${WINE_DIR:?}/$name"
+furnish_device "$device" "$BIN"
+start_display "$size"
+start_session "$name" "$dpi" "$device"
+trap 'end_session; end_display; rm -rf "${WINE_DIR:?}/$name" "$device"' EXIT
+cd "$device"
+wine "$program" "$@" </dev/null
