@@ -1,5 +1,8 @@
 # What uses the platform but no windows; the program and its tests link the same.
 add_library(diary_models STATIC
+  app/language_table.cpp
+  app/language_template.cpp
+  app/module.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
@@ -12,12 +15,9 @@ target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE di
 add_executable(DiarySettings WIN32
   app/about_dialog.cpp
   app/diary_settings.rc
-  app/language_table.cpp
-  app/language_template.cpp
   app/launch_help.cpp
   app/main.cpp
   app/main_frame.cpp
-  app/module.cpp
   app/notify_plugin.cpp
   app/open_entry.cpp
   app/options_page.cpp

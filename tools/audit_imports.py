@@ -27,7 +27,7 @@ def imports(path):
     for line in dump(path).splitlines():
         if match := re.match(r"\s+DLL Name: (\S+)", line):
             library = match[1].lower().removesuffix(".dll")
-        elif library and (match := re.match(r"\s+(?!0+\s)[0-9a-f]+\s+(\d+)\s+(\S+)", line)):
+        elif library and (match := re.match(r"\s+[0-9a-f]+\s+(\d+)\s+([A-Za-z_?<]\S*)", line)):
             result.add((library, f"@{match[1]}" if match[2] == "<none>" else match[2]))
     return result
 

@@ -72,8 +72,7 @@ class MenuBar {
             SetWindowPos(hwnd_, nullptr, 0, 0, 0, 0, kFlags | SWP_NOZORDER | SWP_HIDEWINDOW);
             return;
         }
-        // A window that is on top already would not be raised again.
-        SetWindowPos(hwnd_, HWND_NOTOPMOST, 0, 0, 0, 0, kFlags);
+        CutFromRoot();
         SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, kFlags | SWP_SHOWWINDOW);
     }
 
@@ -84,6 +83,19 @@ class MenuBar {
     }
 
   private:
+    // Where no window manager runs, Wine raises the focused window even above topmost ones. A window
+    // that reaches under the bar therefore leaves the bar's place free.
+    void CutFromRoot() const {
+        const HWND root = GetAncestor(parent_, GA_ROOT);
+        RECT window, bar, cut;
+        GetWindowRect(root, &window);
+        GetWindowRect(hwnd_, &bar);
+        const LONG height = bar.top - window.top;
+        if (window.bottom <= bar.top || height <= 0) return;
+        if (GetWindowRgnBox(root, &cut) != ERROR && cut.bottom == height) return;
+        SetWindowRgn(root, CreateRectRgn(0, 0, window.right - window.left, height), TRUE);
+    }
+
     static MenuBar* Of(HWND hwnd) {
         return reinterpret_cast<MenuBar*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
     }

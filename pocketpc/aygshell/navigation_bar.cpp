@@ -143,17 +143,15 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
                     ShowMenuBarsOf(WindowOnScreen());
                 }
                 break;
-            case WM_SETFOCUS:
-                // Where no window manager runs, Wine raises the focused window above topmost ones.
-                ShowMenuBarsOf(WindowOnScreen());
-                break;
             case WM_SETTEXT:
                 if (message.hwnd == activeWindow) RepaintNavigationBar();
                 break;
             case WM_WINDOWPOSCHANGED: {
                 constexpr UINT kVisibility = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
                 const auto& position = *reinterpret_cast<const WINDOWPOS*>(message.lParam);
-                if (position.flags & kVisibility && GetPropW(message.hwnd, shell::kMenuBar)) {
+                const bool hasBars =
+                    message.hwnd == activeWindow || GetPropW(message.hwnd, shell::kMenuBar);
+                if (position.flags & kVisibility && hasBars) {
                     ShowMenuBarsOf(WindowOnScreen());
                 }
                 break;

@@ -9,12 +9,14 @@
 #include <cstring>
 #include <utility>
 
+#include "pocketpc/commctrl/flat_tabs.h"
 #include "pocketpc/shell_windows.h"
 
 namespace {
 
 constexpr DWORD kMaximize = 0x2000;  // on the desktop the same bit makes a wizard
 constexpr int kApplyButton = 0x3021;
+constexpr int kTitleText = 0x3100;  // our own control, above the page
 constexpr UINT_PTR kSheetSubclass = 1;
 
 // What the device tells a program's callback.
@@ -22,12 +24,14 @@ constexpr UINT kGetVersion = 3;
 constexpr UINT kGetTitle = 4;
 constexpr UINT kGetLinkText = 5;
 constexpr int kTextLength = 256;
+// A program that asks for the Pocket PC's version of the controls gets the tabs at the bottom.
+constexpr int kPocketPcVersion = 524;
 
 class Sheet {
   public:
     explicit Sheet(const PROPSHEETHEADERW& header)
-        : programHeader_(header), outer_(std::exchange(creating_, this)) {}
-    ~Sheet() { creating_ = outer_; }
+        : programHeader_(header), outer_(std::exchange(innermost_, this)) {}
+    ~Sheet() { innermost_ = outer_; }
     Sheet(const Sheet&) = delete;
     Sheet& operator=(const Sheet&) = delete;
 
@@ -38,14 +42,37 @@ class Sheet {
         header.dwSize = sizeof header;
         header.dwFlags = (header.dwFlags & ~kMaximize) | PSH_USECALLBACK | PSH_NOAPPLYNOW;
         header.pfnCallback = Callback;
-        TellProgram(nullptr, kGetVersion, 0);
-        return PropertySheetW(&header);
+        pocketPcLook_ = TellProgram(nullptr, kGetVersion, 0) >= kPocketPcVersion;
+        const HHOOK hook =
+            SetWindowsHookExW(WH_MSGFILTER, BeforeMessage, nullptr, GetCurrentThreadId());
+        const INT_PTR result = PropertySheetW(&header);
+        UnhookWindowsHookEx(hook);
+        return result;
     }
 
   private:
+    // Control with Tab, Page up and Page down turns the pages. Wine's sheets know that only of
+    // their modeless kind.
+    static LRESULT CALLBACK BeforeMessage(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& message = *reinterpret_cast<const MSG*>(lParam);
+        if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN &&
+            GetKeyState(VK_CONTROL) < 0 && innermost_ && IsChild(innermost_->hwnd_, message.hwnd)) {
+            const bool back = message.wParam == VK_PRIOR ||
+                              (message.wParam == VK_TAB && GetKeyState(VK_SHIFT) < 0);
+            if (back || message.wParam == VK_NEXT || message.wParam == VK_TAB) {
+                const HWND tabs = PropSheet_GetTabControl(innermost_->hwnd_);
+                const int count = TabCtrl_GetItemCount(tabs);
+                const int page = (TabCtrl_GetCurSel(tabs) + (back ? count - 1 : 1)) % count;
+                PostMessageW(innermost_->hwnd_, PSM_SETCURSEL, page, 0);
+                return 1;
+            }
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
     static int CALLBACK Callback(HWND hwnd, UINT code, LPARAM lParam) {
-        if (code == PSCB_PRECREATE) return creating_->TellProgram(nullptr, code, lParam);
-        if (code == PSCB_INITIALIZED) creating_->Initialize(hwnd);
+        if (code == PSCB_PRECREATE) return innermost_->TellProgram(nullptr, code, lParam);
+        if (code == PSCB_INITIALIZED) innermost_->Initialize(hwnd);
         return 0;
     }
 
@@ -55,14 +82,26 @@ class Sheet {
     }
 
     void Initialize(HWND hwnd) {
+        hwnd_ = hwnd;
         if (programHeader_.dwFlags & kMaximize) Maximize(hwnd);
         TellProgram(hwnd, PSCB_INITIALIZED, reinterpret_cast<LPARAM>(&programHeader_));
-        wchar_t text[kTextLength] = {};
-        TellProgram(hwnd, kGetTitle, reinterpret_cast<LPARAM>(text));
-        TellProgram(hwnd, kGetLinkText, reinterpret_cast<LPARAM>(text));
+        wchar_t title[kTextLength] = {};
+        TellProgram(hwnd, kGetTitle, reinterpret_cast<LPARAM>(title));
+        if (*title) ShowTitle(hwnd, title);
+        wchar_t link[kTextLength] = {};  // Asked for as on the device, but not shown.
+        TellProgram(hwnd, kGetLinkText, reinterpret_cast<LPARAM>(link));
     }
 
-    static void Maximize(HWND hwnd) {
+    static void ShowTitle(HWND hwnd, const wchar_t* title) {
+        const HWND label =
+            CreateWindowExW(0, L"STATIC", title, WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE, 0, 0, 0, 0,
+                            hwnd, reinterpret_cast<HMENU>(INT_PTR{kTitleText}),
+                            GetModuleHandleW(L"commctrl.dll"), nullptr);
+        SendMessageW(label, WM_SETFONT, SendMessageW(hwnd, WM_GETFONT, 0, 0), FALSE);
+        Layout(hwnd);
+    }
+
+    void Maximize(HWND hwnd) const {
         const LONG style = GetWindowLongW(hwnd, GWL_STYLE);
         SetWindowLongW(hwnd, GWL_STYLE,
                        style & ~(WS_CAPTION | WS_SYSMENU | WS_BORDER | WS_DLGFRAME));
@@ -70,7 +109,9 @@ class Sheet {
         SetWindowLongW(hwnd, GWL_EXSTYLE, extended & ~(WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE));
         const HWND tabs = PropSheet_GetTabControl(hwnd);
         const LONG tabStyle = GetWindowLongW(tabs, GWL_STYLE);
-        SetWindowLongW(tabs, GWL_STYLE, (tabStyle & ~TCS_MULTILINE) | TCS_BOTTOM);
+        SetWindowLongW(tabs, GWL_STYLE,
+                       (tabStyle & ~TCS_MULTILINE) | (pocketPcLook_ ? TCS_BOTTOM : 0));
+        if (pocketPcLook_) FlattenTabs(tabs);
         for (const int button : {IDOK, IDCANCEL, kApplyButton, IDHELP}) {
             if (const HWND control = GetDlgItem(hwnd, button)) ShowWindow(control, SW_HIDE);
         }
@@ -79,19 +120,32 @@ class Sheet {
         SetWindowPos(hwnd, nullptr, 0, 0, 0, 0, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     }
 
-    // The current page gets all above the row of tabs, whose height any visible tab tells.
+    // The current page gets all that the row of tabs leaves; any visible tab tells the row's
+    // height.
     static void Layout(HWND hwnd) {
         const HWND tabs = PropSheet_GetTabControl(hwnd);
         if (!tabs) return;
         RECT area;
         GetClientRect(hwnd, &area);
-        SetWindowPos(tabs, nullptr, 0, 0, area.right, area.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+        if (const HWND title = GetDlgItem(hwnd, kTitleText)) {
+            area.top = shell::BarHeight();
+            const int margin = shell::Scale(7);
+            SetWindowPos(title, HWND_TOP, margin, 0, area.right - margin, area.top, SWP_NOACTIVATE);
+        }
+        SetWindowPos(tabs, nullptr, 0, area.top, area.right, area.bottom - area.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
         RECT tab = {};
         TabCtrl_GetItemRect(tabs, std::max(0, TabCtrl_GetCurSel(tabs)), &tab);
         const HWND page = PropSheet_GetCurrentPageHwnd(hwnd);
         if (!page) return;
-        const int height = area.bottom - (tab.bottom - tab.top) - 1;
-        SetWindowPos(page, HWND_TOP, 0, 0, area.right, height, SWP_NOACTIVATE);
+        const int row = tab.bottom - tab.top + 1;
+        if (GetWindowLongW(tabs, GWL_STYLE) & TCS_BOTTOM) {
+            area.bottom -= row;
+        } else {
+            area.top += row;
+        }
+        SetWindowPos(page, HWND_TOP, 0, area.top, area.right, area.bottom - area.top,
+                     SWP_NOACTIVATE);
     }
 
     static LRESULT PassHelpToPage(HWND hwnd) {
@@ -133,14 +187,20 @@ class Sheet {
 
     const PROPSHEETHEADERW& programHeader_;
     Sheet* outer_;
+    HWND hwnd_ = nullptr;
+    bool pocketPcLook_ = false;
 
-    // The innermost sheet; the desktop's callback does not say which one it is about.
-    static inline Sheet* creating_ = nullptr;
+    // The desktop's callback does not say which sheet it is about.
+    static inline Sheet* innermost_ = nullptr;
 };
 
 }  // namespace
 
 extern "C" INT_PTR WINAPI Pocket_PropertySheetW(LPCPROPSHEETHEADERW header) {
+    if (!header || !header->phpage || !header->nPages) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return -1;
+    }
     return Sheet(*header).Run();
 }
 

@@ -1,0 +1,245 @@
+// The texts of the program on the device, with the program's own resource library.
+#include "app/language_table.h"
+
+#include <aygshell.h>
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "app/module.h"
+#include "controls/owned_handle.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr wchar_t kFile[] = L"\\My Documents\\language.txt";
+
+class Language : public ::testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        InitModule(GetModuleHandleW(nullptr));
+        ASSERT_TRUE(LoadResourceLibrary(L"\\Program Files\\Lum Diary\\DiaryRes.Dll"));
+    }
+    static void TearDownTestSuite() { ShutDownModule(); }
+    void SetUp() override { DeleteFileW(kFile); }
+
+    void LoadLines(const std::wstring& lines) {
+        WriteText(L"\xFEFF" + lines);
+        ASSERT_TRUE(table.Load(kFile));
+    }
+    static void WriteText(const std::wstring& text) {
+        const OwnedFile file(
+            CreateFileW(kFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+        DWORD written = 0;
+        ASSERT_TRUE(
+            WriteFile(file.get(), text.data(), text.size() * sizeof(wchar_t), &written, nullptr));
+    }
+    static std::wstring FileText() {
+        const OwnedFile file(
+            CreateFileW(kFile, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        std::wstring text(GetFileSize(file.get(), nullptr) / sizeof(wchar_t), L'\0');
+        DWORD read = 0;
+        ReadFile(file.get(), text.data(), text.size() * sizeof(wchar_t), &read, nullptr);
+        return text;
+    }
+    static HWND CreateControl(const wchar_t* className, const wchar_t* text, DWORD style,
+                              HWND parent) {
+        return CreateWindowExW(0, className, text, style, 0, 0, 100, 100, parent, nullptr,
+                               ModuleInstance(), nullptr);
+    }
+    static std::wstring WindowText(HWND window) {
+        wchar_t text[4096] = {};
+        GetWindowTextW(window, text, 4096);
+        return text;
+    }
+
+    LanguageTable table;
+};
+
+TEST_F(Language, StringsAndTextsAreTranslated) {
+    LoadLines(L"Tasks|Aufgaben\r\nCalendar|\r\nCancel|Abbrechen\r\nWhen active|" +
+              std::wstring(2000, L'x') + L"\r\n");
+    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Aufgaben");
+    EXPECT_EQ(table.LoadString(IDS_CALENDAR), L"Calendar");
+    EXPECT_EQ(table.LoadString(IDS_KEYBOARD_WHEN_ACTIVE), std::wstring(1023, L'x'));
+    EXPECT_EQ(table.LoadString(60000), L"");
+    EXPECT_EQ(table.Translate(L"Cancel"), L"Abbrechen");
+    EXPECT_EQ(table.Translate(L"When active").size(), 2000u);
+    EXPECT_EQ(table.Translate(L"cancel"), L"cancel");
+    EXPECT_EQ(table.Translate(L""), L"");
+}
+
+TEST_F(Language, WindowsAreTranslatedOneLevelDeep) {
+    LoadLines(L"Caption|Titel\nFirst|Erstes\nDeep|Tief\n");
+    const HWND window = CreateControl(L"STATIC", L"Caption", WS_POPUP | WS_CAPTION, nullptr);
+    const HWND first = CreateControl(L"BUTTON", L"First", WS_CHILD, window);
+    const HWND second = CreateControl(L"STATIC", L"Unknown", WS_CHILD, window);
+    const HWND deep = CreateControl(L"STATIC", L"Deep", WS_CHILD, second);
+    table.TranslateWindow(window);
+    EXPECT_EQ(WindowText(window), L"Titel");
+    EXPECT_EQ(WindowText(first), L"Erstes");
+    EXPECT_EQ(WindowText(second), L"Unknown");
+    EXPECT_EQ(WindowText(deep), L"Deep");
+    DestroyWindow(window);
+}
+
+TEST_F(Language, ComboBoxesKeepOrderSelectionAndData) {
+    LoadLines(L"Never|Zuletzt\nAlways|Immer\nCustom|Eigenes\n");
+    for (const DWORD style : {CBS_DROPDOWNLIST, CBS_DROPDOWNLIST | CBS_SORT, CBS_DROPDOWN}) {
+        for (const int selection : {-1, 0, 2}) {
+            const HWND window = CreateControl(L"STATIC", L"", WS_POPUP, nullptr);
+            const HWND combo = CreateControl(L"COMBOBOX", L"", WS_CHILD | style, window);
+            int data = 10;
+            for (const wchar_t* item : {L"Always", L"Kept", L"Never"}) {
+                const LRESULT index =
+                    SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+                SendMessageW(combo, CB_SETITEMDATA, index, data++);
+            }
+            SendMessageW(combo, CB_SETCURSEL, selection, 0);
+            if (style == CBS_DROPDOWN && selection < 0) SetWindowTextW(combo, L"Typed");
+
+            table.TranslateWindow(window);
+
+            int index = 0;
+            for (const wchar_t* item : {L"Immer", L"Kept", L"Zuletzt"}) {
+                wchar_t text[16] = {};
+                SendMessageW(combo, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text));
+                EXPECT_STREQ(text, item);
+                EXPECT_EQ(SendMessageW(combo, CB_GETITEMDATA, index, 0), 10 + index);
+                ++index;
+            }
+            EXPECT_EQ(SendMessageW(combo, CB_GETCOUNT, 0, 0), 3);
+            EXPECT_EQ(SendMessageW(combo, CB_GETCURSEL, 0, 0), selection);
+            if (style == CBS_DROPDOWN) {
+                EXPECT_EQ(WindowText(combo), selection < 0    ? L"Typed"
+                                             : selection == 0 ? L"Immer"
+                                                              : L"Zuletzt");
+            }
+            DestroyWindow(window);
+        }
+    }
+}
+
+std::wstring MenuText(HMENU menu, UINT position) {
+    wchar_t text[64] = {};
+    MENUITEMINFOW item = {};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_TYPE;
+    item.dwTypeData = text;
+    item.cch = 64;
+    GetMenuItemInfoW(menu, position, TRUE, &item);
+    return text;
+}
+
+TEST_F(Language, MenusAreTranslatedWithTheirSubMenus) {
+    LoadLines(L"Open|Auf\nMore|Mehr\nDeep|Tief\nLast|Ende\n");
+    const HMENU menu = CreatePopupMenu();
+    const HMENU more = CreatePopupMenu();
+    AppendMenuW(more, MF_STRING | MF_GRAYED, 3, L"Deep");
+    AppendMenuW(menu, MF_STRING, 1, L"Open");
+    AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+    AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(more), L"More");
+    AppendMenuW(menu, MF_STRING | MF_CHECKED, 2, L"Last");
+    table.TranslateMenu(menu);
+    EXPECT_EQ(MenuText(menu, 0), L"Auf");
+    EXPECT_EQ(MenuText(menu, 2), L"Mehr");
+    EXPECT_EQ(MenuText(menu, 3), L"Ende");
+    EXPECT_EQ(MenuText(GetSubMenu(menu, 2), 0), L"Tief");
+    // Nothing else about the items changes.
+    EXPECT_EQ(GetMenuItemID(menu, 0), 1u);
+    EXPECT_TRUE(GetMenuState(menu, 1, MF_BYPOSITION) & MF_SEPARATOR);
+    EXPECT_TRUE(GetMenuState(menu, 3, MF_BYPOSITION) & MF_CHECKED);
+    EXPECT_TRUE(GetMenuState(more, 0, MF_BYPOSITION) & MF_GRAYED);
+    DestroyMenu(menu);
+}
+
+TEST_F(Language, MenuBarsAreTranslatedWithTheirMenus) {
+    LoadLines(L"Settings|Einstellungen\nImport...|Laden...\nAbout|Info\n");
+    const HWND window = CreateControl(L"STATIC", L"", WS_POPUP, nullptr);
+    table.TranslateMenuBar(window);  // There is no bar yet.
+    SHMENUBARINFO bar = {};
+    bar.cbSize = sizeof bar;
+    bar.hwndParent = window;
+    bar.dwFlags = SHCMBF_HMENU;
+    bar.nToolBarId = IDM_MAIN;
+    bar.hInstRes = ResourceLibrary();
+    ASSERT_TRUE(SHCreateMenuBar(&bar));
+    table.TranslateMenuBar(window);
+
+    std::vector<std::wstring> texts;
+    std::vector<HMENU> menus;
+    const LRESULT count = SendMessageW(bar.hwndMB, TB_BUTTONCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        wchar_t text[64] = {};
+        TBBUTTONINFOW info = {};
+        info.cbSize = sizeof info;
+        info.dwMask = TBIF_TEXT | TBIF_LPARAM | TBIF_BYINDEX;
+        info.pszText = text;
+        info.cchText = 64;
+        SendMessageW(bar.hwndMB, TB_GETBUTTONINFOW, i, reinterpret_cast<LPARAM>(&info));
+        texts.push_back(text);
+        menus.push_back(reinterpret_cast<HMENU>(info.lParam));
+    }
+    EXPECT_EQ(texts, (std::vector<std::wstring>{L"Einstellungen", L"Help"}));
+    ASSERT_EQ(menus.size(), 2u);
+    EXPECT_EQ(MenuText(menus[0], 0), L"Export...");
+    EXPECT_EQ(MenuText(menus[0], 1), L"Laden...");
+    EXPECT_EQ(MenuText(menus[1], 1), L"Info");
+    DestroyWindow(window);
+}
+
+TEST_F(Language, AMissingFileIsWrittenAsATemplate) {
+    ASSERT_TRUE(table.Load(kFile));
+    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Tasks");
+    const std::wstring text = FileText();
+    ASSERT_TRUE(text.starts_with(L"\xFEFF$$$$$$$$ NEW FILE $$$$$$$\r\nAbout|\r\n"));
+
+    // Dialogs, each with its lists behind it; menus; strings. Every text stands once.
+    std::size_t last = 0;
+    for (const wchar_t* line :
+         {L"About|", L"Lum Diary Options|", L"Days shown:|", L"Groups span:|", L"7|",
+          L"Show in the calendar:|", L"Export...|", L"How it works|", L"Notes|", L"When active|",
+          L"Choose what the diary shows on your Today screen.\\n\\nTap an entry, set its pages as "
+          L"you like them and tap ok. The diary follows when you close this program.|"}) {
+        const std::wstring whole = std::wstring(L"\r\n") + line + L"\r\n";
+        const std::size_t position = text.find(whole);
+        ASSERT_NE(position, std::wstring::npos) << testing::PrintToString(line);
+        EXPECT_GT(position, last) << testing::PrintToString(line);
+        EXPECT_EQ(text.find(whole, position + 1), std::wstring::npos);
+        last = position;
+    }
+    EXPECT_TRUE(text.ends_with(L"|\r\n"));
+
+    // Translated, it serves.
+    WriteText(text + L"Cancel|Abbrechen\r\n");
+    ASSERT_TRUE(table.Load(kFile));
+    EXPECT_EQ(table.Translate(L"Cancel"), L"Abbrechen");
+    EXPECT_EQ(FileText(), text + L"Cancel|Abbrechen\r\n");
+}
+
+TEST_F(Language, FilesThatCannotBeMadeAndEmptyOnesTranslateNothing) {
+    EXPECT_FALSE(table.Load(L"\\No such folder\\language.txt"));
+    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Tasks");
+    WriteText(L"");
+    EXPECT_TRUE(table.Load(kFile));
+    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Tasks");
+    EXPECT_EQ(FileText(), L"");
+}
+
+// A table whose dialogs cannot be created still lists the rest.
+TEST_F(Language, TheTemplateDoesWithoutDialogs) {
+    class WithoutDialogs : public LanguageTable {
+        HWND createDialog(HMODULE, unsigned, HWND) const override { return nullptr; }
+    };
+    WithoutDialogs without;
+    ASSERT_TRUE(without.Load(kFile));
+    const std::wstring text = FileText();
+    EXPECT_EQ(text.find(L"Days shown:|"), std::wstring::npos);
+    EXPECT_NE(text.find(L"\r\n1|\r\n"), std::wstring::npos);  // an entry of a list
+    EXPECT_NE(text.find(L"\r\nExport...|\r\n"), std::wstring::npos);
+}
+
+}  // namespace

@@ -1,0 +1,62 @@
+// A device for each test: an empty product key, the installation as it came.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <optional>
+#include <string>
+
+#include "settings/settings_key.h"
+#include "tests/ui/driver.h"
+
+namespace ui {
+
+inline constexpr wchar_t kInstallFolder[] = L"\\Program Files\\Lum Diary\\";
+inline constexpr wchar_t kLanguageFile[] = L"\\Program Files\\Lum Diary\\LumDiary_en.txt";
+
+class DeviceTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+        DeleteFileW(kLanguageFile);
+    }
+
+    static void Put(const wchar_t* name, DWORD value) { OpenProductKey().WriteDword(name, value); }
+
+    // A number as it is stored; no value when there is none of that name and type.
+    static std::optional<DWORD> Stored(const wchar_t* name) {
+        HKEY key = nullptr;
+        if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &key) != ERROR_SUCCESS) return {};
+        DWORD value = 0, size = sizeof value, type = 0;
+        const LSTATUS status =
+            RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(&value), &size);
+        RegCloseKey(key);
+        if (status != ERROR_SUCCESS || type != REG_DWORD) return {};
+        return value;
+    }
+    static std::wstring StoredText(const wchar_t* name) {
+        return OpenProductKey().ReadString(name);
+    }
+
+    static bool WriteBytes(const wchar_t* path, const void* data, DWORD size) {
+        const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        DWORD written = 0;
+        const bool done = WriteFile(file, data, size, &written, nullptr) && written == size;
+        CloseHandle(file);
+        return done;
+    }
+    static std::string ReadBytes(const wchar_t* path) {
+        const HANDLE file = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        std::string bytes;
+        char buffer[4096];
+        for (DWORD read = 0; ReadFile(file, buffer, sizeof buffer, &read, nullptr) && read;) {
+            bytes.append(buffer, read);
+        }
+        CloseHandle(file);
+        return bytes;
+    }
+};
+
+}  // namespace ui

@@ -1,0 +1,84 @@
+// Drives the real program from outside, as a user would: by the messages that taps and keys become.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ui {
+
+// Waits until a condition holds, for at most ten seconds, while this thread's messages are handled.
+bool Until(const std::function<bool()>& condition);
+
+// The running program. Ends it when the test leaves it behind.
+class Program {
+  public:
+    explicit Program(const std::wstring& arguments = L"");
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // The main window once it shows; null when it does not come.
+    HWND Main() const;
+    // A sheet or dialog of the program with this title once it shows; null when it does not come.
+    HWND Sheet(const std::wstring& title) const;
+    // The titles of the sheets and dialogs that show now.
+    std::vector<std::wstring> OpenSheets() const;
+    // Opens an entry of the main screen at a page.
+    void Open(int entry, int page) const;
+    bool IsRunning() const;
+    // Closes the main window.
+    void Close() const;
+    // Closes it and waits; no value when it does not end.
+    std::optional<DWORD> CloseAndWait() const;
+    std::optional<DWORD> WaitForExit() const;
+
+  private:
+    HANDLE process_ = nullptr;
+    DWORD id_ = 0;
+};
+
+// A sheet's current page, once it shows and has `control`; null when it does not come.
+HWND Page(HWND sheet, int control);
+void TurnTo(HWND sheet, int page);
+std::wstring TabText(HWND sheet, int page);
+// Confirm or cancel, and wait until the sheet is gone.
+bool Ok(HWND sheet);
+bool Cancel(HWND sheet);
+
+std::wstring Text(HWND window);
+std::wstring Text(HWND page, int control);
+bool IsChecked(HWND page, int control);
+bool IsEnabled(HWND page, int control);
+void Click(HWND page, int control);
+void Select(HWND page, int control, int index);
+// The text of the selected entry; empty when none is.
+std::wstring Selected(HWND page, int control);
+std::wstring MenuBarText(HWND parent, int index);
+
+// The plug-in's window, which notes the update messages it receives.
+class Plugin {
+  public:
+    Plugin();
+    ~Plugin();
+    Plugin(const Plugin&) = delete;
+    Plugin& operator=(const Plugin&) = delete;
+
+    struct Update {
+        WPARAM wParam;
+        LPARAM lParam;
+        bool operator==(const Update&) const = default;
+    };
+    // What has arrived by now.
+    std::vector<Update> Updates();
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+    HWND hwnd_ = nullptr;
+    std::vector<Update> updates_;
+};
+
+}  // namespace ui

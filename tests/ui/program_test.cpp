@@ -1,0 +1,206 @@
+// The program as a whole: its start, its instances, its end, and what it tells the plug-in.
+#include "resources/ids.h"
+#include "tests/ui/device.h"
+
+namespace {
+
+using namespace ui;
+
+class Whole : public DeviceTest {
+  protected:
+    // Changes something on the page for special events, does `meanwhile`, and closes.
+    static void ChangeAndClose(const std::function<void()>& meanwhile) {
+        Program program(L"-P6:0");
+        const HWND sheet = program.Sheet(L"Special event options");
+        ASSERT_TRUE(Page(sheet, IDC_SPECIAL_BIRTHDAYS));
+        ASSERT_TRUE(Ok(sheet));
+        meanwhile();
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+    }
+};
+
+TEST_F(Whole, UpdateMessageTellsWhetherTabsChanged) {
+    struct Case {
+        const char* what;
+        std::function<void()> meanwhile;
+        LPARAM lParam;
+    };
+    const auto sequence = [](const wchar_t* text) {
+        OpenProductKey().WriteString(L"ShowTabsSequence", text);
+    };
+    const std::vector<Case> cases = {
+        {"nothing", [] {}, 0},
+        {"tabs", [] { Put(L"ShowTabs", 3); }, 1},
+        {"order", [&] { sequence(L"2,1"); }, 1},
+        {"changed and changed back",
+         [&] {
+             Put(L"ShowTabs", 3);
+             sequence(L"2,1");
+             Put(L"ShowTabs", 0xFFFFFFFF);
+             sequence(L"");
+         },
+         0},
+    };
+    for (const Case& c : cases) {
+        SetUp();
+        Plugin plugin;
+        ChangeAndClose(c.meanwhile);
+        EXPECT_EQ(plugin.Updates(), (std::vector<Plugin::Update>{{0, c.lParam}})) << c.what;
+    }
+}
+
+TEST_F(Whole, ClosingWithoutAChangeTellsNothing) {
+    Plugin plugin;
+    Program program;
+    ASSERT_TRUE(program.Main());
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+    EXPECT_TRUE(plugin.Updates().empty());
+    EXPECT_EQ(Stored(L"ShowTabs"), 0xFFFFFFFFu);  // First read.
+}
+
+TEST_F(Whole, CommandLineOpensPages) {
+    struct Case {
+        const wchar_t* arguments;
+        std::vector<std::wstring> sheets;  // besides the one that the test itself opens last
+        int control;                       // on the first sheet's page; 0: none opens
+    };
+    const std::vector<Case> cases = {
+        {L"-P1:2", {L"Calendar options"}, IDC_SHOW_TASKS},
+        {L"/x -p1:1", {L"Calendar options"}, IDC_SHOW_PAST},
+        {L"-P 1: 2", {L"Calendar options"}, IDC_SHOW_TASKS},
+        {L"-P1:99", {L"Calendar options"}, IDC_CALENDAR_PERIOD},
+        {L"-P1:-1", {L"Calendar options"}, IDC_CALENDAR_PERIOD},
+        {L"-Px -P1 -P:2 P1:1 -P8:0 -P99999999999:1 -P-1:0", {}, 0},
+        {L"-P3:0 -P4:0 -P5:0 -P7:0", {}, 0},  // No pages yet.
+        {L"-P2:0 -P1:1", {L"Task options", L"Calendar options"}, IDC_TASK_SUBJECT},
+    };
+    for (const Case& c : cases) {
+        Program program(c.arguments);
+        ASSERT_TRUE(program.Main());
+        if (c.control) {
+            EXPECT_TRUE(Page(program.Sheet(c.sheets.front()), c.control))
+                << testing::PrintToString(c.arguments);
+        }
+        // Requests are served in order: once this one is, all before it were.
+        program.Open(6, 0);
+        ASSERT_TRUE(program.Sheet(L"Special event options"));
+        EXPECT_EQ(program.OpenSheets().size(), c.sheets.size() + 1)
+            << testing::PrintToString(c.arguments);
+        for (const std::wstring& sheet : c.sheets) EXPECT_TRUE(program.Sheet(sheet));
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+    }
+}
+
+TEST_F(Whole, ClosingCancelsWhatIsOpen) {
+    Plugin plugin;
+    Put(L"SpecialShowBirthdays", 1);
+    Program program(L"-P1:0 -P6:0");
+    const HWND page = Page(program.Sheet(L"Special event options"), IDC_SPECIAL_BIRTHDAYS);
+    ASSERT_TRUE(page);
+    Click(page, IDC_SPECIAL_BIRTHDAYS);
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+    EXPECT_EQ(Stored(L"SpecialShowBirthdays"), 1u);
+    EXPECT_TRUE(plugin.Updates().empty());
+}
+
+TEST_F(Whole, AboutIsADialogOverTheMainWindow) {
+    Program program;
+    const HWND main = program.Main();
+    ASSERT_TRUE(main);
+    PostMessageW(main, WM_COMMAND, ID_APP_ABOUT, 0);
+    HWND about = program.Sheet(L"About");
+    ASSERT_TRUE(about);
+    EXPECT_FALSE(IsWindowEnabled(main));
+    EXPECT_EQ(Text(about, IDC_ABOUT_NAME), L"Lum Diary Options");
+    EXPECT_TRUE(Ok(about));
+    PostMessageW(main, WM_COMMAND, ID_APP_ABOUT, 0);
+    ASSERT_TRUE(program.Sheet(L"About"));
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(Whole, TheMenusInformationBox) {
+    Program program;
+    const HWND main = program.Main();
+    ASSERT_TRUE(main);
+    PostMessageW(main, WM_COMMAND, IDM_ABOUT_BOX, 0);
+    const HWND box = program.Sheet(L"Lum Diary Options");
+    ASSERT_TRUE(box);
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(Until([&] { return !IsWindow(box); }));
+    PostMessageW(main, WM_COMMAND, ID_APP_EXIT, 0);
+    EXPECT_EQ(program.WaitForExit(), 0u);
+}
+
+TEST_F(Whole, SecondStartRaisesTheFirst) {
+    Program first(L"-P6:0");
+    ASSERT_TRUE(first.Main());
+    ASSERT_TRUE(first.Sheet(L"Special event options"));
+    Program second(L"-P1:0");
+    EXPECT_EQ(second.WaitForExit(), 0u);
+    EXPECT_TRUE(first.IsRunning());
+    DWORD foreground = 0, process = 0;
+    GetWindowThreadProcessId(GetForegroundWindow(), &foreground);
+    GetWindowThreadProcessId(first.Main(), &process);
+    EXPECT_EQ(foreground, process);
+    EXPECT_EQ(first.CloseAndWait(), 0u);
+}
+
+TEST_F(Whole, StartsBesideAnInstanceThatNeverShows) {
+    const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"DiarySettings_MainWnd");
+    const DWORD start = GetTickCount();
+    Program program;
+    EXPECT_TRUE(program.Main());
+    EXPECT_GE(GetTickCount() - start,
+              2400u);  // 25 rounds of 100 milliseconds, less the clock's grain.
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+    CloseHandle(mutex);
+}
+
+TEST_F(Whole, HelpOpensAtThePagesAnchor) {
+    constexpr wchar_t kLog[] = L"\\peghelp.log";
+    DeleteFileW(kLog);
+    Program program(L"-P1:2");
+    const HWND page = Page(program.Sheet(L"Calendar options"), IDC_SHOW_TASKS);
+    ASSERT_TRUE(page);
+    PostMessageW(GetDlgItem(page, IDC_SHOW_TASKS), WM_KEYDOWN, VK_F1, 0);
+    EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == "LumDiary.htm#options_calendar_tasks\n"; }))
+        << ReadBytes(kLog);
+    ASSERT_TRUE(Cancel(program.Sheet(L"Calendar options")));
+    DeleteFileW(kLog);
+    PostMessageW(program.Main(), WM_HELP, 0, 0);
+    EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == "LumDiary.htm#options_main_screen\n"; }))
+        << ReadBytes(kLog);
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(Whole, StartsWithoutItsInstallation) {
+    constexpr wchar_t kLibrary[] = L"\\Program Files\\Lum Diary\\DiaryRes.Dll";
+    constexpr wchar_t kAside[] = L"\\Program Files\\Lum Diary\\aside.dll";
+    ASSERT_TRUE(MoveFileW(kLibrary, kAside));
+    {
+        Program program(L"-P1:0");
+        EXPECT_TRUE(program.Main());
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+    }
+    ASSERT_TRUE(MoveFileW(kAside, kLibrary));
+
+    // Without the installation key everything is looked for beside the program, where the build has
+    // it.
+    const std::wstring key = L"SOFTWARE\\Apps\\Lum Diary";
+    ASSERT_TRUE(DeleteKeyTree(HKEY_LOCAL_MACHINE, key.c_str()));
+    {
+        Program program(L"-P1:0");
+        EXPECT_TRUE(Page(program.Sheet(L"Calendar options"), IDC_CALENDAR_PERIOD));
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+    }
+    CSettingsKey install(HKEY_LOCAL_MACHINE, key.c_str(), true, true);
+    install.WriteString(L"InstallDir", L"\\No Such Folder");
+    {
+        Program program;
+        EXPECT_TRUE(program.Main());
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+    }
+    install.WriteString(L"InstallDir", L"\\Program Files\\Lum Diary");
+}
+
+}  // namespace

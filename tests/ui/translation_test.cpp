@@ -1,0 +1,118 @@
+// The language file, as a translator meets it.
+#include <set>
+
+#include "resources/ids.h"
+#include "tests/ui/device.h"
+
+namespace {
+
+using namespace ui;
+
+class Translation : public DeviceTest {
+  protected:
+    static bool WriteLanguageFile(const std::wstring& text) {
+        const std::wstring content = L"\xFEFF" + text;
+        return WriteBytes(kLanguageFile, content.data(),
+                          static_cast<DWORD>(content.size() * sizeof(wchar_t)));
+    }
+    static std::wstring ReadLanguageFile() {
+        const std::string bytes = ReadBytes(kLanguageFile);
+        return {reinterpret_cast<const wchar_t*>(bytes.data()), bytes.size() / sizeof(wchar_t)};
+    }
+};
+
+TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
+    ASSERT_TRUE(
+        WriteLanguageFile(L"Lum Diary Options|Tagebuch-Einstellungen\r\n"
+                          L"Settings|Ändern\r\nHelp|Hilfe\r\n"
+                          L"Task options|Aufgaben\r\nGeneral|Allgemein\r\n"
+                          L"Completed tasks|Erledigte Aufgaben\r\n"
+                          L"Whole subject|Ganzer Betreff\r\nOne line|Eine Zeile\r\n"
+                          L"First full week|Erste volle Woche\r\nCalendar options|Kalender\r\n"));
+    Program program(L"-P2:0");
+    EXPECT_EQ(Text(program.Main()), L"Tagebuch-Einstellungen");
+    EXPECT_EQ(MenuBarText(program.Main(), 0), L"Ändern");
+    EXPECT_EQ(MenuBarText(program.Main(), 1), L"Hilfe");
+
+    HWND sheet = program.Sheet(L"Aufgaben");
+    HWND page = Page(sheet, IDC_TASK_SUBJECT);
+    ASSERT_TRUE(page);
+    EXPECT_TRUE(Until([&] { return TabText(sheet, 0) == L"Allgemein"; }));
+    EXPECT_EQ(Text(page, IDC_TASKS_COMPLETED), L"Erledigte Aufgaben");
+    EXPECT_EQ(Text(page, IDC_TASKS_ACTIVE), L"Active tasks");
+    EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Eine Zeile");
+    Select(page, IDC_TASK_SUBJECT, 0);
+    EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Ganzer Betreff");
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"p2nqrsc");
+
+    program.Open(1, 0);
+    sheet = program.Sheet(L"Kalender");
+    page = Page(sheet, IDC_FIRST_YEAR_WEEK);
+    ASSERT_TRUE(page);
+    Select(page, IDC_FIRST_YEAR_WEEK, 1);
+    EXPECT_EQ(Selected(page, IDC_FIRST_YEAR_WEEK), L"Erste volle Woche");
+    EXPECT_EQ(Selected(page, IDC_CALENDAR_PERIOD), L"7");
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(Stored(L"Calendar_FirstYearWeek"), 1u);
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(Translation, MissingFileIsWrittenWithEveryText) {
+    {
+        Program program;
+        ASSERT_TRUE(program.Main());
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+    }
+    const std::wstring text = ReadLanguageFile();
+    const std::wstring start =
+        L"\xFEFF$$$$$$$$ NEW FILE $$$$$$$\r\nAbout|\r\nLum Diary Options|\r\n";
+    EXPECT_EQ(text.substr(0, start.size()), start);
+    std::set<std::wstring> lines;
+    std::size_t at = start.find(L'\n') + 1;
+    while (at < text.size()) {
+        const std::size_t end = text.find(L"\r\n", at);
+        ASSERT_NE(end, std::wstring::npos);
+        const std::wstring line = text.substr(at, end - at);
+        EXPECT_EQ(line.back(), L'|');
+        EXPECT_TRUE(lines.insert(line).second) << testing::PrintToString(line);
+        at = end + 2;
+    }
+    // A caption, a control, a list of the template, a menu, an item of it, strings; line feeds
+    // escaped.
+    for (const wchar_t* expected :
+         {L"Contents|", L"Overdue tasks|", L"First full week|", L"Settings|", L"Exit|",
+          L"Calendar options|", L"4 hr|", L"Deleted Items|"}) {
+        EXPECT_TRUE(lines.contains(expected)) << testing::PrintToString(expected);
+    }
+    EXPECT_NE(text.find(L"Today screen.\\n\\nTap an entry"), std::wstring::npos);
+
+    // Read back, it translates nothing, and a second start leaves it alone.
+    Program again(L"-P2:0");
+    EXPECT_TRUE(again.Sheet(L"Task options"));
+    EXPECT_EQ(again.CloseAndWait(), 0u);
+    EXPECT_EQ(ReadLanguageFile(), text);
+}
+
+TEST_F(Translation, OddFilesDoNoHarm) {
+    const std::string files[] = {
+        "",
+        "\xFF",
+        std::string("\xFF\xFE", 2),
+        std::string("\xFF\xFEG\0e\0n", 7),
+        "\\",
+        std::string(100, '\\') + "|" + std::string(10'000, 'x'),
+        std::string("Task options|A\0Task options|B", 29),
+        std::string(5'000'000, '|'),
+    };
+    for (const std::string& file : files) {
+        ASSERT_TRUE(WriteBytes(kLanguageFile, file.data(), static_cast<DWORD>(file.size())));
+        Program program(L"-P2:0");
+        const bool cut = file.find("|A") != std::string::npos;
+        EXPECT_TRUE(program.Sheet(cut ? L"A" : L"Task options")) << file.size();
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+        EXPECT_TRUE(ReadBytes(kLanguageFile) == file) << "the file was changed";
+    }
+}
+
+}  // namespace
