@@ -41,6 +41,7 @@ void OptionsSheet::SetActivePage(int index) {
 }
 
 INT_PTR OptionsSheet::DoModal(HWND parent) {
+    if (pages_.empty()) return 0;
     header_.dwFlags &= ~PSH_MODELESS;
     if (!header_.hwndParent) header_.hwndParent = parent;
     std::vector<HPROPSHEETPAGE> pages = std::exchange(pages_, {});

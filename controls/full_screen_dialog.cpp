@@ -210,7 +210,7 @@ void FullScreenDialog::ScrollIntoView(HWND control) {
     if (rect.top < margin) {
         // The topmost controls bring the title band back with them.
         const int top = position + rect.top - margin;
-        ScrollTo(top <= BandHeight() + margin ? 0 : top);
+        ScrollTo(top <= BandHeight() + 3 * margin ? 0 : top);
     } else if (rect.bottom + margin > height) {
         ScrollTo(position + rect.bottom + margin - height);
     }

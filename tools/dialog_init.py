@@ -34,7 +34,11 @@ def compile_list(path, ids):
 
     records = []
     control = None
-    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+    for number, data in enumerate(path.read_bytes().splitlines(), 1):
+        try:
+            line = data.decode("utf-8")
+        except UnicodeDecodeError:
+            fail("not UTF-8")
         if not line.strip() or line.startswith("#"):
             continue
         if line[0].isspace():

@@ -14,8 +14,10 @@ constexpr UINT kGetOemInfo = 258;
 constexpr int kNavigationBarHeight = 26;  // pixels at 96 dots per inch
 
 std::wstring Entry(const wchar_t* name, const std::wstring& defaultText) {
+    wchar_t path[MAX_PATH] = {};
     wchar_t text[128];
-    GetPrivateProfileStringW(L"device", name, defaultText.c_str(), text, 128, kFile);
+    GetFullPathNameW(kFile, MAX_PATH, path, nullptr);
+    GetPrivateProfileStringW(L"device", name, defaultText.c_str(), text, 128, path);
     return text;
 }
 

@@ -2,10 +2,31 @@
 // program its arguments without the program's name.
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "pocketpc/coredll/device.h"
+
 namespace {
+
+// Functions that came with a later version of the system: an older device does not know them.
+struct LaterFunction {
+    const wchar_t* name;
+    DWORD major, minor;
+};
+constexpr LaterFunction kLaterFunctions[] = {{L"SHGetUIMetrics", 4, 21}};
+
+bool IsLater(const wchar_t* name) {
+    const Device& device = ThisDevice();
+    return std::any_of(
+        std::begin(kLaterFunctions), std::end(kLaterFunctions), [&](const LaterFunction& function) {
+            return wcscmp(function.name, name) == 0 &&
+                   (device.major < function.major ||
+                    (device.major == function.major && device.minor < function.minor));
+        });
+}
 
 bool IsFile(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -26,14 +47,13 @@ std::wstring FindProgram(const std::wstring& name) {
 
 }  // namespace
 
-extern "C" BOOL WINAPI Pocket_CreateProcessW(LPCWSTR image, LPWSTR arguments,
-                                             LPSECURITY_ATTRIBUTES processAttributes,
-                                             LPSECURITY_ATTRIBUTES threadAttributes, BOOL inherit,
-                                             DWORD flags, LPVOID environment, LPWSTR directory,
-                                             LPSTARTUPINFOW startup,
+// What a device's programs cannot choose must be left out. Security attributes and the start-up
+// record are not looked at.
+extern "C" BOOL WINAPI Pocket_CreateProcessW(LPCWSTR image, LPWSTR arguments, LPSECURITY_ATTRIBUTES,
+                                             LPSECURITY_ATTRIBUTES, BOOL inherit, DWORD flags,
+                                             LPVOID environment, LPWSTR directory, LPSTARTUPINFOW,
                                              LPPROCESS_INFORMATION process) {
-    if (!image || processAttributes || threadAttributes || inherit || environment || directory ||
-        startup) {
+    if (!image || inherit || environment || directory) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
@@ -68,6 +88,10 @@ extern "C" HMODULE WINAPI Pocket_LoadLibraryW(LPCWSTR name) {
 
 extern "C" FARPROC WINAPI Pocket_GetProcAddressW(HMODULE module, LPCWSTR name) {
     if (IS_INTRESOURCE(name)) return GetProcAddress(module, reinterpret_cast<LPCSTR>(name));
+    if (IsLater(name)) {
+        SetLastError(ERROR_PROC_NOT_FOUND);
+        return nullptr;
+    }
     std::string narrow;
     for (const wchar_t* c = name; *c; ++c) narrow += *c < 0x80 ? static_cast<char>(*c) : '?';
     return GetProcAddress(module, narrow.c_str());

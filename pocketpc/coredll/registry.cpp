@@ -15,7 +15,8 @@ namespace {
 
 constexpr std::size_t kLongestName = 255;
 constexpr int kDeepestLevel = 16;
-constexpr DWORD kMostData = 4096;  // bytes in a value that is written
+// Bytes in a value that is written. The platform's own figure is "about 4 KB".
+constexpr DWORD kMostData = 4096;
 
 // The keys this process has open, with their paths below the hive in lower case.
 class OpenKeys {
@@ -53,7 +54,12 @@ OpenKeys& Opened() {
 
 const wchar_t* NameOfRoot(HKEY key) {
     // Roots are 32-bit numbers; as handles they come with or without an extended sign.
-    switch (static_cast<std::uint32_t>(reinterpret_cast<ULONG_PTR>(key))) {
+    const auto value = reinterpret_cast<LONG_PTR>(key);
+    const auto number = static_cast<std::uint32_t>(value);
+    if (value != static_cast<LONG_PTR>(number) && value != static_cast<std::int32_t>(number)) {
+        return nullptr;
+    }
+    switch (number) {
         case 0x80000000: return L"HKEY_CLASSES_ROOT";
         case 0x80000001: return L"HKEY_CURRENT_USER";
         case 0x80000002: return L"HKEY_LOCAL_MACHINE";
@@ -162,6 +168,7 @@ LSTATUS WINAPI Pocket_RegCloseKey(HKEY key) {
 
 // Deletes the key with all below it, but not while any of it is open.
 LSTATUS WINAPI Pocket_RegDeleteKeyW(HKEY key, LPCWSTR name) {
+    if (!name || !name[wcsspn(name, L"\\")]) return ERROR_INVALID_PARAMETER;
     std::wstring path;
     const LSTATUS status = Resolve(key, name, path);
     if (status != ERROR_SUCCESS) return status;

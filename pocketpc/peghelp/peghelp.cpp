@@ -31,9 +31,18 @@ std::wstring InstallFolder() {
     return folder;
 }
 
+std::wstring OwnFolder() {
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, path, MAX_PATH - 1);
+    if (wchar_t* const name = wcsrchr(path, L'\\')) *name = L'\0';
+    return path;
+}
+
 // The full path of a help file; empty when the device has none of this name.
 std::wstring FindHelpFile(const std::wstring& name) {
-    for (const std::wstring& folder : {InstallFolder(), std::wstring(L"\\Windows")}) {
+    const std::wstring installed = InstallFolder();
+    for (const std::wstring& folder :
+         {installed.empty() ? OwnFolder() : installed, std::wstring(L"\\Windows")}) {
         wchar_t path[MAX_PATH] = {};
         GetFullPathNameW((folder + L"\\" + name).c_str(), MAX_PATH, path, nullptr);
         if (GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES) return path;
@@ -61,10 +70,15 @@ int wmain(int count, wchar_t** arguments) {
         printf("There is no help file for %s.\n", Utf8(page).c_str());
         return 1;
     }
-    std::wstring url = L"file:///" + file + anchor;
-    for (wchar_t& c : url) {
-        if (c == L'\\') c = L'/';
+    std::wstring url = L"file:///";
+    for (const wchar_t c : file) {
+        if (c == L' ') {
+            url += L"%20";
+        } else {
+            url += c == L'\\' ? L'/' : c;
+        }
     }
+    url += anchor;
     const auto result = reinterpret_cast<INT_PTR>(
         ShellExecuteW(nullptr, L"open", url.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
     // Values up to 32 are errors.

@@ -1,5 +1,6 @@
 // The Today screen: answers its plug-ins' questions about colours, holds the diary plug-in's helper
-// window, and shows what reaches it. Each event is also a line in \today.log of the device.
+// window, and shows what reaches it in the area of its items. Each event is also a line in
+// \today.log of the device.
 #include <windows.h>
 
 #include <cstdio>
@@ -13,11 +14,12 @@ namespace {
 
 constexpr COLORREF kTextColor = RGB(0x10, 0x28, 0x50);
 constexpr COLORREF kHighlightColor = RGB(0xFF, 0xD9, 0x80);
+constexpr COLORREF kLineColor = RGB(0x9C, 0xB4, 0xD8);
 constexpr COLORREF kBackground = RGB(0xE4, 0xEE, 0xFA);
 constexpr WPARAM kReloadItems = 0xF2;  // of WM_WININICHANGE
 constexpr std::size_t kMostLines = 8;
 
-HWND todayWindow = nullptr;
+HWND itemsWindow = nullptr;
 std::vector<std::wstring> events;
 UINT updateMessage = 0;
 
@@ -29,7 +31,7 @@ void Note(const wchar_t* shown, const std::wstring& event) {
     swprintf(time, 16, L"%02d:%02d:%02d  ", now.wHour, now.wMinute, now.wSecond);
     events.push_back(std::wstring(time) + shown);
     if (events.size() > kMostLines) events.erase(events.begin());
-    InvalidateRect(todayWindow, nullptr, TRUE);
+    InvalidateRect(itemsWindow, nullptr, TRUE);
     if (FILE* const log = _wfopen(L"\\today.log", L"ab")) {
         for (const wchar_t c : event) fputc(static_cast<char>(c), log);  // Our own texts are ASCII.
         fputc('\n', log);
@@ -46,37 +48,87 @@ LRESULT Color(WPARAM which) {
     return 0;
 }
 
-void Paint(HWND hwnd) {
+class TextPainter {
+  public:
+    TextPainter(HDC dc, RECT row, int weight)
+        : dc_(dc), row_(row), font_(shell::CreateBarFont(weight)), old_(SelectObject(dc, font_)) {
+        SetBkMode(dc, TRANSPARENT);
+        SetTextColor(dc, kTextColor);
+    }
+    ~TextPainter() {
+        SelectObject(dc_, old_);
+        DeleteObject(font_);
+    }
+    TextPainter(const TextPainter&) = delete;
+    TextPainter& operator=(const TextPainter&) = delete;
+
+    // Each text goes a row lower.
+    void Draw(const wchar_t* text, UINT alignment = DT_LEFT) {
+        DrawTextW(dc_, text, -1, &row_,
+                  DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX | alignment);
+        OffsetRect(&row_, 0, row_.bottom - row_.top);
+    }
+
+  private:
+    HDC dc_;
+    RECT row_;
+    HFONT font_;
+    HGDIOBJ old_;
+};
+
+RECT FirstRow(HWND hwnd) {
+    RECT area;
+    GetClientRect(hwnd, &area);
+    const int margin = shell::Scale(8);
+    return {margin, 0, area.right - margin, shell::Scale(22)};
+}
+
+// Where no program's bars lie over them, the places of both bars are the screen's own.
+void PaintScreen(HWND hwnd) {
     PAINTSTRUCT paint;
     const HDC dc = BeginPaint(hwnd, &paint);
     RECT area;
     GetClientRect(hwnd, &area);
-    const HFONT bold = shell::CreateBarFont(FW_BOLD);
-    const HFONT normal = shell::CreateBarFont(FW_NORMAL);
-    const HGDIOBJ old = SelectObject(dc, bold);
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, kTextColor);
-    const int line = shell::BarHeight();
-    RECT row = {line / 3, line + line / 4, area.right - line / 3, line * 2 + line / 4};
+    const RECT work = shell::WorkArea();
+    const RECT top = {0, 0, area.right, work.top};
+    const RECT bottom = {0, work.bottom, area.right, area.bottom};
+    shell::FillColor(dc, top, shell::kBarColor);
+    shell::FillColor(dc, bottom, shell::kBarColor);
+    RECT row = FirstRow(hwnd);
+    OffsetRect(&row, 0, work.top + shell::Scale(4));
     wchar_t date[64] = {};
     GetDateFormatW(LOCALE_USER_DEFAULT, DATE_LONGDATE, nullptr, nullptr, date, 64);
-    const auto text = [&](const wchar_t* what) {
-        DrawTextW(dc, what, -1, &row, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
-        OffsetRect(&row, 0, line);
-    };
-    text(date);
-    text(L"Lum Diary");
-    SelectObject(dc, normal);
-    for (const std::wstring& event : events) text(event.c_str());
-    SelectObject(dc, old);
-    DeleteObject(bold);
-    DeleteObject(normal);
+    {
+        TextPainter text(dc, row, FW_BOLD);
+        text.Draw(date, DT_RIGHT);
+    }
+    {
+        RECT title = FirstRow(hwnd);
+        title.bottom = work.top;
+        TextPainter text(dc, title, FW_BOLD);
+        SetTextColor(dc, shell::kBarTextColor);
+        text.Draw(L"Today");
+    }
+    EndPaint(hwnd, &paint);
+}
+
+void PaintItems(HWND hwnd) {
+    PAINTSTRUCT paint;
+    const HDC dc = BeginPaint(hwnd, &paint);
+    RECT row = FirstRow(hwnd);
+    const RECT line = {0, 0, row.right + row.left, shell::Scale(1)};
+    shell::FillColor(dc, line, kLineColor);
+    TextPainter(dc, row, FW_BOLD).Draw(L"Lum Diary");
+    OffsetRect(&row, 0, row.bottom);
+    TextPainter text(dc, row, FW_NORMAL);
+    if (events.empty()) text.Draw(L"Nothing has happened yet.");
+    for (const std::wstring& event : events) text.Draw(event.c_str());
     EndPaint(hwnd, &paint);
 }
 
 LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_PAINT: Paint(hwnd); return 0;
+        case WM_PAINT: PaintScreen(hwnd); return 0;
         case TODAYM_GETCOLOR: return Color(wParam);
         case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
         case WM_WINDOWPOSCHANGING:
@@ -88,6 +140,15 @@ LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
                 Note(L"Today items reloaded", L"WM_WININICHANGE wParam=242");
             return 0;
         case WM_DESTROY: PostQuitMessage(0); return 0;
+    }
+    return DefWindowProcW(hwnd, message, wParam, lParam);
+}
+
+// On older devices plug-ins ask the Today screen's first child for its colours.
+LRESULT CALLBACK ItemsProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_PAINT: PaintItems(hwnd); return 0;
+        case TODAYM_GETCOLOR: return Color(wParam);
     }
     return DefWindowProcW(hwnd, message, wParam, lParam);
 }
@@ -104,7 +165,7 @@ LRESULT CALLBACK PluginProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 }
 
 HWND Create(const wchar_t* className, const wchar_t* title, WNDPROC procedure, DWORD style,
-            DWORD extendedStyle) {
+            DWORD extendedStyle, const RECT& area, HWND parent) {
     WNDCLASSW windowClass = {};
     windowClass.lpfnWndProc = procedure;
     windowClass.hInstance = GetModuleHandleW(nullptr);
@@ -112,19 +173,26 @@ HWND Create(const wchar_t* className, const wchar_t* title, WNDPROC procedure, D
     windowClass.hbrBackground = CreateSolidBrush(kBackground);
     windowClass.lpszClassName = className;
     RegisterClassW(&windowClass);
-    return CreateWindowExW(extendedStyle, className, title, style, 0, 0,
-                           GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr,
-                           nullptr, windowClass.hInstance, nullptr);
+    return CreateWindowExW(extendedStyle, className, title, style, area.left, area.top,
+                           area.right - area.left, area.bottom - area.top, parent, nullptr,
+                           windowClass.hInstance, nullptr);
 }
 
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
     updateMessage = RegisterWindowMessageW(L"LumDiary_UpdateSettings");
-    todayWindow = Create(L"DesktopExplorerWindow", L"Desktop", TodayProcedure, WS_POPUP,
-                         WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW);
-    Create(L"LumDiaryTimeHelperWnd_1.0", L"", PluginProcedure, WS_POPUP, WS_EX_NOACTIVATE);
-    ShowWindow(todayWindow, SW_SHOWNOACTIVATE);
+    const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    const HWND today =
+        Create(L"DesktopExplorerWindow", L"Desktop", TodayProcedure, WS_POPUP | WS_CLIPCHILDREN,
+               WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, screen, nullptr);
+    RECT items = shell::WorkArea();
+    items.top += shell::Scale(30);
+    itemsWindow =
+        Create(L"TodayItems", L"", ItemsProcedure, WS_CHILD | WS_VISIBLE, 0, items, today);
+    Create(L"LumDiaryTimeHelperWnd_1.0", L"", PluginProcedure, WS_POPUP, WS_EX_NOACTIVATE, screen,
+           nullptr);
+    ShowWindow(today, SW_SHOWNOACTIVATE);
     MSG message = {};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         TranslateMessage(&message);

@@ -201,7 +201,8 @@ TEST_F(Language, AMissingFileIsWrittenAsATemplate) {
     std::size_t last = 0;
     for (const wchar_t* line :
          {L"About|", L"Lum Diary Options|", L"Days shown:|", L"Groups span:|", L"7|",
-          L"Show in the calendar:|", L"Export...|", L"How it works|", L"Notes|", L"When active|",
+          L"Show in the calendar:|", L"Export...|", L"How it works|", L"When active|",
+          L"Category Icons|",
           L"Choose what the diary shows on your Today screen.\\n\\nTap an entry, set its pages as "
           L"you like them and tap ok. The diary follows when you close this program.|"}) {
         const std::wstring whole = std::wstring(L"\r\n") + line + L"\r\n";

@@ -212,6 +212,14 @@ void Select(HWND page, int control, int index) {
                  reinterpret_cast<LPARAM>(list));
 }
 
+void AskForHelp(HWND window) {
+    HELPINFO info = {};
+    info.cbSize = sizeof info;
+    info.iContextType = HELPINFO_WINDOW;
+    info.hItemHandle = window;
+    SendMessageW(window, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+}
+
 std::wstring Selected(HWND page, int control) {
     const LRESULT index = SendDlgItemMessageW(page, control, CB_GETCURSEL, 0, 0);
     wchar_t text[kTextLength] = {};

@@ -55,6 +55,8 @@ bool IsChecked(HWND page, int control);
 bool IsEnabled(HWND page, int control);
 void Click(HWND page, int control);
 void Select(HWND page, int control, int index);
+// As F1 does while the window has the focus.
+void AskForHelp(HWND window);
 // The text of the selected entry; empty when none is.
 std::wstring Selected(HWND page, int control);
 std::wstring MenuBarText(HWND parent, int index);

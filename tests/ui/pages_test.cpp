@@ -250,21 +250,27 @@ TEST_F(Pages, FocusScrollsALowPage) {
     Program program(L"-P1:0");
     const HWND page = Page(program.Sheet(L"Calendar options"), IDC_GROUP_SPAN);
     ASSERT_TRUE(page);
+    const HWND first = GetDlgItem(page, IDC_CALENDAR_PERIOD);
     const HWND last = GetDlgItem(page, IDC_GROUP_SPAN);
-    RECT client, rect;
-    GetClientRect(page, &client);
-    GetWindowRect(last, &rect);
-    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
-    ASSERT_GT(rect.bottom, client.bottom) << "this screen is not low enough";
-    SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(last), TRUE);
-    EXPECT_TRUE(Until([&] {
-        GetWindowRect(last, &rect);
+    const auto rectOf = [page](HWND control) {
+        RECT rect;
+        GetWindowRect(control, &rect);
         MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
-        return rect.bottom <= client.bottom;
-    }));
-    EXPECT_GT(GetScrollPos(page, SB_VERT), 0);
+        return rect;
+    };
+    RECT client;
+    GetClientRect(page, &client);
+    const LONG top = rectOf(first).top;
+    ASSERT_GT(rectOf(last).bottom, client.bottom) << "this screen is not low enough";
+    SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(last), TRUE);
+    EXPECT_TRUE(Until([&] { return rectOf(last).bottom <= client.bottom; }));
+    EXPECT_LT(rectOf(first).top, top);
+    SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+    EXPECT_TRUE(Until([&] { return rectOf(first).top == top; })) << rectOf(first).top;
+    SendMessageW(page, WM_VSCROLL, SB_BOTTOM, 0);
+    EXPECT_LE(rectOf(last).bottom, client.bottom);
     SendMessageW(page, WM_VSCROLL, SB_TOP, 0);
-    EXPECT_EQ(GetScrollPos(page, SB_VERT), 0);
+    EXPECT_EQ(rectOf(first).top, top);
 }
 
 }  // namespace

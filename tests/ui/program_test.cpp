@@ -162,12 +162,12 @@ TEST_F(Whole, HelpOpensAtThePagesAnchor) {
     Program program(L"-P1:2");
     const HWND page = Page(program.Sheet(L"Calendar options"), IDC_SHOW_TASKS);
     ASSERT_TRUE(page);
-    PostMessageW(GetDlgItem(page, IDC_SHOW_TASKS), WM_KEYDOWN, VK_F1, 0);
+    AskForHelp(GetDlgItem(page, IDC_SHOW_TASKS));
     EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == "LumDiary.htm#options_calendar_tasks\n"; }))
         << ReadBytes(kLog);
     ASSERT_TRUE(Cancel(program.Sheet(L"Calendar options")));
     DeleteFileW(kLog);
-    PostMessageW(program.Main(), WM_HELP, 0, 0);
+    AskForHelp(program.Main());
     EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == "LumDiary.htm#options_main_screen\n"; }))
         << ReadBytes(kLog);
     EXPECT_EQ(program.CloseAndWait(), 0u);
