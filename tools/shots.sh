@@ -27,12 +27,12 @@ take_picture() { # FILE
     local previous='' current=''
     for _ in $(seq 40); do
         sleep 0.15
-        current=$(import -display "$DISPLAY" -window root -depth 8 rgb:- | md5sum)
+        current=$(import-im6.q16 -display "$DISPLAY" -window root -depth 8 rgb:- | md5sum)
         [ "$current" != "$previous" ] || break
         previous=$current
     done
     mkdir -p "$(dirname "$1")"
-    import -display "$DISPLAY" -window root "$1"
+    import-im6.q16 -display "$DISPLAY" -window root "$1"
 }
 
 close_program() {

@@ -158,7 +158,8 @@ TEST(Device, FindsFunctionsByWideNameAndOrdinal) {
     EXPECT_EQ(GetProcAddress(coredll, MAKEINTRESOURCEW(9999)), nullptr);
 }
 
-// The help viewer lies in \Windows; it notes what it was asked for, and ends with 1 without the file.
+// The help viewer lies in \Windows; it notes what it was asked for, and ends with 1 without the
+// file.
 TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     DeleteFileW(L"\\peghelp.log");
     PROCESS_INFORMATION process = {};

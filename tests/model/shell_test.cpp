@@ -1,0 +1,400 @@
+// The stand-in shell and property sheets, as a program with one thread sees them.
+#include <aygshell.h>
+#include <commctrl.h>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kBar = 26;
+constexpr UINT kStep = WM_APP;
+
+RECT WorkArea() {
+    return {0, kBar, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) - kBar};
+}
+
+RECT RectOf(HWND hwnd) {
+    RECT rect = {};
+    GetWindowRect(hwnd, &rect);
+    return rect;
+}
+
+void Pump() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+// A program's main window, and what it was told.
+class Frame {
+  public:
+    Frame() {
+        WNDCLASSW windowClass = {};
+        windowClass.lpfnWndProc = Procedure;
+        windowClass.hInstance = GetModuleHandleW(nullptr);
+        windowClass.lpszClassName = L"Frame";
+        RegisterClassW(&windowClass);
+        SHInitExtraControls();
+        hwnd_ = CreateWindowExW(0, L"Frame", L"Frame", WS_OVERLAPPED, 0, kBar,
+                                GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) - kBar,
+                                nullptr, nullptr, windowClass.hInstance, nullptr);
+        commands.clear();
+        ShowWindow(hwnd_, SW_SHOW);
+    }
+    ~Frame() { DestroyWindow(hwnd_); }
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+    HWND hwnd() const { return hwnd_; }
+
+    HWND CreateMenuBar(DWORD flags) const {
+        SHMENUBARINFO info = {};
+        info.cbSize = sizeof info;
+        info.hwndParent = hwnd_;
+        info.dwFlags = flags;
+        info.nToolBarId = 100;
+        info.hInstRes = GetModuleHandleW(nullptr);
+        return SHCreateMenuBar(&info) ? info.hwndMB : nullptr;
+    }
+
+    static inline std::vector<int> commands;
+    static inline HMENU openedMenu = nullptr;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        switch (message) {
+            case WM_COMMAND: commands.push_back(LOWORD(wParam)); return 0;
+            case WM_INITMENUPOPUP:
+                openedMenu = reinterpret_cast<HMENU>(wParam);
+                EndMenu();
+                return 0;
+        }
+        return DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+
+    HWND hwnd_;
+};
+
+void Click(HWND hwnd, int x, int y) {
+    PostMessageW(hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    PostMessageW(hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    Pump();
+}
+
+TEST(MenuBar, AnswersAsAToolBar) {
+    const Frame frame;
+    const HWND bar = frame.CreateMenuBar(SHCMBF_HMENU);
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(SHFindMenuBar(frame.hwnd()), bar);
+    ASSERT_EQ(SendMessageW(bar, TB_BUTTONCOUNT, 0, 0), 2);
+    TBBUTTON buttons[2] = {};
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(SendMessageW(bar, TB_GETBUTTON, i, reinterpret_cast<LPARAM>(&buttons[i])));
+    }
+    EXPECT_NE(buttons[0].idCommand, 0);
+    EXPECT_EQ(buttons[1].idCommand, 202);
+
+    wchar_t text[32] = {};
+    TBBUTTONINFOW info = {};
+    info.cbSize = sizeof info;
+    info.dwMask = TBIF_TEXT | TBIF_LPARAM;
+    info.pszText = text;
+    info.cchText = 32;
+    const auto address = reinterpret_cast<LPARAM>(&info);
+    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, buttons[0].idCommand, address), 0);
+    EXPECT_STREQ(text, L"Edit");
+    EXPECT_EQ(GetMenuItemID(reinterpret_cast<HMENU>(info.lParam), 0), 201u);
+    info.dwMask = TBIF_TEXT | TBIF_LPARAM | TBIF_BYINDEX;
+    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 1, address), 1);
+    EXPECT_STREQ(text, L"Close");
+    EXPECT_EQ(info.lParam, 0u);
+
+    wchar_t changed[] = L"Schlie\u00DFen";
+    info.dwMask = TBIF_TEXT;
+    info.pszText = changed;
+    EXPECT_TRUE(SendMessageW(bar, TB_SETBUTTONINFOW, 202, address));
+    info.pszText = text;
+    info.cchText = 4;
+    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), 1);
+    EXPECT_STREQ(text, L"Sch");
+    info.cbSize = 32;  // the device's size
+    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), -1);
+    EXPECT_FALSE(SendMessageW(bar, TB_GETBUTTON, 2, reinterpret_cast<LPARAM>(&buttons[0])));
+}
+
+TEST(MenuBar, SendsCommandsAndOpensMenusForItsWindow) {
+    const Frame frame;
+    const HWND bar = frame.CreateMenuBar(SHCMBF_HMENU);
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    Click(bar, width - 10, 5);
+    EXPECT_EQ(frame.commands, std::vector<int>{202});
+    Frame::openedMenu = nullptr;
+    Click(bar, 10, 5);
+    EXPECT_EQ(reinterpret_cast<LRESULT>(Frame::openedMenu),
+              SendMessageW(bar, SHCMBM_GETSUBMENU, 0, 0xF000));
+    EnableWindow(frame.hwnd(), FALSE);
+    Click(bar, width - 10, 5);
+    EXPECT_EQ(frame.commands.size(), 1u);
+}
+
+TEST(MenuBar, ShowsWithItsWindowAndDiesWithIt) {
+    HWND bar = nullptr;
+    {
+        const Frame frame;
+        bar = frame.CreateMenuBar(SHCMBF_EMPTYBAR);
+        EXPECT_EQ(SendMessageW(bar, TB_BUTTONCOUNT, 0, 0), 0);
+        EXPECT_TRUE(IsWindowVisible(bar));
+        EXPECT_EQ(RectOf(bar).top, WorkArea().bottom);
+        {
+            const Frame over;
+            EXPECT_FALSE(IsWindowVisible(bar));
+            EXPECT_EQ(SHFindMenuBar(over.hwnd()), nullptr);
+        }
+        SetActiveWindow(frame.hwnd());
+        EXPECT_TRUE(IsWindowVisible(bar));
+        const HWND box = CreateWindowExW(0, L"EDIT", L"", WS_POPUP | WS_VISIBLE, 10, 60, 50, 50,
+                                         frame.hwnd(), nullptr, nullptr, nullptr);
+        SetActiveWindow(box);
+        EXPECT_TRUE(IsWindowVisible(bar)) << "under a small box";
+    }
+    EXPECT_FALSE(IsWindow(bar));
+}
+
+TEST(NavigationBar, ItsOkButtonServesTheActiveWindow) {
+    const Frame frame;
+    const HWND bar = FindWindowW(L"HHTaskBar", nullptr);
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(RectOf(bar).bottom, kBar);
+    const int x = GetSystemMetrics(SM_CXSCREEN) - 14;
+    Click(bar, x, kBar / 2);
+    EXPECT_TRUE(frame.commands.empty());
+    EXPECT_TRUE(SHDoneButton(frame.hwnd(), SHDB_SHOW));
+    Click(bar, x, kBar / 2);
+    EXPECT_EQ(frame.commands, std::vector<int>{IDOK});
+    Click(bar, x - 40, kBar / 2);
+    EXPECT_TRUE(SHDoneButton(frame.hwnd(), SHDB_HIDE));
+    Click(bar, x, kBar / 2);
+    EXPECT_EQ(frame.commands.size(), 1u);
+}
+
+INT_PTR CALLBACK NoMessages(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+
+TEST(FullScreenDialog, FillsTheWorkAreaUnlessItIsAPage) {
+    const Frame frame;
+    SHINITDLGINFO info = {};
+    info.dwMask = SHIDIM_FLAGS;
+    info.dwFlags = SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
+    info.hDlg = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(103), frame.hwnd(),
+                                   NoMessages, 0);
+    ASSERT_TRUE(SHInitDialog(&info));
+    const RECT area = WorkArea(), dialog = RectOf(info.hDlg);
+    EXPECT_TRUE(EqualRect(&dialog, &area));
+    EXPECT_FALSE(GetWindowLongW(info.hDlg, GWL_STYLE) & WS_CAPTION);
+    DestroyWindow(info.hDlg);
+
+    info.hDlg = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(101), frame.hwnd(),
+                                   NoMessages, 0);
+    const RECT before = RectOf(info.hDlg);
+    EXPECT_TRUE(SHInitDialog(&info));
+    const RECT after = RectOf(info.hDlg);
+    EXPECT_TRUE(EqualRect(&before, &after));
+    EXPECT_FALSE(SHDoneButton(info.hDlg, SHDB_SHOW));
+}
+
+TEST(Metrics, KnowTheTextSize) {
+    DWORD value = 0, needed = 0;
+    EXPECT_EQ(SHGetUIMetrics(SHUIM_FONTSIZE_PIXEL, &value, sizeof value, &needed), S_OK);
+    EXPECT_EQ(value, 11u);
+    EXPECT_EQ(needed, sizeof value);
+    EXPECT_NE(SHGetUIMetrics(SHUIM_FONTSIZE_PIXEL, &value, 2, &needed), S_OK);
+    EXPECT_NE(SHGetUIMetrics(SHUIM_INVALID, &value, sizeof value, &needed), S_OK);
+}
+
+// A sheet of two pages. What happens goes into the log; the steps run one after the other inside
+// the sheet's message loop.
+class SheetTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        log_.clear();
+        steps_.clear();
+        refusals_ = 0;
+        sheet_ = nullptr;
+        version_ = 524;
+    }
+
+    INT_PTR Run(std::vector<std::function<void()>> steps, DWORD flags = PSH_MAXIMIZE) {
+        steps_ = std::move(steps);
+        std::reverse(steps_.begin(), steps_.end());
+        HPROPSHEETPAGE pages[2];
+        for (int i = 0; i < 2; ++i) {
+            PROPSHEETPAGEW page = {};
+            page.dwSize = sizeof page;
+            page.hInstance = GetModuleHandleW(nullptr);
+            page.pszTemplate = MAKEINTRESOURCEW(101 + i);
+            page.pfnDlgProc = PageProcedure;
+            page.lParam = 1 + i;
+            pages[i] = CreatePropertySheetPageW(&page);
+        }
+        PROPSHEETHEADERW header = {};
+        header.dwSize = sizeof header;
+        header.dwFlags = PSH_USECALLBACK | flags;
+        header.hwndParent = frame_.hwnd();
+        header.pszCaption = L"Sheet";
+        header.nPages = 2;
+        header.phpage = pages;
+        header.pfnCallback = Callback;
+        header_ = &header;
+        return PropertySheetW(&header);
+    }
+
+    static HWND Page() {
+        return reinterpret_cast<HWND>(SendMessageW(sheet_, PSM_GETCURRENTPAGEHWND, 0, 0));
+    }
+    static HWND Tabs() {
+        return reinterpret_cast<HWND>(SendMessageW(sheet_, PSM_GETTABCONTROL, 0, 0));
+    }
+    static void Press(int id) { PostMessageW(sheet_, WM_COMMAND, id, 0); }
+
+    static inline std::string log_;
+    static inline HWND sheet_;
+    static inline int refusals_;
+    static inline int version_;
+
+  private:
+    static int CALLBACK Callback(HWND hwnd, UINT code, LPARAM lParam) {
+        switch (code) {
+            case PSCB_GETVERSION: log_ += hwnd ? "?" : "version "; return version_;
+            case PSCB_PRECREATE: log_ += hwnd || !lParam ? "?" : "precreate "; return 0;
+            case PSCB_INITIALIZED:
+                log_ += lParam == reinterpret_cast<LPARAM>(header_) ? "initialized " : "?";
+                sheet_ = hwnd;
+                PostMessageW(hwnd, kStep, 0, 0);
+                SetWindowSubclass(hwnd, SheetProcedure, 1, 0);
+                return 0;
+            case PSCB_GETTITLE: log_ += hwnd == sheet_ && lParam ? "title " : "?"; return 0;
+            case PSCB_GETLINKTEXT: log_ += hwnd == sheet_ && lParam ? "link " : "?"; return 0;
+        }
+        log_ += "?";
+        return 0;
+    }
+
+    static LRESULT CALLBACK SheetProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
+                                           UINT_PTR, DWORD_PTR) {
+        if (message == kStep && !steps_.empty()) {
+            const std::function<void()> step = std::move(steps_.back());
+            steps_.pop_back();
+            step();
+            PostMessageW(hwnd, kStep, 0, 0);
+            return 0;
+        }
+        return DefSubclassProc(hwnd, message, wParam, lParam);
+    }
+
+    static INT_PTR CALLBACK PageProcedure(HWND hwnd, UINT message, WPARAM, LPARAM lParam) {
+        if (message == WM_INITDIALOG) {
+            const LPARAM number = reinterpret_cast<const PROPSHEETPAGEW*>(lParam)->lParam;
+            SetWindowLongPtrW(hwnd, GWLP_USERDATA, number);
+            return TRUE;
+        }
+        if (message != WM_NOTIFY) return FALSE;
+        const char* name = nullptr;
+        LRESULT result = 0;
+        switch (reinterpret_cast<const NMHDR*>(lParam)->code) {
+            case PSN_SETACTIVE: name = "setactive"; break;
+            case PSN_KILLACTIVE: name = "killactive"; break;
+            case PSN_HELP: name = "help"; break;
+            case PSN_RESET: name = "reset"; break;
+            case PSN_APPLY:
+                name = "apply";
+                if (refusals_ > 0 && refusals_--) result = PSNRET_INVALID_NOCHANGEPAGE;
+                break;
+            default: return FALSE;
+        }
+        log_ += name + std::to_string(GetWindowLongPtrW(hwnd, GWLP_USERDATA)) + " ";
+        SetWindowLongPtrW(hwnd, DWLP_MSGRESULT, result);
+        return TRUE;
+    }
+
+    static inline std::vector<std::function<void()>> steps_;
+    static inline const PROPSHEETHEADERW* header_;
+    Frame frame_;
+};
+
+constexpr char kOpening[] = "version precreate initialized title link setactive1 ";
+
+TEST_F(SheetTest, OkAppliesTheCreatedPages) {
+    EXPECT_GT(Run({[] { Press(IDOK); }}), 0);
+    EXPECT_EQ(log_, std::string(kOpening) + "killactive1 apply1 ");
+    EXPECT_GT(Run({[] { SendMessageW(sheet_, PSM_SETCURSEL, 1, 0); }, [] { Press(IDOK); }}), 0);
+}
+
+TEST_F(SheetTest, ARefusedApplyKeepsTheSheet) {
+    refusals_ = 1;
+    EXPECT_GT(Run({[] { Press(IDOK); }, [] { log_ += "again "; }, [] { Press(IDOK); }}), 0);
+    EXPECT_EQ(log_, std::string(kOpening) + "killactive1 apply1 again killactive1 apply1 ");
+}
+
+TEST_F(SheetTest, CancelResetsAndReturnsZero) {
+    EXPECT_EQ(Run({[] { Press(IDCANCEL); }}), 0);
+    EXPECT_EQ(log_, std::string(kOpening) + "reset1 ");
+}
+
+TEST_F(SheetTest, HelpReachesTheCurrentPage) {
+    Run({[] { SendMessageW(sheet_, PSM_SETCURSEL, 1, 0); },
+         [] { SendMessageW(GetFocus(), WM_HELP, 0, 0); }, [] { Press(IDCANCEL); }});
+    EXPECT_EQ(log_, std::string(kOpening) + "killactive1 setactive2 help2 reset1 reset2 ");
+}
+
+TEST_F(SheetTest, ControlAndTabTurnThePages) {
+    const auto press = [] {
+        BYTE keys[256] = {};
+        keys[VK_CONTROL] = 0x80;
+        SetKeyboardState(keys);
+        PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
+    };
+    const auto nothing = [] {};
+    Run({press, nothing, press, nothing, [] { Press(IDCANCEL); }});
+    SetKeyboardState(std::vector<BYTE>(256).data());
+    EXPECT_EQ(log_, std::string(kOpening) +
+                        "killactive1 setactive2 killactive2 setactive1 reset1 reset2 ");
+}
+
+TEST_F(SheetTest, MaximizedItFillsTheWorkAreaWithTabsAtTheBottom) {
+    RECT sheet = {}, page = {}, tabs = {}, firstTab = {};
+    Run({[&] {
+             sheet = RectOf(sheet_);
+             page = RectOf(Page());
+             tabs = RectOf(Tabs());
+             SendMessageW(Tabs(), TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&firstTab));
+             EXPECT_FALSE(GetWindowLongW(sheet_, GWL_STYLE) & WS_CAPTION);
+             for (const int id : {IDOK, IDCANCEL, IDHELP}) {
+                 const HWND button = GetDlgItem(sheet_, id);
+                 EXPECT_FALSE(button && IsWindowVisible(button)) << id;
+             }
+         },
+         [] { Press(IDCANCEL); }});
+    const RECT area = WorkArea();
+    EXPECT_TRUE(EqualRect(&sheet, &area));
+    EXPECT_TRUE(EqualRect(&tabs, &area));
+    EXPECT_EQ(page.top, area.top);
+    EXPECT_EQ(page.right, area.right);
+    EXPECT_LE(page.bottom, area.top + firstTab.top);
+    EXPECT_GT(page.bottom, area.bottom - 30);
+}
+
+TEST_F(SheetTest, WithoutThePocketPcsVersionTheTabsStayAbove) {
+    version_ = 0;
+    Run({[] { EXPECT_FALSE(GetWindowLongW(Tabs(), GWL_STYLE) & TCS_BOTTOM); },
+         [] { EXPECT_GT(RectOf(Page()).top, WorkArea().top + 10); }, [] { Press(IDCANCEL); }});
+}
+
+TEST_F(SheetTest, WithoutTheFlagItHasItsButtons) {
+    Run({[] { EXPECT_TRUE(IsWindowVisible(GetDlgItem(sheet_, IDOK))); }, [] { Press(IDCANCEL); }},
+        0);
+}
+
+}  // namespace
