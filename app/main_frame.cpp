@@ -114,7 +114,7 @@ void MainFrame::CreateListView() {
 void MainFrame::FillListView() {
     const int width = GetSystemMetrics(SM_CXICON);
     const int height = GetSystemMetrics(SM_CYICON);
-    imageList_.Reset(ImageList_Create(width, height, ILC_MASK | ILC_COLOR32, 0, 1));
+    imageList_.Reset(ImageList_Create(width, height, ILC_MASK, 0, 1));
     SendMessageW(listView_, LVM_SETIMAGELIST, LVSIL_NORMAL,
                  reinterpret_cast<LPARAM>(imageList_.get()));
 

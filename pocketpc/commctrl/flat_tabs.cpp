@@ -12,12 +12,12 @@ constexpr COLORREF kLineColor = RGB(0x6B, 0x7C, 0x99);
 constexpr COLORREF kTextColor = RGB(0, 0, 0);
 
 // The selected tab has the page's colour and no line towards it.
-void PaintTab(HDC dc, HWND tabs, int index, int top) {
+void PaintTab(HDC dc, HWND tabs, int index) {
     RECT tab;
     if (!TabCtrl_GetItemRect(tabs, index, &tab)) return;
     const bool selected = index == TabCtrl_GetCurSel(tabs);
     const int line = shell::Scale(1);
-    tab.top = selected ? top : top + line;
+    if (!selected) tab.top += line;
     const RECT outline = {tab.left - line, tab.top, tab.right, tab.bottom};
     shell::FillColor(dc, outline, kLineColor);
     const RECT face = {tab.left, tab.top, tab.right - line, tab.bottom - line};
@@ -43,10 +43,9 @@ void Paint(HWND tabs) {
     GetClientRect(tabs, &area);
     RECT selected = {};
     TabCtrl_GetItemRect(tabs, TabCtrl_GetCurSel(tabs), &selected);
-    const int top = area.bottom - (selected.bottom - selected.top) - shell::Scale(1);
-    const RECT page = {area.left, area.top, area.right, top};
+    const RECT page = {area.left, area.top, area.right, selected.top};
     FillRect(dc, &page, GetSysColorBrush(COLOR_WINDOW));
-    const RECT row = {area.left, top, area.right, area.bottom};
+    const RECT row = {area.left, selected.top, area.right, area.bottom};
     shell::FillColor(dc, row, kRowColor);
     const RECT edge = {row.left, row.top, row.right, row.top + shell::Scale(1)};
     shell::FillColor(dc, edge, kLineColor);
@@ -54,7 +53,7 @@ void Paint(HWND tabs) {
     const HGDIOBJ oldFont = SelectObject(dc, font ? font : GetStockObject(SYSTEM_FONT));
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, kTextColor);
-    for (int i = 0; i < TabCtrl_GetItemCount(tabs); ++i) PaintTab(dc, tabs, i, top);
+    for (int i = 0; i < TabCtrl_GetItemCount(tabs); ++i) PaintTab(dc, tabs, i);
     SelectObject(dc, oldFont);
     EndPaint(tabs, &paint);
 }

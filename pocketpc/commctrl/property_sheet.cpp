@@ -138,14 +138,21 @@ class Sheet {
         TabCtrl_GetItemRect(tabs, std::max(0, TabCtrl_GetCurSel(tabs)), &tab);
         const HWND page = PropSheet_GetCurrentPageHwnd(hwnd);
         if (!page) return;
-        const int row = tab.bottom - tab.top + 1;
         if (GetWindowLongW(tabs, GWL_STYLE) & TCS_BOTTOM) {
-            area.bottom -= row;
+            area.bottom = area.top + tab.top;
         } else {
-            area.top += row;
+            area.top += tab.bottom;
         }
         SetWindowPos(page, HWND_TOP, 0, area.top, area.right, area.bottom - area.top,
                      SWP_NOACTIVATE);
+    }
+
+    // The focus must not stay behind on a page that is hidden now.
+    static void FocusPage(HWND hwnd) {
+        const HWND page = PropSheet_GetCurrentPageHwnd(hwnd);
+        const HWND focus = GetFocus();
+        if (!IsChild(hwnd, focus) || focus == PropSheet_GetTabControl(hwnd)) return;
+        if (!IsChild(page, focus)) SetFocus(GetNextDlgTabItem(page, nullptr, FALSE));
     }
 
     static LRESULT PassHelpToPage(HWND hwnd) {
@@ -182,6 +189,7 @@ class Sheet {
             message == PSM_SETCURSEL || newTab) {
             Layout(hwnd);
         }
+        if (message == PSM_SETCURSEL) FocusPage(hwnd);
         return result;
     }
 

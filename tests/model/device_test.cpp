@@ -90,7 +90,8 @@ TEST_F(Registry, RefusesWhatIsNoRootAndNoOpenKey) {
         EXPECT_EQ(RegSetValueExW(key, L"x", 0, REG_SZ, nullptr, 0), ERROR_INVALID_HANDLE) << value;
     }
     // A root comes as a pointer with or without an extended sign.
-    EXPECT_NE(Open(reinterpret_cast<HKEY>(std::uintptr_t{0x80000002}), kTestKey), nullptr);
+    const HKEY key = Open(reinterpret_cast<HKEY>(std::uintptr_t{0x80000002}), kTestKey);
+    EXPECT_EQ(RegCloseKey(key), ERROR_SUCCESS);
 }
 
 TEST_F(Registry, DeletesAKeyWithAllBelowItUnlessAnyIsOpen) {

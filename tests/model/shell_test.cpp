@@ -344,8 +344,9 @@ TEST_F(SheetTest, CancelResetsAndReturnsZero) {
 }
 
 TEST_F(SheetTest, HelpReachesTheCurrentPage) {
+    constexpr UINT kHelpKey = 0x4D;  // WM_KEYF1, what the system makes of the key
     Run({[] { SendMessageW(sheet_, PSM_SETCURSEL, 1, 0); },
-         [] { SendMessageW(GetFocus(), WM_HELP, 0, 0); }, [] { Press(IDCANCEL); }});
+         [] { SendMessageW(GetFocus(), kHelpKey, 0, 0); }, [] { Press(IDCANCEL); }});
     EXPECT_EQ(log_, std::string(kOpening) + "killactive1 setactive2 help2 reset1 reset2 ");
 }
 
@@ -356,8 +357,9 @@ TEST_F(SheetTest, ControlAndTabTurnThePages) {
         SetKeyboardState(keys);
         PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
     };
-    const auto nothing = [] {};
-    Run({press, nothing, press, nothing, [] { Press(IDCANCEL); }});
+    const auto focusIsOnThePage = [] { EXPECT_TRUE(IsChild(Page(), GetFocus())); };
+    Run({press, focusIsOnThePage, focusIsOnThePage, press, focusIsOnThePage, focusIsOnThePage,
+         [] { Press(IDCANCEL); }});
     SetKeyboardState(std::vector<BYTE>(256).data());
     EXPECT_EQ(log_, std::string(kOpening) +
                         "killactive1 setactive2 killactive2 setactive1 reset1 reset2 ");
