@@ -139,6 +139,10 @@ void MainFrame::FillListView() {
         SendMessageW(listView_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
         ++index;
     }
+    // Where the direction keys begin.
+    LVITEMW first = {};
+    first.stateMask = first.state = LVIS_FOCUSED;
+    SendMessageW(listView_, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&first));
 }
 
 bool MainFrame::OnCommand(int id) {
@@ -174,7 +178,8 @@ std::optional<LRESULT> MainFrame::OnNotify(const NMHDR& header) {
     if (header.hwndFrom != listView_) return std::nullopt;
     switch (header.code) {
         case LVN_ITEMACTIVATE: {
-            const int item = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
+            // A key activates the focused item and, other than a tap, need not say which that is.
+            const LRESULT item = SendMessageW(listView_, LVM_GETNEXTITEM, -1, LVNI_FOCUSED);
             if (item >= 0) Open(item, 0);
             return 0;
         }

@@ -58,6 +58,22 @@ TEST_F(Whole, ClosingWithoutAChangeTellsNothing) {
     EXPECT_EQ(Stored(L"ShowTabs"), 0xFFFFFFFFu);  // First read.
 }
 
+TEST_F(Whole, KeysAndTapsOpenEntries) {
+    Program program;
+    const HWND list = FindWindowExW(program.Main(), nullptr, L"SysListView32", nullptr);
+    ASSERT_TRUE(list);
+    PostMessageW(list, WM_KEYDOWN, VK_RIGHT, 0);
+    PostMessageW(list, WM_KEYDOWN, VK_RETURN, 0);
+    const HWND calendar = program.Sheet(L"Calendar options");
+    ASSERT_TRUE(calendar);
+    ASSERT_TRUE(Cancel(calendar));
+    const LPARAM general = MAKELPARAM(30, 20);
+    PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, general);
+    PostMessageW(list, WM_LBUTTONUP, 0, general);
+    EXPECT_TRUE(program.Sheet(L"General options"));
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
 TEST_F(Whole, CommandLineOpensPages) {
     struct Case {
         const wchar_t* arguments;
