@@ -1,8 +1,7 @@
-// Message boxes: the desktop makes them wider than the device's screen.
+// Message boxes that fit the device's screen; the desktop's may be wider than a small screen is.
 #include <windows.h>
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
 #include "pocketpc/shell_windows.h"
@@ -29,62 +28,63 @@ BOOL CALLBACK AddPart(HWND control, LPARAM parameter) {
     return TRUE;
 }
 
-RECT RectIn(HWND parent, HWND control) {
+RECT RectIn(HWND box, HWND control) {
     RECT rect;
     GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+    MapWindowPoints(nullptr, box, reinterpret_cast<POINT*>(&rect), 2);
     return rect;
 }
 
-// How much higher the text gets when its control loses `excess` pixels of width.
-int NarrowText(HWND box, HWND control, int excess) {
-    const RECT rect = RectIn(box, control);
-    std::wstring text(GetWindowTextLengthW(control) + 1, L'\0');
-    text.resize(GetWindowTextW(control, text.data(), static_cast<int>(text.size())));
-    RECT needed = {0, 0, rect.right - rect.left - excess, 0};
+int TextHeight(HWND control, int width) {
+    const int length = GetWindowTextLengthW(control);
+    std::vector<wchar_t> text(length + 1);
+    GetWindowTextW(control, text.data(), length + 1);
     const HDC dc = GetDC(control);
-    const HGDIOBJ oldFont =
+    const HGDIOBJ old =
         SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    DrawTextW(dc, text.c_str(), -1, &needed,
+    RECT rect = {0, 0, width, 0};
+    DrawTextW(dc, text.data(), length, &rect,
               DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
-    SelectObject(dc, oldFont);
+    SelectObject(dc, old);
     ReleaseDC(control, dc);
-    const int growth = std::max<int>(0, needed.bottom - (rect.bottom - rect.top));
-    MoveWindow(control, rect.left, rect.top, rect.right - rect.left - excess,
-               rect.bottom - rect.top + growth, FALSE);
-    return growth;
+    return rect.bottom;
 }
 
-void FitScreen(HWND box) {
+// Takes from the text what the box is too wide; the buttons stay a centred group below it.
+void FitToScreen(HWND box) {
+    const RECT area = shell::WorkArea();
     const int margin = shell::Scale(4);
+    const int boxWidth = area.right - 2 * margin;
     RECT window;
     GetWindowRect(box, &window);
-    const int width = GetSystemMetrics(SM_CXSCREEN) - 2 * margin;
-    const int excess = window.right - window.left - width;
+    const int excess = window.right - window.left - boxWidth;
     Parts parts;
     EnumChildWindows(box, AddPart, reinterpret_cast<LPARAM>(&parts));
     if (excess <= 0 || !parts.text) return;
-    const int growth = NarrowText(box, parts.text, excess);
+
+    const RECT text = RectIn(box, parts.text);
+    const int width = text.right - text.left - excess;
+    const int height = TextHeight(parts.text, width);
+    const int growth = std::max<int>(0, height - (text.bottom - text.top));
+    MoveWindow(parts.text, text.left, text.top, width, height, FALSE);
     for (const HWND button : parts.buttons) {
-        // They stay a centred group.
         const RECT rect = RectIn(box, button);
-        SetWindowPos(button, nullptr, rect.left - excess / 2, rect.top + growth, 0, 0,
-                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        MoveWindow(button, rect.left - excess / 2, rect.top + growth, rect.right - rect.left,
+                   rect.bottom - rect.top, FALSE);
     }
-    const RECT area = shell::WorkArea();
-    const int height = window.bottom - window.top + growth;
-    SetWindowPos(box, nullptr, margin,
-                 std::max<int>(area.top, (area.top + area.bottom - height) / 2), width, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    const int boxHeight = window.bottom - window.top + growth;
+    const int centred = (area.top + area.bottom - boxHeight) / 2;
+    MoveWindow(box, margin, std::max<int>(area.top, centred), boxWidth, boxHeight, FALSE);
 }
 
-// The box is laid out and not yet shown when it is activated.
-LRESULT CALLBACK OnBox(int code, WPARAM wParam, LPARAM lParam) {
+// The desktop lays the box out while it initialises its dialog; it has activated it before.
+LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = CallNextHookEx(nullptr, code, wParam, lParam);
-    if (code == HCBT_ACTIVATE && hook) {
+    const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+    if (code == HC_ACTION && message.message == WM_INITDIALOG && hook) {
         UnhookWindowsHookEx(hook);
         hook = nullptr;
-        FitScreen(reinterpret_cast<HWND>(wParam));
+        FitToScreen(message.hwnd);
     }
     return result;
 }
@@ -92,9 +92,9 @@ LRESULT CALLBACK OnBox(int code, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 extern "C" int WINAPI Pocket_MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type) {
-    hook = SetWindowsHookExW(WH_CBT, OnBox, nullptr, GetCurrentThreadId());
-    const int result = MessageBoxW(owner, text, caption, type);
+    hook = SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
+    const int answer = MessageBoxW(owner, text, caption, type);
     if (hook) UnhookWindowsHookEx(hook);
     hook = nullptr;
-    return result;
+    return answer;
 }

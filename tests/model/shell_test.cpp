@@ -181,6 +181,32 @@ TEST(NavigationBar, ItsOkButtonServesTheActiveWindow) {
     EXPECT_EQ(frame.commands.size(), 1u);
 }
 
+TEST(MessageBox, FitsTheScreenWithItsButtonsBelowTheText) {
+    static RECT box, text, button;
+    const auto look = [](HWND, UINT, UINT_PTR, DWORD) {
+        const HWND hwnd = FindWindowW(L"#32770", L"Box");
+        if (!hwnd || !IsWindowVisible(hwnd)) return;
+        box = RectOf(hwnd);
+        button = RectOf(GetDlgItem(hwnd, IDOK));
+        for (HWND child = GetWindow(hwnd, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+            if (GetWindowTextLengthW(child) > 100) text = RectOf(child);
+        }
+        PostMessageW(hwnd, WM_COMMAND, IDOK, 0);
+    };
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, look);
+    std::wstring words;
+    for (int i = 0; i < 40; ++i) words += L"some words ";
+    EXPECT_EQ(MessageBoxW(nullptr, words.c_str(), L"Box", MB_OK | MB_ICONINFORMATION), IDOK);
+    KillTimer(nullptr, timer);
+    const RECT area = WorkArea();
+    RECT shared;
+    ASSERT_TRUE(IntersectRect(&shared, &box, &area));
+    EXPECT_TRUE(EqualRect(&shared, &box)) << "reaches beyond the screen";
+    EXPECT_GT(text.right - text.left, 100);
+    EXPECT_GE(button.top, text.bottom);
+    EXPECT_LT(button.bottom, box.bottom);
+}
+
 INT_PTR CALLBACK NoMessages(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
 
 TEST(FullScreenDialog, FillsTheWorkAreaUnlessItIsAPage) {
