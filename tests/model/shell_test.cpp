@@ -195,7 +195,7 @@ TEST(MessageBox, FitsTheScreenWithItsButtonsBelowTheText) {
     };
     const UINT_PTR timer = SetTimer(nullptr, 0, 20, look);
     std::wstring words;
-    for (int i = 0; i < 40; ++i) words += L"some words ";
+    for (int i = 0; i < 16; ++i) words += L"some words ";
     EXPECT_EQ(MessageBoxW(nullptr, words.c_str(), L"Box", MB_OK | MB_ICONINFORMATION), IDOK);
     KillTimer(nullptr, timer);
     const RECT area = WorkArea();

@@ -1,4 +1,6 @@
 // Pages: what they show, what they store and when.
+#include <optional>
+
 #include "resources/ids.h"
 #include "tests/ui/device.h"
 
@@ -10,18 +12,24 @@ class Pages : public DeviceTest {};
 
 TEST_F(Pages, OkStoresTheShownPagesOnly) {
     Plugin plugin;
+    Put(L"CalendarShowUndatedTasks", 1);
     Program program(L"-P1:2");
     const HWND sheet = program.Sheet(L"Calendar options");
     const HWND page = Page(sheet, IDC_SHOW_TASKS);
     ASSERT_TRUE(page);
+    EXPECT_TRUE(IsChecked(page, IDC_SHOW_UNDATED_TASKS));
     Click(page, IDC_SHOW_TASKS);
+    for (const int control : {IDC_SHOW_UNDATED_TASKS, IDC_SHOW_OVERDUE_TASKS}) {
+        EXPECT_FALSE(IsEnabled(page, control) || IsChecked(page, control)) << control;
+    }
+    EXPECT_FALSE(IsEnabled(page, IDC_TASK_PLACEMENT));
     EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u) << "written before ok";
     ASSERT_TRUE(Ok(sheet));
     EXPECT_EQ(Stored(L"CalendarShowTasks"), 0u);
+    EXPECT_EQ(Stored(L"CalendarShowUndatedTasks"), 1u);
     EXPECT_EQ(Stored(L"CalendarShowOverdueTasks"), 1u);
     EXPECT_EQ(Stored(L"App_TaskShowMultiday"), 3u);
     EXPECT_EQ(Stored(L"CalendarPeriod"), std::nullopt);
-    EXPECT_EQ(Stored(L"CalendarShowPastAppts"), std::nullopt);
     EXPECT_TRUE(plugin.Updates().empty()) << "told before the program closed";
     EXPECT_EQ(program.CloseAndWait(), 0u);
     EXPECT_EQ(plugin.Updates(), (std::vector<Plugin::Update>{{0, 0}}));
@@ -29,91 +37,111 @@ TEST_F(Pages, OkStoresTheShownPagesOnly) {
 
 TEST_F(Pages, CancelChangesNoStoredValue) {
     Plugin plugin;
-    Put(L"CalendarShowTasks", 1);
     Put(L"CalendarShowOverdueTasks", 0);
     Program program(L"-P1:2");
     const HWND sheet = program.Sheet(L"Calendar options");
     const HWND page = Page(sheet, IDC_SHOW_TASKS);
     ASSERT_TRUE(page);
-    EXPECT_FALSE(IsChecked(page, IDC_SHOW_OVERDUE_TASKS));
     Click(page, IDC_SHOW_OVERDUE_TASKS);
     Click(page, IDC_SHOW_TASKS);
     Select(page, IDC_TASK_PLACEMENT, 0);
     ASSERT_TRUE(Cancel(sheet));
-    EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u);
+    EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u);  // First read.
     EXPECT_EQ(Stored(L"CalendarShowOverdueTasks"), 0u);
     EXPECT_EQ(Stored(L"App_TaskShowMultiday"), 3u);
     EXPECT_EQ(program.CloseAndWait(), 0u);
     EXPECT_TRUE(plugin.Updates().empty());
 }
 
-TEST_F(Pages, CalendarTasksKeepTheirValuesWhileOff) {
-    Put(L"CalendarShowUndatedTasks", 1);
-    Program program(L"-P1:2");
-    const HWND sheet = program.Sheet(L"Calendar options");
-    const HWND page = Page(sheet, IDC_SHOW_TASKS);
-    ASSERT_TRUE(page);
-    const int dependent[] = {IDC_SHOW_UNDATED_TASKS, IDC_SHOW_OVERDUE_TASKS,
-                             IDC_SHOW_COMPLETED_TASKS};
-    Click(page, IDC_SHOW_TASKS);
-    for (const int control : dependent) {
-        EXPECT_FALSE(IsEnabled(page, control)) << control;
-        EXPECT_FALSE(IsChecked(page, control)) << control;
-    }
-    EXPECT_FALSE(IsEnabled(page, IDC_TASK_PLACEMENT));
-    Click(page, IDC_SHOW_TASKS);
-    EXPECT_TRUE(IsEnabled(page, IDC_TASK_PLACEMENT));
-    EXPECT_TRUE(IsChecked(page, IDC_SHOW_UNDATED_TASKS));
-    EXPECT_TRUE(IsChecked(page, IDC_SHOW_OVERDUE_TASKS));
-    EXPECT_FALSE(IsChecked(page, IDC_SHOW_COMPLETED_TASKS));
-    Click(page, IDC_SHOW_TASKS);
-    ASSERT_TRUE(Ok(sheet));
-    EXPECT_EQ(Stored(L"CalendarShowTasks"), 0u);
-    EXPECT_EQ(Stored(L"CalendarShowUndatedTasks"), 1u);
-    EXPECT_EQ(Stored(L"CalendarShowOverdueTasks"), 1u);
-    EXPECT_EQ(Stored(L"CalendarShowCompletedTasks"), 0u);
-}
-
-TEST_F(Pages, EveryControlOfTheCalendarPagesIsStored) {
-    Program program(L"-P1:0");
-    const HWND sheet = program.Sheet(L"Calendar options");
-    const HWND common = Page(sheet, IDC_CALENDAR_PERIOD);
-    ASSERT_TRUE(common);
-    EXPECT_EQ(Selected(common, IDC_CALENDAR_PERIOD), L"7");
-    Select(common, IDC_CALENDAR_PERIOD, 0);
-    Select(common, IDC_FIRST_YEAR_WEEK, 2);
-    Select(common, IDC_GROUP_OFFSET, 0);
-    Select(common, IDC_GROUP_SPAN, 2);
-    for (const int control :
-         {IDC_COLLAPSE_BUT_TODAY, IDC_MARK_CONFLICTING, IDC_GROUP_TODAY, IDC_GROUP_WEATHER}) {
-        Click(common, control);
-    }
-    TurnTo(sheet, 1);
-    const HWND show = Page(sheet, IDC_SHOW_PAST);
-    ASSERT_TRUE(show);
-    for (const int control : {IDC_SHOW_PAST, IDC_SHOW_EMPTY_DAYS, IDC_SHOW_FREE,
-                              IDC_SHOW_TODAY_ALWAYS, IDC_SHOW_BIRTHDAYS, IDC_SHOW_EMAILS}) {
-        Click(show, control);
-    }
-    TurnTo(sheet, 2);
-    const HWND tasks = Page(sheet, IDC_SHOW_TASKS);
-    ASSERT_TRUE(tasks);
-    Select(tasks, IDC_TASK_PLACEMENT, 1);
-    ASSERT_TRUE(Ok(sheet));
-    const std::vector<std::pair<const wchar_t*, DWORD>> expected = {
-        {L"CalendarPeriod", 1},        {L"Calendar_FirstYearWeek", 2},
-        {L"AppGroup_Offset", 0},       {L"AppGroup_Span", 3},
-        {L"App_CollapseButToday", 0},  {L"App_MarkConflicting", 0},
-        {L"AppGroup_Today", 0},        {L"AppGroup_Weather", 0},
-        {L"CalendarShowPastAppts", 0}, {L"CalendarShowEmptyDays", 1},
-        {L"CalendarShowFreeAppts", 0}, {L"CalendarShowTodayAlways", 0},
-        {L"CalendarShowBirthdays", 0}, {L"CalendarShowEmails", 0},
-        {L"App_TaskShowMultiday", 1},  {L"dbgTextOffset", 4},
+// Every control is changed from its default; what it then stores is written out by hand.
+TEST_F(Pages, EveryControlIsStored) {
+    constexpr int kClick = -1;
+    struct Row {
+        int control;
+        int select;  // an index, or kClick
+        const wchar_t* name;
+        DWORD stored;
     };
-    for (const auto& [name, value] : expected) {
-        EXPECT_EQ(Stored(name), value) << testing::PrintToString(name);
+    struct Tab {
+        int entry, page;
+        const wchar_t* sheet;
+        std::vector<Row> rows;
+    };
+    const std::vector<Tab> tabs = {
+        {0,
+         0,
+         L"General options",
+         {{IDC_TIMEOUT_TIME, 2, L"TimeoutTime", 14400},
+          {IDC_TIMEOUT_VIEW, 5, L"TimeoutView", 6},
+          {IDC_KEYBOARD_SUPPORT, 1, L"AdvancedKeyboardSupport", 1},
+          {IDC_PHONE_BACKSPACE, kClick, L"PhoneKeyb_DisableBackspace", 1}}},
+        {1,
+         0,
+         L"Calendar options",
+         {{IDC_CALENDAR_PERIOD, 0, L"CalendarPeriod", 1},
+          {IDC_FIRST_YEAR_WEEK, 2, L"Calendar_FirstYearWeek", 2},
+          {IDC_GROUP_OFFSET, 0, L"AppGroup_Offset", 0},
+          {IDC_GROUP_SPAN, 2, L"AppGroup_Span", 3},
+          {IDC_COLLAPSE_BUT_TODAY, kClick, L"App_CollapseButToday", 0},
+          {IDC_MARK_CONFLICTING, kClick, L"App_MarkConflicting", 0},
+          {IDC_GROUP_TODAY, kClick, L"AppGroup_Today", 0},
+          {IDC_GROUP_WEATHER, kClick, L"AppGroup_Weather", 0}}},
+        {1,
+         1,
+         L"Calendar options",
+         {{IDC_SHOW_PAST, kClick, L"CalendarShowPastAppts", 0},
+          {IDC_SHOW_EMPTY_DAYS, kClick, L"CalendarShowEmptyDays", 1},
+          {IDC_SHOW_FREE, kClick, L"CalendarShowFreeAppts", 0},
+          {IDC_SHOW_TODAY_ALWAYS, kClick, L"CalendarShowTodayAlways", 0},
+          {IDC_SHOW_BIRTHDAYS, kClick, L"CalendarShowBirthdays", 0},
+          {IDC_SHOW_EMAILS, kClick, L"CalendarShowEmails", 0}}},
+        {1,
+         2,
+         L"Calendar options",
+         {{IDC_SHOW_UNDATED_TASKS, kClick, L"CalendarShowUndatedTasks", 1},
+          {IDC_SHOW_OVERDUE_TASKS, kClick, L"CalendarShowOverdueTasks", 0},
+          {IDC_SHOW_COMPLETED_TASKS, kClick, L"CalendarShowCompletedTasks", 1},
+          {IDC_TASK_PLACEMENT, 1, L"App_TaskShowMultiday", 1}}},
+        {2,
+         0,
+         L"Task options",
+         {{IDC_TASK_COMPLETION_MESSAGE, kClick, L"Task_DisplayComplMsg", 0},
+          {IDC_TASKS_ALL_CATEGORIES, kClick, L"ShowTasksInAllCategories", 1},
+          {IDC_TASKS_COMPLETED, kClick, L"TasksShowCompletedTasks", 1},
+          {IDC_TASKS_ACTIVE, kClick, L"TasksShowActiveTasks", 1}}},
+        {6,
+         0,
+         L"Special event options",
+         {{IDC_SPECIAL_PERIOD, 6, L"SpecialPeriod", 6},
+          {IDC_SPECIAL_BIRTHDAYS, kClick, L"SpecialShowBirthdays", 0}}},
+    };
+    OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
+    Program program;
+    for (const Tab& tab : tabs) {
+        program.Open(tab.entry, tab.page);
+        const HWND sheet = program.Sheet(tab.sheet);
+        const HWND page = Page(sheet, tab.rows.front().control);
+        ASSERT_TRUE(page) << tab.entry << ":" << tab.page;
+        for (const Row& row : tab.rows) {
+            if (row.select == kClick) {
+                Click(page, row.control);
+            } else {
+                Select(page, row.control, row.select);
+            }
+        }
+        if (tab.entry == 2) {
+            EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Whole subject for selected");
+            Select(page, IDC_TASK_SUBJECT, 0);
+        }
+        ASSERT_TRUE(Ok(sheet));
     }
-    EXPECT_EQ(Stored(L"CalendarShowTransactions"), std::nullopt);
+    for (const Tab& tab : tabs) {
+        for (const Row& row : tab.rows) {
+            EXPECT_EQ(Stored(row.name), row.stored) << testing::PrintToString(row.name);
+        }
+    }
+    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"xp2yz");
+    EXPECT_EQ(Stored(L"dbgTextOffset"), 4u);
 }
 
 TEST_F(Pages, TransactionsNeedTheFinanceProgram) {
@@ -137,37 +165,12 @@ TEST_F(Pages, TransactionsNeedTheFinanceProgram) {
         const HWND page = Page(special, IDC_SPECIAL_TRANSACTIONS);
         ASSERT_TRUE(page);
         EXPECT_EQ(IsEnabled(page, IDC_SPECIAL_TRANSACTIONS), present);
-        EXPECT_EQ(IsChecked(page, IDC_SPECIAL_TRANSACTIONS), present);
         EXPECT_EQ(SendDlgItemMessageW(page, IDC_SPECIAL_PERIOD, CB_GETCURSEL, 0, 0), 3);
-        Select(page, IDC_SPECIAL_PERIOD, 6);
-        Click(page, IDC_SPECIAL_BIRTHDAYS);
         ASSERT_TRUE(Ok(special));
         EXPECT_EQ(Stored(L"SpecialShowTransactions"), present ? 1u : 0u);
-        EXPECT_EQ(Stored(L"SpecialShowBirthdays"), 0u);
-        EXPECT_EQ(Stored(L"SpecialPeriod"), 6u);
         EXPECT_EQ(program.CloseAndWait(), 0u);
     }
     DeleteFileW(kLibrary);
-}
-
-TEST_F(Pages, TasksPageEditsTheDigitOfThePattern) {
-    OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
-    Program program(L"-P2:0");
-    const HWND sheet = program.Sheet(L"Task options");
-    const HWND page = Page(sheet, IDC_TASK_SUBJECT);
-    ASSERT_TRUE(page);
-    EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Whole subject for selected");
-    Select(page, IDC_TASK_SUBJECT, 0);
-    for (const int control : {IDC_TASK_COMPLETION_MESSAGE, IDC_TASKS_ALL_CATEGORIES,
-                              IDC_TASKS_COMPLETED, IDC_TASKS_ACTIVE}) {
-        Click(page, control);
-    }
-    ASSERT_TRUE(Ok(sheet));
-    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"xp2yz");
-    EXPECT_EQ(Stored(L"Task_DisplayComplMsg"), 0u);
-    EXPECT_EQ(Stored(L"ShowTasksInAllCategories"), 1u);
-    EXPECT_EQ(Stored(L"TasksShowCompletedTasks"), 1u);
-    EXPECT_EQ(Stored(L"TasksShowActiveTasks"), 1u);
 }
 
 TEST_F(Pages, ReturnTimeAndItsSwitch) {
@@ -178,57 +181,43 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
         bool click;
         DWORD saved;
     };
+    Program program;
     for (const Case& c : {
              Case{0, false, L"15 min", false, 0},
              Case{0, false, L"15 min", true, 900},
              Case{3600, true, L"1 hr", true, 0},
-             Case{28800, true, L"8 hr", false, 28800},
              Case{120, true, L"15 min", false, 900},
          }) {
         Put(L"TimeoutTime", c.stored);
-        Program program(L"-P0:0");
+        program.Open(0, 0);
         const HWND sheet = program.Sheet(L"General options");
         const HWND page = Page(sheet, IDC_TIMEOUT_ON);
         ASSERT_TRUE(page);
         EXPECT_EQ(IsChecked(page, IDC_TIMEOUT_ON), c.on);
-        EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_TIME), c.on);
-        EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_VIEW), c.on);
-        EXPECT_TRUE(IsEnabled(page, IDC_KEYBOARD_SUPPORT));
         EXPECT_EQ(Selected(page, IDC_TIMEOUT_TIME), c.shown);
-        if (c.click) {
-            Click(page, IDC_TIMEOUT_ON);
-            EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_TIME), !c.on);
-        }
-        Select(page, IDC_TIMEOUT_VIEW, 5);
-        Select(page, IDC_KEYBOARD_SUPPORT, 1);
-        Click(page, IDC_PHONE_BACKSPACE);
+        if (c.click) Click(page, IDC_TIMEOUT_ON);
+        EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_TIME), c.on != c.click);
+        EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_VIEW), c.on != c.click);
+        EXPECT_TRUE(IsEnabled(page, IDC_KEYBOARD_SUPPORT));
         ASSERT_TRUE(Ok(sheet));
         EXPECT_EQ(Stored(L"TimeoutTime"), c.saved);
-        EXPECT_EQ(Stored(L"TimeoutView"), 6u);
-        EXPECT_EQ(Stored(L"AdvancedKeyboardSupport"), 1u);
-        EXPECT_EQ(program.CloseAndWait(), 0u);
     }
-    EXPECT_EQ(Stored(L"PhoneKeyb_DisableBackspace"), 1u);  // Five clicks.
 }
 
 TEST_F(Pages, ValuesOfAnyTypeAndUnlistedNumbers) {
-    const wchar_t* const names[] = {
-        L"CalendarPeriod",  L"Calendar_FirstYearWeek", L"CalendarShowTasks",
-        L"AppGroup_Offset", L"App_TaskShowMultiday",   L"TimeoutTime",
-        L"SpecialPeriod",   L"CurTaskPattern",         L"ShowTabs",
-    };
     const std::wstring text(600, L'9');
     {
         CSettingsKey key = OpenProductKey();
-        for (const wchar_t* name : names) key.WriteString(name, text.c_str());
+        for (const wchar_t* name :
+             {L"CalendarShowTasks", L"AppGroup_Offset", L"App_TaskShowMultiday", L"SpecialPeriod",
+              L"CurTaskPattern", L"ShowTabs"}) {
+            key.WriteString(name, text.c_str());
+        }
         key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
         key.WriteDword(L"Calendar_FirstYearWeek", 77);
         key.WriteDword(L"CalendarPeriod", 0x80000000);
     }
-    Program program(L"-P1:0 -P6:0");
-    const HWND special = program.Sheet(L"Special event options");
-    ASSERT_TRUE(Page(special, IDC_SPECIAL_PERIOD));
-    ASSERT_TRUE(Ok(special));
+    Program program(L"-P1:0");
     const HWND sheet = program.Sheet(L"Calendar options");
     const HWND page = Page(sheet, IDC_CALENDAR_PERIOD);
     ASSERT_TRUE(page);
@@ -242,7 +231,6 @@ TEST_F(Pages, ValuesOfAnyTypeAndUnlistedNumbers) {
     EXPECT_EQ(Stored(L"CalendarPeriod"), 0x80000000u);
     EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u);
     EXPECT_EQ(Stored(L"App_TaskShowMultiday"), 3u);
-    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"9");
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
@@ -264,13 +252,10 @@ TEST_F(Pages, FocusScrollsALowPage) {
     ASSERT_GT(rectOf(last).bottom, client.bottom) << "this screen is not low enough";
     SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(last), TRUE);
     EXPECT_TRUE(Until([&] { return rectOf(last).bottom <= client.bottom; }));
-    EXPECT_LT(rectOf(first).top, top);
     SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
     EXPECT_TRUE(Until([&] { return rectOf(first).top == top; })) << rectOf(first).top;
     SendMessageW(page, WM_VSCROLL, SB_BOTTOM, 0);
     EXPECT_LE(rectOf(last).bottom, client.bottom);
-    SendMessageW(page, WM_VSCROLL, SB_TOP, 0);
-    EXPECT_EQ(rectOf(first).top, top);
 }
 
 }  // namespace

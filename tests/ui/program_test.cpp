@@ -49,15 +49,6 @@ TEST_F(Whole, UpdateMessageTellsWhetherTabsChanged) {
     }
 }
 
-TEST_F(Whole, ClosingWithoutAChangeTellsNothing) {
-    Plugin plugin;
-    Program program;
-    ASSERT_TRUE(program.Main());
-    EXPECT_EQ(program.CloseAndWait(), 0u);
-    EXPECT_TRUE(plugin.Updates().empty());
-    EXPECT_EQ(Stored(L"ShowTabs"), 0xFFFFFFFFu);  // First read.
-}
-
 TEST_F(Whole, KeysAndTapsOpenEntries) {
     Program program;
     const HWND list = FindWindowExW(program.Main(), nullptr, L"SysListView32", nullptr);
@@ -119,30 +110,18 @@ TEST_F(Whole, ClosingCancelsWhatIsOpen) {
     EXPECT_TRUE(plugin.Updates().empty());
 }
 
-TEST_F(Whole, AboutIsADialogOverTheMainWindow) {
+TEST_F(Whole, MenuCommands) {
     Program program;
     const HWND main = program.Main();
-    ASSERT_TRUE(main);
-    PostMessageW(main, WM_COMMAND, ID_APP_ABOUT, 0);
-    HWND about = program.Sheet(L"About");
-    ASSERT_TRUE(about);
-    EXPECT_FALSE(IsWindowEnabled(main));
-    EXPECT_EQ(Text(about, IDC_ABOUT_NAME), L"Lum Diary Options");
-    EXPECT_TRUE(Ok(about));
-    PostMessageW(main, WM_COMMAND, ID_APP_ABOUT, 0);
-    ASSERT_TRUE(program.Sheet(L"About"));
-    EXPECT_EQ(program.CloseAndWait(), 0u);
-}
-
-TEST_F(Whole, TheMenusInformationBox) {
-    Program program;
-    const HWND main = program.Main();
-    ASSERT_TRUE(main);
     PostMessageW(main, WM_COMMAND, IDM_ABOUT_BOX, 0);
     const HWND box = program.Sheet(L"Lum Diary Options");
     ASSERT_TRUE(box);
-    PostMessageW(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(Until([&] { return !IsWindow(box); }));
+    EXPECT_TRUE(Ok(box));
+    PostMessageW(main, WM_COMMAND, ID_APP_ABOUT, 0);
+    const HWND about = program.Sheet(L"About");
+    ASSERT_TRUE(about);
+    EXPECT_FALSE(IsWindowEnabled(main));
+    EXPECT_TRUE(Ok(about));
     PostMessageW(main, WM_COMMAND, ID_APP_EXIT, 0);
     EXPECT_EQ(program.WaitForExit(), 0u);
 }
