@@ -124,6 +124,8 @@ void MainFrame::FillListView() {
     column.pszText = columnName;
     SendMessageW(listView_, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
 
+    // Measured and arranged once, not after each entry.
+    SendMessageW(listView_, WM_SETREDRAW, FALSE, 0);
     int index = 0;
     for (const MainEntry& entry : MainEntries()) {
         const OwnedIcon icon(static_cast<HICON>(LoadImageW(
@@ -139,6 +141,7 @@ void MainFrame::FillListView() {
         SendMessageW(listView_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
         ++index;
     }
+    SendMessageW(listView_, WM_SETREDRAW, TRUE, 0);
     // Where the direction keys begin.
     LVITEMW first = {};
     first.stateMask = first.state = LVIS_FOCUSED;

@@ -32,7 +32,8 @@ OptionsPage::OptionsPage(unsigned templateId, const wchar_t* anchor, std::vector
 
 HPROPSHEETPAGE OptionsPage::CreateHandle() {
     // The system would accept a page without a template and fail to show it later.
-    if (!FindResourceW(ResourceLibrary(), MAKEINTRESOURCEW(templateId()), RT_DIALOG)) return nullptr;
+    if (!FindResourceW(ResourceLibrary(), MAKEINTRESOURCEW(templateId()), RT_DIALOG))
+        return nullptr;
     PROPSHEETPAGEW page = {};
     page.dwSize = sizeof page;
     page.hInstance = ResourceLibrary();

@@ -12,8 +12,8 @@
 // not fit a row it adds by overriding OnLoad, OnSave and OnUpdate.
 class OptionsPage : public FullScreenDialog, protected PageControls {
   public:
-    // The record by which a property sheet creates the page, which must outlive the sheet; null when the
-    // resource library lacks its template.
+    // The record by which a property sheet creates the page, which must outlive the sheet; null
+    // when the resource library lacks its template.
     HPROPSHEETPAGE CreateHandle();
 
   protected:

@@ -26,7 +26,8 @@ class OptionsSheet {
     // The page shown first, or, while the sheet is open, now. A page the sheet lacks counts as the
     // first.
     void SetActivePage(int index);
-    // Positive when confirmed, 0 when cancelled or without pages, -1 when the sheet could not be opened.
+    // Positive when confirmed, 0 when cancelled or without pages, -1 when the sheet could not be
+    // opened.
     INT_PTR DoModal(HWND parent);
 
   private:

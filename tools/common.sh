@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What every command of the project shares; to be sourced. Needs ROOT, the checkout.
 
 say() { printf '== %s\n' "$*"; }

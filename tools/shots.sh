@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Driving the program on a virtual display and taking pictures of it; functions to be sourced after
 # wine.sh. Needs BIN, the folder of the built programs.
 

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Wine prefixes, displays and device folders, as functions to be sourced. Needs ROOT, the checkout.
 #
 # A prefix takes seconds to make, so one template per density is made once and cloned. A session needs its
@@ -7,7 +8,7 @@ WINE_DIR=$ROOT/build/wine
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=,winemenubuilder.exe=d" LC_ALL=C.UTF-8
 
 # Changes with what make_template does, so that an older template is made anew.
-TEMPLATE_VERSION=1
+TEMPLATE_VERSION=2
 
 quietly() { "$@" </dev/null >/dev/null 2>&1; }
 
@@ -36,6 +37,8 @@ make_template() {
     quietly wineserver -k
     quietly wineserver -w
     clone_prefix "$template" "$WINE_DIR/template-192"
+    # Its outlines are not bold at this size; without it Wine emboldens the regular face.
+    rm -f "$WINE_DIR/template-192/drive_c/windows/Fonts/tahomabd.ttf"
     export WINEPREFIX=$WINE_DIR/template-192
     quietly wineserver -p
     reg_add 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD 192
@@ -93,10 +96,4 @@ furnish_device() { # DEVICE BIN
     cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$1/Windows/"
     [ -f "$1/device.ini" ] ||
         printf '[device]\r\nhive=Default\r\nversion=5.2.19208\r\nplatform=PocketPC\r\n' >"$1/device.ini"
-}
-
-on_device() { # DEVICE PROGRAM ARGUMENTS...: runs a program with the device as current drive
-    local device=$1
-    shift
-    (cd "$device" && WINEPATH=${WINEPATH:-} wine "$@")
 }

@@ -83,8 +83,8 @@ class MenuBar {
     }
 
   private:
-    // Where no window manager runs, Wine raises the focused window even above topmost ones. A window
-    // that reaches under the bar therefore leaves the bar's place free.
+    // Where no window manager runs, Wine raises the focused window even above topmost ones. A
+    // window that reaches under the bar therefore leaves the bar's place free.
     void CutFromRoot() const {
         const HWND root = GetAncestor(parent_, GA_ROOT);
         RECT window, bar, cut;
@@ -245,6 +245,7 @@ class MenuBar {
                 const RECT separator = {rect.left, margin, rect.left + line, rect.bottom - margin};
                 shell::FillColor(dc, separator, shell::kBarLineColor);
             }
+            InflateRect(&rect, -2 * line, 0);
             DrawTextW(dc, buttons_[i].text.c_str(), -1, &rect,
                       DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX);
         }

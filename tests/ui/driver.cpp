@@ -238,6 +238,18 @@ std::wstring MenuBarText(HWND parent, int index) {
                       &TBBUTTONINFOW::pszText);
 }
 
+bool PressInMenu(HWND parent, int index, wchar_t key) {
+    const HWND bar = SHFindMenuBar(parent);
+    RECT area;
+    GetClientRect(bar, &area);
+    const LPARAM middle = MAKELPARAM(area.right * (2 * index + 1) / 4, area.bottom / 2);
+    PostMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+    PostMessageW(bar, WM_LBUTTONUP, 0, middle);
+    const bool opened = Until([] { return IsWindowVisible(FindWindowW(L"#32768", nullptr)); });
+    PostMessageW(parent, WM_CHAR, key, 0);
+    return opened;
+}
+
 Plugin::Plugin() {
     WNDCLASSW windowClass = {};
     windowClass.lpfnWndProc = Procedure;

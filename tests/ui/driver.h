@@ -60,6 +60,9 @@ void AskForHelp(HWND window);
 // The text of the selected entry; empty when none is.
 std::wstring Selected(HWND page, int control);
 std::wstring MenuBarText(HWND parent, int index);
+// Opens a menu of the menu bar by a tap and presses a mnemonic in it. Other processes' menus cannot
+// be read.
+bool PressInMenu(HWND parent, int index, wchar_t key);
 
 // The plug-in's window, which notes the update messages it receives.
 class Plugin {

@@ -23,6 +23,11 @@ TEST_F(Pages, OkStoresTheShownPagesOnly) {
         EXPECT_FALSE(IsEnabled(page, control) || IsChecked(page, control)) << control;
     }
     EXPECT_FALSE(IsEnabled(page, IDC_TASK_PLACEMENT));
+    Click(page, IDC_SHOW_TASKS);
+    EXPECT_TRUE(IsChecked(page, IDC_SHOW_UNDATED_TASKS) && IsChecked(page, IDC_SHOW_OVERDUE_TASKS));
+    EXPECT_FALSE(IsChecked(page, IDC_SHOW_COMPLETED_TASKS));
+    EXPECT_TRUE(IsEnabled(page, IDC_TASK_PLACEMENT));
+    Click(page, IDC_SHOW_TASKS);
     EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u) << "written before ok";
     ASSERT_TRUE(Ok(sheet));
     EXPECT_EQ(Stored(L"CalendarShowTasks"), 0u);
@@ -204,33 +209,99 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
     }
 }
 
-TEST_F(Pages, ValuesOfAnyTypeAndUnlistedNumbers) {
+// What is too long for a number counts as missing, under whatever type it is stored.
+TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
+    struct Value {
+        const wchar_t* name;
+        DWORD defaultValue;
+    };
+    const Value values[] = {
+        {L"ShowTabs", 0xFFFFFFFF},
+        {L"TimeoutTime", 900},
+        {L"TimeoutView", 1},
+        {L"AdvancedKeyboardSupport", 0},
+        {L"PhoneKeyb_DisableBackspace", 0},
+        {L"CalendarPeriod", 7},
+        {L"Calendar_FirstYearWeek", 0},
+        {L"App_CollapseButToday", 1},
+        {L"App_MarkConflicting", 1},
+        {L"AppGroup_Today", 1},
+        {L"AppGroup_Weather", 1},
+        {L"AppGroup_Offset", 1},
+        {L"AppGroup_Span", 1},
+        {L"CalendarShowPastAppts", 1},
+        {L"CalendarShowEmptyDays", 0},
+        {L"CalendarShowFreeAppts", 1},
+        {L"CalendarShowTodayAlways", 1},
+        {L"CalendarShowBirthdays", 1},
+        {L"CalendarShowEmails", 1},
+        {L"CalendarShowTasks", 1},
+        {L"CalendarShowUndatedTasks", 0},
+        {L"CalendarShowOverdueTasks", 1},
+        {L"CalendarShowCompletedTasks", 0},
+        {L"App_TaskShowMultiday", 3},
+        {L"Task_DisplayComplMsg", 1},
+        {L"ShowTasksInAllCategories", 0},
+        {L"TasksShowCompletedTasks", 0},
+        {L"TasksShowActiveTasks", 0},
+        {L"SpecialPeriod", 0},
+        {L"SpecialShowBirthdays", 1},
+        {L"SpecialShowTransactions", 0},
+        {L"dbgTextOffset", 4},
+    };
+    struct Tab {
+        int entry, page;
+        const wchar_t* sheet;
+        int control;
+    };
+    const Tab tabs[] = {
+        {0, 0, L"General options", IDC_TIMEOUT_ON},
+        {1, 0, L"Calendar options", IDC_CALENDAR_PERIOD},
+        {1, 1, L"Calendar options", IDC_SHOW_PAST},
+        {1, 2, L"Calendar options", IDC_SHOW_TASKS},
+        {2, 0, L"Task options", IDC_TASK_SUBJECT},
+        {6, 0, L"Special event options", IDC_SPECIAL_BIRTHDAYS},
+    };
     const std::wstring text(600, L'9');
-    {
-        CSettingsKey key = OpenProductKey();
-        for (const wchar_t* name :
-             {L"CalendarShowTasks", L"AppGroup_Offset", L"App_TaskShowMultiday", L"SpecialPeriod",
-              L"CurTaskPattern", L"ShowTabs"}) {
-            key.WriteString(name, text.c_str());
+    for (const bool asText : {true, false}) {
+        SetUp();
+        {
+            CSettingsKey key = OpenProductKey();
+            for (const Value& value : values) {
+                asText ? key.WriteString(value.name, text.c_str())
+                       : key.WriteBinary(value.name, "\2\2\2\2\2", 5);
+            }
+            asText ? key.WriteString(L"CurTaskPattern", text.c_str())
+                   : key.WriteBinary(L"CurTaskPattern", "\2", 1);
+            key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
         }
-        key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
-        key.WriteDword(L"Calendar_FirstYearWeek", 77);
-        key.WriteDword(L"CalendarPeriod", 0x80000000);
+        Program program;
+        for (const Tab& tab : tabs) {
+            program.Open(tab.entry, tab.page);
+            const HWND sheet = program.Sheet(tab.sheet);
+            ASSERT_TRUE(Page(sheet, tab.control)) << tab.entry << ":" << tab.page;
+            ASSERT_TRUE(Ok(sheet));
+        }
+        EXPECT_EQ(program.CloseAndWait(), 0u);
+        for (const Value& value : values) {
+            EXPECT_EQ(Stored(value.name), value.defaultValue)
+                << testing::PrintToString(value.name) << (asText ? " text" : " bytes");
+        }
     }
+}
+
+TEST_F(Pages, UnlistedNumbersShowNothingAndStay) {
+    Put(L"Calendar_FirstYearWeek", 77);
+    Put(L"CalendarPeriod", 0x80000000);
     Program program(L"-P1:0");
     const HWND sheet = program.Sheet(L"Calendar options");
     const HWND page = Page(sheet, IDC_CALENDAR_PERIOD);
     ASSERT_TRUE(page);
     EXPECT_EQ(Selected(page, IDC_CALENDAR_PERIOD), L"");
     EXPECT_EQ(Selected(page, IDC_FIRST_YEAR_WEEK), L"");
-    EXPECT_EQ(Selected(page, IDC_GROUP_OFFSET), L"1");
-    TurnTo(sheet, 2);
-    ASSERT_TRUE(Page(sheet, IDC_SHOW_TASKS));
     ASSERT_TRUE(Ok(sheet));
     EXPECT_EQ(Stored(L"Calendar_FirstYearWeek"), 77u);
     EXPECT_EQ(Stored(L"CalendarPeriod"), 0x80000000u);
-    EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u);
-    EXPECT_EQ(Stored(L"App_TaskShowMultiday"), 3u);
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 

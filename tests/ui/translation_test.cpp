@@ -24,7 +24,7 @@ class Translation : public DeviceTest {
 TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
     ASSERT_TRUE(
         WriteLanguageFile(L"Lum Diary Options|Tagebuch-Einstellungen\r\n"
-                          L"Settings|Ändern\r\nHelp|Hilfe\r\n"
+                          L"Settings|Ändern\r\nHelp|Hilfe\r\nExit|&Beenden\r\n"
                           L"Task options|Aufgaben\r\nGeneral|Allgemein\r\n"
                           L"Completed tasks|Erledigte Aufgaben\r\n"
                           L"Whole subject|Ganzer Betreff\r\nOne line|Eine Zeile\r\n"
@@ -55,7 +55,8 @@ TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
     EXPECT_EQ(Selected(page, IDC_CALENDAR_PERIOD), L"7");
     ASSERT_TRUE(Ok(sheet));
     EXPECT_EQ(Stored(L"Calendar_FirstYearWeek"), 1u);
-    EXPECT_EQ(program.CloseAndWait(), 0u);
+    EXPECT_TRUE(PressInMenu(program.Main(), 0, L'b'));
+    EXPECT_EQ(program.WaitForExit(), 0u) << "\"Exit\" has no b to press";
 }
 
 TEST_F(Translation, MissingFileIsWrittenWithEveryText) {
@@ -92,6 +93,14 @@ TEST_F(Translation, MissingFileIsWrittenWithEveryText) {
     EXPECT_TRUE(again.Sheet(L"Task options"));
     EXPECT_EQ(again.CloseAndWait(), 0u);
     EXPECT_EQ(ReadLanguageFile(), text);
+}
+
+TEST_F(Translation, PlaceWhereNoFileCanBe) {
+    ASSERT_TRUE(CreateDirectoryW(kLanguageFile, nullptr));
+    Program program(L"-P2:0");
+    EXPECT_TRUE(program.Sheet(L"Task options"));
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+    EXPECT_TRUE(RemoveDirectoryW(kLanguageFile));
 }
 
 TEST_F(Translation, OddFilesDoNoHarm) {
