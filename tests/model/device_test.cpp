@@ -185,13 +185,6 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     EXPECT_EQ(std::string(std::istreambuf_iterator(log), {}), "Missing.htm#anchor\n");
 }
 
-TEST(Device, KnowsColoursWithTheirFlag) {
-    EXPECT_EQ(GetSysColor(COLOR_WINDOW), GetSysColor(5));
-    EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), GetSysColor(13));
-    EXPECT_NE(GetSysColorBrush(COLOR_WINDOW), nullptr);
-    EXPECT_NE(GetSysColorBrush(COLOR_STATIC), nullptr);
-}
-
 TEST(Device, HidesTheDesktopsMannersAboutWindows) {
     const HINSTANCE instance = GetModuleHandleW(nullptr);
     const HWND window = CreateWindowExW(0x40, L"EDIT", L"", WS_OVERLAPPED, 0, 30, 100, 100, nullptr,

@@ -1,7 +1,6 @@
 // The texts of the program on the device, with the program's own resource library.
 #include "app/language_table.h"
 
-#include <aygshell.h>
 #include <commctrl.h>
 
 #include <gtest/gtest.h>
@@ -36,14 +35,6 @@ class Language : public ::testing::Test {
         DWORD written = 0;
         ASSERT_TRUE(
             WriteFile(file.get(), text.data(), text.size() * sizeof(wchar_t), &written, nullptr));
-    }
-    static std::wstring FileText() {
-        const OwnedFile file(
-            CreateFileW(kFile, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-        std::wstring text(GetFileSize(file.get(), nullptr) / sizeof(wchar_t), L'\0');
-        DWORD read = 0;
-        ReadFile(file.get(), text.data(), text.size() * sizeof(wchar_t), &read, nullptr);
-        return text;
     }
     static HWND CreateControl(const wchar_t* className, const wchar_t* text, DWORD style,
                               HWND parent) {
@@ -154,93 +145,6 @@ TEST_F(Language, MenusAreTranslatedWithTheirSubMenus) {
     EXPECT_TRUE(GetMenuState(menu, 3, MF_BYPOSITION) & MF_CHECKED);
     EXPECT_TRUE(GetMenuState(more, 0, MF_BYPOSITION) & MF_GRAYED);
     DestroyMenu(menu);
-}
-
-TEST_F(Language, MenuBarsAreTranslatedWithTheirMenus) {
-    LoadLines(L"Settings|Einstellungen\nImport...|Laden...\nAbout|Info\n");
-    const HWND window = CreateControl(L"STATIC", L"", WS_POPUP, nullptr);
-    table.TranslateMenuBar(window);  // There is no bar yet.
-    SHMENUBARINFO bar = {};
-    bar.cbSize = sizeof bar;
-    bar.hwndParent = window;
-    bar.dwFlags = SHCMBF_HMENU;
-    bar.nToolBarId = IDM_MAIN;
-    bar.hInstRes = ResourceLibrary();
-    ASSERT_TRUE(SHCreateMenuBar(&bar));
-    table.TranslateMenuBar(window);
-
-    std::vector<std::wstring> texts;
-    std::vector<HMENU> menus;
-    const LRESULT count = SendMessageW(bar.hwndMB, TB_BUTTONCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        wchar_t text[64] = {};
-        TBBUTTONINFOW info = {};
-        info.cbSize = sizeof info;
-        info.dwMask = TBIF_TEXT | TBIF_LPARAM | TBIF_BYINDEX;
-        info.pszText = text;
-        info.cchText = 64;
-        SendMessageW(bar.hwndMB, TB_GETBUTTONINFOW, i, reinterpret_cast<LPARAM>(&info));
-        texts.push_back(text);
-        menus.push_back(reinterpret_cast<HMENU>(info.lParam));
-    }
-    EXPECT_EQ(texts, (std::vector<std::wstring>{L"Einstellungen", L"Help"}));
-    ASSERT_EQ(menus.size(), 2u);
-    EXPECT_EQ(MenuText(menus[0], 0), L"Export...");
-    EXPECT_EQ(MenuText(menus[0], 1), L"Laden...");
-    EXPECT_EQ(MenuText(menus[1], 1), L"Info");
-    DestroyWindow(window);
-}
-
-TEST_F(Language, AMissingFileIsWrittenAsATemplate) {
-    ASSERT_TRUE(table.Load(kFile));
-    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Tasks");
-    const std::wstring text = FileText();
-    ASSERT_TRUE(text.starts_with(L"\xFEFF$$$$$$$$ NEW FILE $$$$$$$\r\nAbout|\r\n"));
-
-    // Dialogs, each with its lists behind it; menus; strings. Every text stands once.
-    std::size_t last = 0;
-    for (const wchar_t* line :
-         {L"About|", L"Lum Diary Options|", L"Days shown:|", L"Groups span:|", L"7|",
-          L"Show in the calendar:|", L"Export...|", L"How it works|", L"When active|",
-          L"Category Icons|",
-          L"Choose what the diary shows on your Today screen.\\n\\nTap an entry, set its pages as "
-          L"you like them and tap ok. The diary follows when you close this program.|"}) {
-        const std::wstring whole = std::wstring(L"\r\n") + line + L"\r\n";
-        const std::size_t position = text.find(whole);
-        ASSERT_NE(position, std::wstring::npos) << testing::PrintToString(line);
-        EXPECT_GT(position, last) << testing::PrintToString(line);
-        EXPECT_EQ(text.find(whole, position + 1), std::wstring::npos);
-        last = position;
-    }
-    EXPECT_TRUE(text.ends_with(L"|\r\n"));
-
-    // Translated, it serves.
-    WriteText(text + L"Cancel|Abbrechen\r\n");
-    ASSERT_TRUE(table.Load(kFile));
-    EXPECT_EQ(table.Translate(L"Cancel"), L"Abbrechen");
-    EXPECT_EQ(FileText(), text + L"Cancel|Abbrechen\r\n");
-}
-
-TEST_F(Language, FilesThatCannotBeMadeAndEmptyOnesTranslateNothing) {
-    EXPECT_FALSE(table.Load(L"\\No such folder\\language.txt"));
-    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Tasks");
-    WriteText(L"");
-    EXPECT_TRUE(table.Load(kFile));
-    EXPECT_EQ(table.LoadString(IDS_TASKS), L"Tasks");
-    EXPECT_EQ(FileText(), L"");
-}
-
-// A table whose dialogs cannot be created still lists the rest.
-TEST_F(Language, TheTemplateDoesWithoutDialogs) {
-    class WithoutDialogs : public LanguageTable {
-        HWND createDialog(HMODULE, unsigned, HWND) const override { return nullptr; }
-    };
-    WithoutDialogs without;
-    ASSERT_TRUE(without.Load(kFile));
-    const std::wstring text = FileText();
-    EXPECT_EQ(text.find(L"Days shown:|"), std::wstring::npos);
-    EXPECT_NE(text.find(L"\r\n1|\r\n"), std::wstring::npos);  // an entry of a list
-    EXPECT_NE(text.find(L"\r\nExport...|\r\n"), std::wstring::npos);
 }
 
 }  // namespace

@@ -231,15 +231,6 @@ TEST(FullScreenDialog, FillsTheWorkAreaUnlessItIsAPage) {
     EXPECT_FALSE(SHDoneButton(info.hDlg, SHDB_SHOW));
 }
 
-TEST(Metrics, KnowTheTextSize) {
-    DWORD value = 0, needed = 0;
-    EXPECT_EQ(SHGetUIMetrics(SHUIM_FONTSIZE_PIXEL, &value, sizeof value, &needed), S_OK);
-    EXPECT_EQ(value, 11u);
-    EXPECT_EQ(needed, sizeof value);
-    EXPECT_NE(SHGetUIMetrics(SHUIM_FONTSIZE_PIXEL, &value, 2, &needed), S_OK);
-    EXPECT_NE(SHGetUIMetrics(SHUIM_INVALID, &value, sizeof value, &needed), S_OK);
-}
-
 // A sheet of two pages. What happens goes into the log; the steps run one after the other inside
 // the sheet's message loop.
 class SheetTest : public ::testing::Test {
@@ -369,13 +360,6 @@ TEST_F(SheetTest, CancelResetsAndReturnsZero) {
     EXPECT_EQ(log_, std::string(kOpening) + "reset1 ");
 }
 
-TEST_F(SheetTest, HelpReachesTheCurrentPage) {
-    constexpr UINT kHelpKey = 0x4D;  // WM_KEYF1, what the system makes of the key
-    Run({[] { SendMessageW(sheet_, PSM_SETCURSEL, 1, 0); },
-         [] { SendMessageW(GetFocus(), kHelpKey, 0, 0); }, [] { Press(IDCANCEL); }});
-    EXPECT_EQ(log_, std::string(kOpening) + "killactive1 setactive2 help2 reset1 reset2 ");
-}
-
 TEST_F(SheetTest, ControlAndTabTurnThePages) {
     const auto press = [] {
         BYTE keys[256] = {};
@@ -418,11 +402,6 @@ TEST_F(SheetTest, WithoutThePocketPcsVersionTheTabsStayAbove) {
     version_ = 0;
     Run({[] { EXPECT_FALSE(GetWindowLongW(Tabs(), GWL_STYLE) & TCS_BOTTOM); },
          [] { EXPECT_GT(RectOf(Page()).top, WorkArea().top + 10); }, [] { Press(IDCANCEL); }});
-}
-
-TEST_F(SheetTest, WithoutTheFlagItHasItsButtons) {
-    Run({[] { EXPECT_TRUE(IsWindowVisible(GetDlgItem(sheet_, IDOK))); }, [] { Press(IDCANCEL); }},
-        0);
 }
 
 }  // namespace

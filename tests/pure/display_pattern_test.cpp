@@ -37,9 +37,4 @@ TEST(DisplayPattern, ParsesAndPrintsTheNormalForm) {
     }
 }
 
-TEST(DisplayPattern, PrintsModesThatAreNoDigit) {
-    EXPECT_EQ((DisplayPattern{L"a", -1, L"b"}.Format()), L"a-1b");
-    EXPECT_EQ((DisplayPattern{L"a", 12, L"b"}.Format()), L"a12b");
-}
-
 }  // namespace

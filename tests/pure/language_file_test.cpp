@@ -116,15 +116,6 @@ TEST(LanguageFile, ReadsBytesWithoutMarkAsCharacters) {
     }
 }
 
-TEST(LanguageFile, LeavesAnOddByteAtTheEndOfUtf16) {
-    for (const Bytes& bytes : {Bytes{0xFF, 0xFE}, Bytes{0xFF, 0xFE, 'x'}}) {
-        EXPECT_TRUE(ParseLanguageFile(bytes).empty());
-    }
-    Bytes bytes = Utf16(L"a|b");
-    bytes.push_back('c');
-    EXPECT_EQ(Shown(ParseLanguageFile(bytes)), "a=b;");
-}
-
 // A line has room for 4094 characters; what stands behind them is a line of its own.
 TEST(LanguageFile, CutsLongLines) {
     const auto x = [](std::size_t count) { return std::wstring(count, L'x'); };
@@ -164,12 +155,6 @@ TEST(LanguageFile, ReadsFilesOfManyMegabytes) {
     const Entries pieces = ParseLanguageFile(Bytes(5000000, 'x'));
     ASSERT_EQ(pieces.size(), 1222u);
     EXPECT_EQ(pieces.back().source.size(), 5000000u - 1221 * 4094);
-}
-
-TEST(LanguageFile, EscapesWhatAFieldCannotHold) {
-    EXPECT_EQ(EscapeLanguageText(L""), L"");
-    EXPECT_EQ(EscapeLanguageText(L"Total: 5\t%s"), L"Total: 5\t%s");
-    EXPECT_EQ(EscapeLanguageText(L"a\r\nb|c\\n"), L"a\\r\\nb\\|c\\\\n");
 }
 
 TEST(LanguageFile, TemplateListsTextsWithoutTranslations) {
