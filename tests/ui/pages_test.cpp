@@ -58,71 +58,75 @@ TEST_F(Pages, CancelChangesNoStoredValue) {
     EXPECT_TRUE(plugin.Updates().empty());
 }
 
-// Every control is changed from its default; what it then stores is written out by hand.
+// Every page and control: what changes it, the value behind it, that value's default and what the
+// change stores, all written out by hand.
+constexpr int kClick = -1;
+struct Row {
+    int control;
+    int select;  // an index, or kClick
+    const wchar_t* name;
+    DWORD defaultValue;
+    DWORD stored;  // after the change
+};
+struct Tab {
+    int entry, page;
+    const wchar_t* sheet;
+    std::vector<Row> rows;
+};
+const std::vector<Tab> kTabs = {
+    {0,
+     0,
+     L"General options",
+     {{IDC_TIMEOUT_TIME, 2, L"TimeoutTime", 900, 14400},
+      {IDC_TIMEOUT_VIEW, 5, L"TimeoutView", 1, 6},
+      {IDC_KEYBOARD_SUPPORT, 1, L"AdvancedKeyboardSupport", 0, 1},
+      {IDC_PHONE_BACKSPACE, kClick, L"PhoneKeyb_DisableBackspace", 0, 1}}},
+    {1,
+     0,
+     L"Calendar options",
+     {{IDC_CALENDAR_PERIOD, 0, L"CalendarPeriod", 7, 1},
+      {IDC_FIRST_YEAR_WEEK, 2, L"Calendar_FirstYearWeek", 0, 2},
+      {IDC_GROUP_OFFSET, 0, L"AppGroup_Offset", 1, 0},
+      {IDC_GROUP_SPAN, 2, L"AppGroup_Span", 1, 3},
+      {IDC_COLLAPSE_BUT_TODAY, kClick, L"App_CollapseButToday", 1, 0},
+      {IDC_MARK_CONFLICTING, kClick, L"App_MarkConflicting", 1, 0},
+      {IDC_GROUP_TODAY, kClick, L"AppGroup_Today", 1, 0},
+      {IDC_GROUP_WEATHER, kClick, L"AppGroup_Weather", 1, 0}}},
+    {1,
+     1,
+     L"Calendar options",
+     {{IDC_SHOW_PAST, kClick, L"CalendarShowPastAppts", 1, 0},
+      {IDC_SHOW_EMPTY_DAYS, kClick, L"CalendarShowEmptyDays", 0, 1},
+      {IDC_SHOW_FREE, kClick, L"CalendarShowFreeAppts", 1, 0},
+      {IDC_SHOW_TODAY_ALWAYS, kClick, L"CalendarShowTodayAlways", 1, 0},
+      {IDC_SHOW_BIRTHDAYS, kClick, L"CalendarShowBirthdays", 1, 0},
+      {IDC_SHOW_EMAILS, kClick, L"CalendarShowEmails", 1, 0}}},
+    {1,
+     2,
+     L"Calendar options",
+     {{IDC_SHOW_UNDATED_TASKS, kClick, L"CalendarShowUndatedTasks", 0, 1},
+      {IDC_SHOW_OVERDUE_TASKS, kClick, L"CalendarShowOverdueTasks", 1, 0},
+      {IDC_SHOW_COMPLETED_TASKS, kClick, L"CalendarShowCompletedTasks", 0, 1},
+      {IDC_TASK_PLACEMENT, 1, L"App_TaskShowMultiday", 3, 1}}},
+    {2,
+     0,
+     L"Task options",
+     {{IDC_TASK_COMPLETION_MESSAGE, kClick, L"Task_DisplayComplMsg", 1, 0},
+      {IDC_TASKS_ALL_CATEGORIES, kClick, L"ShowTasksInAllCategories", 0, 1},
+      {IDC_TASKS_COMPLETED, kClick, L"TasksShowCompletedTasks", 0, 1},
+      {IDC_TASKS_ACTIVE, kClick, L"TasksShowActiveTasks", 0, 1}}},
+    {6,
+     0,
+     L"Special event options",
+     {{IDC_SPECIAL_PERIOD, 6, L"SpecialPeriod", 0, 6},
+      {IDC_SPECIAL_BIRTHDAYS, kClick, L"SpecialShowBirthdays", 1, 0}}},
+};
+
+// Every control is changed from its default.
 TEST_F(Pages, EveryControlIsStored) {
-    constexpr int kClick = -1;
-    struct Row {
-        int control;
-        int select;  // an index, or kClick
-        const wchar_t* name;
-        DWORD stored;
-    };
-    struct Tab {
-        int entry, page;
-        const wchar_t* sheet;
-        std::vector<Row> rows;
-    };
-    const std::vector<Tab> tabs = {
-        {0,
-         0,
-         L"General options",
-         {{IDC_TIMEOUT_TIME, 2, L"TimeoutTime", 14400},
-          {IDC_TIMEOUT_VIEW, 5, L"TimeoutView", 6},
-          {IDC_KEYBOARD_SUPPORT, 1, L"AdvancedKeyboardSupport", 1},
-          {IDC_PHONE_BACKSPACE, kClick, L"PhoneKeyb_DisableBackspace", 1}}},
-        {1,
-         0,
-         L"Calendar options",
-         {{IDC_CALENDAR_PERIOD, 0, L"CalendarPeriod", 1},
-          {IDC_FIRST_YEAR_WEEK, 2, L"Calendar_FirstYearWeek", 2},
-          {IDC_GROUP_OFFSET, 0, L"AppGroup_Offset", 0},
-          {IDC_GROUP_SPAN, 2, L"AppGroup_Span", 3},
-          {IDC_COLLAPSE_BUT_TODAY, kClick, L"App_CollapseButToday", 0},
-          {IDC_MARK_CONFLICTING, kClick, L"App_MarkConflicting", 0},
-          {IDC_GROUP_TODAY, kClick, L"AppGroup_Today", 0},
-          {IDC_GROUP_WEATHER, kClick, L"AppGroup_Weather", 0}}},
-        {1,
-         1,
-         L"Calendar options",
-         {{IDC_SHOW_PAST, kClick, L"CalendarShowPastAppts", 0},
-          {IDC_SHOW_EMPTY_DAYS, kClick, L"CalendarShowEmptyDays", 1},
-          {IDC_SHOW_FREE, kClick, L"CalendarShowFreeAppts", 0},
-          {IDC_SHOW_TODAY_ALWAYS, kClick, L"CalendarShowTodayAlways", 0},
-          {IDC_SHOW_BIRTHDAYS, kClick, L"CalendarShowBirthdays", 0},
-          {IDC_SHOW_EMAILS, kClick, L"CalendarShowEmails", 0}}},
-        {1,
-         2,
-         L"Calendar options",
-         {{IDC_SHOW_UNDATED_TASKS, kClick, L"CalendarShowUndatedTasks", 1},
-          {IDC_SHOW_OVERDUE_TASKS, kClick, L"CalendarShowOverdueTasks", 0},
-          {IDC_SHOW_COMPLETED_TASKS, kClick, L"CalendarShowCompletedTasks", 1},
-          {IDC_TASK_PLACEMENT, 1, L"App_TaskShowMultiday", 1}}},
-        {2,
-         0,
-         L"Task options",
-         {{IDC_TASK_COMPLETION_MESSAGE, kClick, L"Task_DisplayComplMsg", 0},
-          {IDC_TASKS_ALL_CATEGORIES, kClick, L"ShowTasksInAllCategories", 1},
-          {IDC_TASKS_COMPLETED, kClick, L"TasksShowCompletedTasks", 1},
-          {IDC_TASKS_ACTIVE, kClick, L"TasksShowActiveTasks", 1}}},
-        {6,
-         0,
-         L"Special event options",
-         {{IDC_SPECIAL_PERIOD, 6, L"SpecialPeriod", 6},
-          {IDC_SPECIAL_BIRTHDAYS, kClick, L"SpecialShowBirthdays", 0}}},
-    };
     OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
     Program program;
-    for (const Tab& tab : tabs) {
+    for (const Tab& tab : kTabs) {
         program.Open(tab.entry, tab.page);
         const HWND sheet = program.Sheet(tab.sheet);
         const HWND page = Page(sheet, tab.rows.front().control);
@@ -140,7 +144,7 @@ TEST_F(Pages, EveryControlIsStored) {
         }
         ASSERT_TRUE(Ok(sheet));
     }
-    for (const Tab& tab : tabs) {
+    for (const Tab& tab : kTabs) {
         for (const Row& row : tab.rows) {
             EXPECT_EQ(Stored(row.name), row.stored) << testing::PrintToString(row.name);
         }
@@ -211,81 +215,34 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
 
 // What is too long for a number counts as missing, under whatever type it is stored.
 TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
-    struct Value {
-        const wchar_t* name;
-        DWORD defaultValue;
-    };
-    const Value values[] = {
-        {L"ShowTabs", 0xFFFFFFFF},
-        {L"TimeoutTime", 900},
-        {L"TimeoutView", 1},
-        {L"AdvancedKeyboardSupport", 0},
-        {L"PhoneKeyb_DisableBackspace", 0},
-        {L"CalendarPeriod", 7},
-        {L"Calendar_FirstYearWeek", 0},
-        {L"App_CollapseButToday", 1},
-        {L"App_MarkConflicting", 1},
-        {L"AppGroup_Today", 1},
-        {L"AppGroup_Weather", 1},
-        {L"AppGroup_Offset", 1},
-        {L"AppGroup_Span", 1},
-        {L"CalendarShowPastAppts", 1},
-        {L"CalendarShowEmptyDays", 0},
-        {L"CalendarShowFreeAppts", 1},
-        {L"CalendarShowTodayAlways", 1},
-        {L"CalendarShowBirthdays", 1},
-        {L"CalendarShowEmails", 1},
-        {L"CalendarShowTasks", 1},
-        {L"CalendarShowUndatedTasks", 0},
-        {L"CalendarShowOverdueTasks", 1},
-        {L"CalendarShowCompletedTasks", 0},
-        {L"App_TaskShowMultiday", 3},
-        {L"Task_DisplayComplMsg", 1},
-        {L"ShowTasksInAllCategories", 0},
-        {L"TasksShowCompletedTasks", 0},
-        {L"TasksShowActiveTasks", 0},
-        {L"SpecialPeriod", 0},
-        {L"SpecialShowBirthdays", 1},
-        {L"SpecialShowTransactions", 0},
-        {L"dbgTextOffset", 4},
-    };
-    struct Tab {
-        int entry, page;
-        const wchar_t* sheet;
-        int control;
-    };
-    const Tab tabs[] = {
-        {0, 0, L"General options", IDC_TIMEOUT_ON},
-        {1, 0, L"Calendar options", IDC_CALENDAR_PERIOD},
-        {1, 1, L"Calendar options", IDC_SHOW_PAST},
-        {1, 2, L"Calendar options", IDC_SHOW_TASKS},
-        {2, 0, L"Task options", IDC_TASK_SUBJECT},
-        {6, 0, L"Special event options", IDC_SPECIAL_BIRTHDAYS},
-    };
     const std::wstring text(600, L'9');
     for (const bool asText : {true, false}) {
         SetUp();
         {
             CSettingsKey key = OpenProductKey();
-            for (const Value& value : values) {
-                asText ? key.WriteString(value.name, text.c_str())
-                       : key.WriteBinary(value.name, "\2\2\2\2\2", 5);
+            for (const Tab& tab : kTabs) {
+                for (const Row& row : tab.rows) {
+                    asText ? key.WriteString(row.name, text.c_str())
+                           : key.WriteBinary(row.name, "\2\2\2\2\2", 5);
+                }
             }
             asText ? key.WriteString(L"CurTaskPattern", text.c_str())
                    : key.WriteBinary(L"CurTaskPattern", "\2", 1);
             key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
         }
         Program program;
-        for (const Tab& tab : tabs) {
+        for (const Tab& tab : kTabs) {
             program.Open(tab.entry, tab.page);
             const HWND sheet = program.Sheet(tab.sheet);
-            ASSERT_TRUE(Page(sheet, tab.control)) << tab.entry << ":" << tab.page;
+            ASSERT_TRUE(Page(sheet, tab.rows.front().control)) << tab.entry << ":" << tab.page;
             ASSERT_TRUE(Ok(sheet));
         }
         EXPECT_EQ(program.CloseAndWait(), 0u);
-        for (const Value& value : values) {
-            EXPECT_EQ(Stored(value.name), value.defaultValue)
-                << testing::PrintToString(value.name) << (asText ? " text" : " bytes");
+        for (const Tab& tab : kTabs) {
+            for (const Row& row : tab.rows) {
+                EXPECT_EQ(Stored(row.name), row.defaultValue)
+                    << testing::PrintToString(row.name) << (asText ? " text" : " bytes");
+            }
         }
     }
 }
