@@ -13,7 +13,7 @@ PACKAGES=(
     g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev libz-mingw-w64-dev googletest
     clang clang-format libclang-rt-14-dev
     wine wine64 fonts-wine fonts-dejavu-core xvfb xdotool
-    imagemagick librsvg2-bin icoutils
+    imagemagick librsvg2-bin icoutils dpkg-dev tcl zip
 )
 
 # Installs what is missing. Quick when nothing is.
@@ -37,6 +37,29 @@ install_packages() {
     done
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends \
         "${missing[@]}" >/dev/null || fail "Could not install ${missing[*]}"
+}
+
+# Fetches and unpacks a Debian source package, with Debian's patches, into third_party/NAME; once. The
+# system's own package sources stay as they are.
+fetch_source() { # NAME
+    local target=$ROOT/third_party/$1 apt=$ROOT/build/apt list
+    [ ! -d "$target" ] || return 0
+    say "Fetching the sources of $1"
+    rm -rf "$apt"
+    mkdir -p "$apt/parts" "$apt/lists/partial" "$apt/unpacked" "$ROOT/third_party"
+    for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources; do
+        [ -f "$list" ] || continue
+        sed -E 's/^Types:.*/Types: deb-src/; s/^deb /deb-src /' "$list" >"$apt/parts/$(basename "$list")"
+    done
+    local options=(-qq -o Dir::Etc::SourceList=/dev/null -o "Dir::Etc::SourceParts=$apt/parts"
+        -o "Dir::State::Lists=$apt/lists" -o "APT::Sandbox::User=$(id -un)")
+    apt-get "${options[@]}" update || fail "The lists of source packages could not be fetched"
+    (cd "$apt/unpacked" && apt-get "${options[@]}" source "$1" >"$apt/source.log" 2>&1) || {
+        cat "$apt/source.log" >&2
+        fail "The sources of $1 could not be fetched"
+    }
+    mv "$apt/unpacked"/*/ "$target"
+    rm -rf "$apt"
 }
 
 # Configures and builds one preset into build/NAME; Ninja shows the progress.
