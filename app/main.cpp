@@ -14,6 +14,7 @@
 #include "app/main_frame.h"
 #include "app/module.h"
 #include "app/single_instance.h"
+#include "controls/preview_window.h"
 #include "settings/install_path.h"
 
 namespace {
@@ -30,6 +31,7 @@ void MoveToVisibleDesktop(HWND hwnd) {
 
 int Run(const wchar_t* commandLine, int showCommand) {
     SHInitExtraControls();
+    RegisterPreviewWindow();  // Before the language file's template creates every dialog.
     GetLanguageTable().Load(GetInstallPath(L"LumDiary_en.txt"));
 
     RECT desktop = {};

@@ -5,10 +5,12 @@
 #include <iterator>
 
 #include "app/about_dialog.h"
+#include "app/export_import.h"
 #include "app/language_table.h"
 #include "app/launch_help.h"
 #include "app/module.h"
 #include "app/open_entry.h"
+#include "appearance/fonts.h"
 #include "appearance/scale.h"
 #include "controls/modal_windows.h"
 #include "resources/ids.h"
@@ -27,16 +29,16 @@ constexpr DWORD kListExtendedStyle = 0x40;
 // Sent by the device when a tap may become tap-and-hold; 1 says that nothing follows.
 constexpr UINT kNotifyRecognizeGesture = static_cast<UINT>(-50);
 
-// The menu's commands that are not always there to be chosen.
+// The menu's commands and whether they can be chosen.
 struct CommandState {
     UINT command;
     bool enabled;
 };
 constexpr UINT kLastCommand = 0xFFFF;
 constexpr CommandState kCommandStates[] = {
-    {IDM_EXPORT, false},
-    {IDM_IMPORT, false},
-    {kLastCommand, false},
+    {IDM_EXPORT, true},
+    {IDM_IMPORT, true},
+    {kLastCommand, true},
 };
 
 }  // namespace
@@ -83,6 +85,8 @@ bool MainFrame::OnCreate() {
     bar.nToolBarId = IDM_MAIN;
     bar.hInstRes = ResourceLibrary();
     if (SHCreateMenuBar(&bar)) menuBar_ = bar.hwndMB;
+
+    ApplySharedFonts(hwnd());
 
     updateMessage_ = RegisterWindowMessageW(L"LumDiary_UpdateSettings");
     SHDoneButton(hwnd(), SHDB_SHOW);
@@ -159,6 +163,10 @@ bool MainFrame::OnCommand(int id) {
             if (closing_) PostMessageW(hwnd(), WM_CLOSE, 0, 0);
             return true;
         }
+        case IDM_EXPORT: ExportSettings(hwnd()); return true;
+        case IDM_IMPORT:
+            if (ImportSettings(hwnd())) settingsChanged_ = true;
+            return true;
         case IDM_ACCEPTED: return true;
     }
     return false;
@@ -209,6 +217,7 @@ void MainFrame::OnClose() {
 }
 
 void MainFrame::OnDestroy() {
+    ReleaseSharedFonts();
     SendMessageW(listView_, WM_SETFONT, reinterpret_cast<WPARAM>(savedListFont_), FALSE);
     imageList_.Reset();
     listFont_.Reset();

@@ -5,10 +5,17 @@
 #include "app/language_table.h"
 #include "app/options_page.h"
 #include "app/options_sheet.h"
+#include "appearance/fonts.h"
 #include "pages/calendar_common_page.h"
 #include "pages/calendar_show_page.h"
 #include "pages/calendar_tasks_page.h"
 #include "pages/general_auto_return_page.h"
+#include "pages/general_common_page.h"
+#include "pages/general_font_page.h"
+#include "pages/general_group_style_page.h"
+#include "pages/general_long_date_page.h"
+#include "pages/general_short_date_page.h"
+#include "pages/general_tabs_page.h"
 #include "pages/special_events_common_page.h"
 #include "pages/tasks_common_page.h"
 #include "resources/ids.h"
@@ -20,7 +27,11 @@ std::unique_ptr<OptionsPage> Make() {
     return std::make_unique<Page>();
 }
 
-constexpr MainEntry::PageFactory kGeneralPages[] = {Make<GeneralAutoReturnPage>};
+constexpr MainEntry::PageFactory kGeneralPages[] = {
+    Make<GeneralCommonPage>,     Make<GeneralShortDatePage>,  Make<GeneralLongDatePage>,
+    Make<GeneralFontPage>,       Make<GeneralGroupStylePage>, Make<GeneralTabsPage>,
+    Make<GeneralAutoReturnPage>,
+};
 constexpr MainEntry::PageFactory kCalendarPages[] = {
     Make<CalendarCommonPage>,
     Make<CalendarShowPage>,
@@ -41,6 +52,9 @@ constexpr MainEntry kEntries[] = {
     {IDS_CATEGORY_ICONS, IDI_CATEGORY_ICONS, IDS_CATEGORY_ICONS, {}, false},
 };
 
+// Its pages change what the cached fonts were made from.
+constexpr WPARAM kGeneralEntry = 0;
+
 }  // namespace
 
 std::span<const MainEntry> MainEntries() { return kEntries; }
@@ -55,5 +69,7 @@ bool OpenEntry(WPARAM entry, LPARAM page) {
         sheet.AddPage(*pages.back());
     }
     if (row.startPageCanBeChosen) sheet.SetActivePage(static_cast<int>(page));
-    return sheet.DoModal(GetActiveWindow()) != 0;
+    const bool changed = sheet.DoModal(GetActiveWindow()) != 0;
+    if (changed && entry == kGeneralEntry) ResetListFonts();
+    return changed;
 }

@@ -7,6 +7,7 @@
 #include "app/language_table.h"
 #include "app/launch_help.h"
 #include "app/module.h"
+#include "resources/ids.h"
 #include "settings/diary_settings.h"
 #include "settings/settings_key.h"
 
@@ -66,7 +67,7 @@ bool OptionsPage::OnApply() {
 }
 
 bool OptionsPage::OnCommand(int, int code) {
-    if (code == BN_CLICKED) {
+    if (code == BN_CLICKED || code == CBN_SELCHANGE) {
         rows_.UpdateEnabled(*this);
         OnUpdate();
     }
@@ -81,11 +82,18 @@ std::optional<INT_PTR> OptionsPage::OnMessage(UINT message, WPARAM wParam, LPARA
         if (header.hwndFrom == hwnd() || header.hwndFrom == GetParent(hwnd())) {
             return OnPageNotification(header);
         }
-        return std::nullopt;
+        return OnControlNotification(header);
     }
     // The sheet hears of help first and passes it to its current page as a notification.
     if (message == WM_HELP) return std::nullopt;
     return FullScreenDialog::OnMessage(message, wParam, lParam);
+}
+
+bool OptionsPage::Refuse(int control, const std::wstring& reason) {
+    MessageBoxW(GetParent(hwnd()), reason.c_str(),
+                GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), MB_ICONHAND);
+    SetFocus(Item(control));
+    return false;
 }
 
 std::optional<INT_PTR> OptionsPage::OnPageNotification(const NMHDR& header) {
@@ -114,7 +122,10 @@ void OptionsPage::SetChecked(int control, bool checked) {
 void OptionsPage::Enable(int control, bool enabled) { EnableWindow(Item(control), enabled); }
 
 void OptionsPage::AddItem(int control, unsigned label, std::int32_t value) {
-    const std::wstring text = GetLanguageTable().LoadString(label);
+    AddItem(control, GetLanguageTable().LoadString(label), value);
+}
+
+void OptionsPage::AddItem(int control, const std::wstring& text, std::int32_t value) {
     const LRESULT index = SendDlgItemMessageW(hwnd(), control, CB_ADDSTRING, 0,
                                               reinterpret_cast<LPARAM>(text.c_str()));
     SendDlgItemMessageW(hwnd(), control, CB_SETITEMDATA, index, value);

@@ -27,8 +27,12 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     // are.
     virtual void OnLoad(PageValues&) {}
     virtual void OnSave(PageValues&) {}
-    // Called when all is loaded and after each click, when the rows are enabled anew.
+    // Called when all is loaded and after each click and choice, when the rows are enabled anew.
     virtual void OnUpdate() {}
+    // WM_NOTIFY of a control.
+    virtual std::optional<INT_PTR> OnControlNotification(const NMHDR&) { return std::nullopt; }
+    // What OnApply answers when a control holds what cannot be stored: says why and goes there.
+    bool Refuse(int control, const std::wstring& reason);
     // Whether OnSave changes members of the shared settings that no row names.
     virtual bool EditsShared() const { return rows_.HasSharedRows(); }
 
@@ -41,6 +45,7 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     void SetChecked(int control, bool checked) override;
     void Enable(int control, bool enabled) override;
     void AddItem(int control, unsigned label, std::int32_t value) override;
+    void AddItem(int control, const std::wstring& text, std::int32_t value);
     int Selection(int control) const override;
     void SetSelection(int control, int index) override;
     int ItemCount(int control) const override;

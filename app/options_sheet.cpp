@@ -54,6 +54,13 @@ INT_PTR OptionsSheet::DoModal(HWND parent) {
     return result;
 }
 
+// The shell's broadcasts reach no further than the sheet itself.
+void OptionsSheet::PassToPages(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam) {
+    for (HWND child = GetWindow(sheet, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageW(child, message, wParam, lParam);
+    }
+}
+
 OptionsSheet* OptionsSheet::Find(HWND hwnd) {
     OptionsSheet* sheet = innermost_;
     while (sheet && sheet->hwnd_ != hwnd) sheet = sheet->outer_;
@@ -86,6 +93,8 @@ LRESULT CALLBACK OptionsSheet::SheetProcedure(HWND hwnd, UINT message, WPARAM wP
     OptionsSheet* const sheet = Find(hwnd);
     if (!sheet) return DefWindowProcW(hwnd, message, wParam, lParam);
     const WNDPROC procedure = sheet->systemProcedure_;
+    static const UINT metricsMessage = RegisterWindowMessageW(L"SH_UIMETRIC_CHANGE");
+    if (message == metricsMessage) PassToPages(hwnd, message, wParam, lParam);
     switch (message) {
         case WM_INITDIALOG:  // Our own, posted when the window was there; the system's came before.
             sheet->OnInitSheet();

@@ -33,6 +33,7 @@ class OptionsSheet {
   private:
     static int CALLBACK SheetCallback(HWND hwnd, UINT code, LPARAM lParam);
     static LRESULT CALLBACK SheetProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+    static void PassToPages(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam);
     static OptionsSheet* Find(HWND hwnd);
 
     void Attach(HWND hwnd);

@@ -50,15 +50,27 @@ struct Row {
     std::int32_t CDiarySettings::*shared = nullptr;
     const ValueLabel* choices = nullptr;
     int enabledBy = 0;          // the check box that enables the control; 0: always enabled
-    bool keptWhileOff = false;  // a check box that shows empty while disabled and then comes back
+    bool enablingState = true;  // the state of that check box in which the control is enabled
+    bool keptWhileOff = false;  // a check box that shows empty while disabled and then comes back;
+                                // its value is not stored meanwhile
 
     constexpr Row EnabledBy(int checkBox) const {
         Row row = *this;
         row.enabledBy = checkBox;
         return row;
     }
+    constexpr Row DisabledBy(int checkBox) const {
+        Row row = EnabledBy(checkBox);
+        row.enablingState = false;
+        return row;
+    }
     constexpr Row KeptWhileOff(int checkBox) const {
         Row row = EnabledBy(checkBox);
+        row.keptWhileOff = true;
+        return row;
+    }
+    constexpr Row KeptWhileOn(int checkBox) const {
+        Row row = DisabledBy(checkBox);
         row.keptWhileOff = true;
         return row;
     }
@@ -77,6 +89,9 @@ constexpr Row InvertedCheck(int control, std::int32_t CDiarySettings::*shared) {
 }
 constexpr Row Index(int control, NumberSetting setting) {
     return {Row::Kind::kIndex, control, setting};
+}
+constexpr Row Index(int control, std::int32_t CDiarySettings::*shared) {
+    return {Row::Kind::kIndex, control, {}, shared};
 }
 constexpr Row NumberText(int control, NumberSetting setting) {
     return {Row::Kind::kNumberText, control, setting};

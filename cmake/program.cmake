@@ -3,18 +3,25 @@ add_library(diary_models STATIC
   app/language_table.cpp
   app/language_template.cpp
   app/module.cpp
+  app/registry_exporter.cpp
+  appearance/date_formats.cpp
+  appearance/fonts.cpp
+  appearance/scale.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
+  settings/registration.cpp
   settings/settings_key.cpp
 )
 target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings)
 
 # DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
 # them, as on the device everything binds to the system's own libraries.
+file(GLOB pages CONFIGURE_DEPENDS pages/*.cpp)
 add_executable(DiarySettings WIN32
   app/about_dialog.cpp
   app/diary_settings.rc
+  app/export_import.cpp
   app/launch_help.cpp
   app/main.cpp
   app/main_frame.cpp
@@ -23,17 +30,13 @@ add_executable(DiarySettings WIN32
   app/options_page.cpp
   app/options_sheet.cpp
   app/single_instance.cpp
-  appearance/scale.cpp
+  appearance/folding_stripe.cpp
   controls/dialog.cpp
   controls/full_screen_dialog.cpp
+  controls/preview_window.cpp
   controls/title_band.cpp
   controls/window.cpp
-  pages/calendar_common_page.cpp
-  pages/calendar_show_page.cpp
-  pages/calendar_tasks_page.cpp
-  pages/general_auto_return_page.cpp
-  pages/special_events_common_page.cpp
-  pages/tasks_common_page.cpp
+  ${pages}
 )
 target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
 target_link_libraries(DiarySettings PRIVATE

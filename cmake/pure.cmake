@@ -5,7 +5,10 @@ add_library(diary_pure STATIC
   app/language_file.cpp
   app/language_index.cpp
   app/page_rows.cpp
+  settings/date_picture.cpp
   settings/display_pattern.cpp
+  settings/settings_file.cpp
+  settings/tab_layout.cpp
 )
 target_include_directories(diary_pure PUBLIC ${CMAKE_SOURCE_DIR})
 target_link_libraries(diary_pure PRIVATE diary_warnings)

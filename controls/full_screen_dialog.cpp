@@ -7,6 +7,7 @@
 #include "app/dialog_init.h"
 #include "app/language_table.h"
 #include "app/module.h"
+#include "appearance/fonts.h"
 #include "appearance/scale.h"
 #include "controls/title_band.h"
 
@@ -69,6 +70,7 @@ void FullScreenDialog::InitFullScreenDialog() {
     init.dwFlags = SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
     SHInitDialog(&init);
 
+    ApplySharedFonts(hwnd());
     FillListsFromResource();
     const bool focusFirst = OnInit();
     GetLanguageTable().TranslateWindow(hwnd());
@@ -137,6 +139,7 @@ std::optional<INT_PTR> FullScreenDialog::OnMessage(UINT message, WPARAM wParam, 
         case WM_CTLCOLORBTN:
             SetBkColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_WINDOW));
             return reinterpret_cast<INT_PTR>(GetSysColorBrush(COLOR_WINDOW));
+        case WM_DRAWITEM: OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
         case WM_DESTROY: modal_.reset(); return std::nullopt;
     }
     return std::nullopt;

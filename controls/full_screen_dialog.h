@@ -25,6 +25,8 @@ class FullScreenDialog : public Dialog {
     // WM_COMMAND of a control or menu; true when handled.
     virtual bool OnCommand(int id, int code);
     virtual void OnHelp() = 0;
+    // Paints a preview, or an entry of a list that the dialog draws itself.
+    virtual void OnDrawItem(const DRAWITEMSTRUCT&) {}
     // Height in pixels of the title band; 0 for a dialog without one.
     virtual int BandHeight() const;
     virtual std::wstring BandTitle() const;

@@ -36,15 +36,18 @@ struct HandleRelease {
     void operator()(HDC dc) const { DeleteDC(dc); }
     void operator()(HICON icon) const { DestroyIcon(icon); }
     void operator()(HIMAGELIST images) const { ImageList_Destroy(images); }
+    void operator()(HKEY key) const { RegCloseKey(key); }
 };
 struct FileRelease {
     void operator()(HANDLE file) const { CloseHandle(file); }
 };
 
 using OwnedFont = OwnedHandle<HFONT, HandleRelease>;
+using OwnedBrush = OwnedHandle<HBRUSH, HandleRelease>;
 using OwnedBitmap = OwnedHandle<HBITMAP, HandleRelease>;
 using OwnedDc = OwnedHandle<HDC, HandleRelease>;
 using OwnedIcon = OwnedHandle<HICON, HandleRelease>;
+using OwnedKey = OwnedHandle<HKEY, HandleRelease>;
 using OwnedImageList = OwnedHandle<HIMAGELIST, HandleRelease>;
 
 // Owns an open file. CreateFileW says INVALID_HANDLE_VALUE, not null, when it fails.

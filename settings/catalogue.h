@@ -14,6 +14,35 @@ namespace settings {
 // The main window and the plug-in's tabs: a bit for each tab, and their order.
 inline constexpr NumberSetting ShowTabs{L"ShowTabs", 0xFFFFFFFF};
 inline constexpr const wchar_t ShowTabsSequence[] = L"ShowTabsSequence";
+inline constexpr NumberSetting AllTabsInShell{L"AllTabsInShell", 1};
+
+// The plug-in's size in pixels, portrait and landscape, when nothing smaller is possible.
+constexpr NumberSetting TotalHeight(bool landscape, int defaultHeight) {
+    return {landscape ? L"TotalHeightL" : L"TotalHeight",
+            static_cast<std::uint32_t>(defaultHeight)};
+}
+inline constexpr NumberSetting HeaderMinimized{L"HeaderMinimized", 0};
+inline constexpr NumberSetting AutoSizeAdjust{L"AutoSizeAdjust", 1};
+inline constexpr NumberSetting AllowMinimization{L"AllowMinimization", 1};
+inline constexpr NumberSetting CurrentPIM{L"CurrentPIM", 0};
+
+// Dates.
+inline constexpr NumberSetting LongDateRegional{L"LongDate_Regional", 1};
+inline constexpr NumberSetting LongDateCustomFormat{L"LongDate_CustomFormat", 0};
+inline constexpr NumberSetting LongDateNotYear{L"LongDate_NotYear", 1};
+inline constexpr NumberSetting LongDateShortYear{L"LongDate_ShortYear", 1};
+inline constexpr NumberSetting LongDateShortMonth{L"LongDate_ShortMonth", 1};
+inline constexpr NumberSetting LongDateShortDay{L"LongDate_ShortDay", 1};
+inline constexpr NumberSetting ShortDateNotYear{L"ShortDate_NotYear", 1};
+inline constexpr NumberSetting ShortDateShortYear{L"ShortDate_ShortYear", 1};
+
+// The font of the lists. The page that edits ClearType and whoever draws first differ in its
+// default.
+inline constexpr NumberSetting UseSystem{L"UseSystem", 1};
+inline constexpr const wchar_t FontName[] = L"FontName";
+inline constexpr NumberSetting FontHeight{L"FontHeight", 12};
+inline constexpr NumberSetting ClearTypeOnPage{L"ClearType", 2};
+inline constexpr NumberSetting ClearTypeWhenDrawing{L"ClearType", 0};
 
 // Return to a view after idle time (seconds, 0: never), keyboard.
 inline constexpr NumberSetting TimeoutTime{L"TimeoutTime", 900};

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "settings/settings_key.h"
+
 namespace {
 
 bool CanLoad(const wchar_t* path) {
@@ -9,6 +11,11 @@ bool CanLoad(const wchar_t* path) {
     if (!library) return false;
     FreeLibrary(library);
     return true;
+}
+
+bool HasText(const wchar_t* path, const wchar_t* name) {
+    CSettingsKey key(HKEY_LOCAL_MACHINE, path, false, false);
+    return key.IsOpen() && !key.ReadString(name).empty();
 }
 
 }  // namespace
@@ -19,3 +26,13 @@ bool IsPhoneDevice() {
 }
 
 bool IsFinanceProgramPresent() { return CanLoad(L"\\Windows\\LumFinanceScheduledAPI.dll"); }
+
+bool IsAgendaFusionPresent() {
+    return HasText(L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion", L"AppLocation");
+}
+
+bool IsPocketInformantPresent() { return CanLoad(L"PITools.dll"); }
+
+bool IsAgendaOnePresent() {
+    return HasText(L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath");
+}

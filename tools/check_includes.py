@@ -9,28 +9,29 @@ import sys
 
 # A file belongs to the first group whose pattern its path matches.
 GROUPS = [
-    ("main", r"app/(main|main_frame|open_entry|about_dialog|single_instance|notify_plugin)\."),
+    ("main", r"app/(main|main_frame|open_entry|about_dialog|single_instance|notify_plugin|export_import|registry_exporter)\."),
     ("options", r"app/(options_page|options_sheet|page_rows|launch_help)\."),
     ("language", r"app/"),
     ("stores", r"pages/stores/"),
     ("pages", r"pages/"),
     ("fonts and scale", r"appearance/(fonts|scale)\."),
     ("appearance", r"appearance/"),
+    ("handles", r"controls/owned_handle\."),
     ("controls", r"controls/"),
     ("settings", r"settings/"),
     ("ids", r"resources/ids\.h"),
 ]
-BELOW = {"language", "controls", "settings", "fonts and scale", "ids"}
+BELOW = {"language", "controls", "handles", "settings", "fonts and scale", "ids"}
 ALLOWED = {
     "main": {name for name, _ in GROUPS},
     "options": BELOW | {"options"},
-    # A handle's owner is all the language table knows of the controls.
-    "language": {"language", "controls"},
+    "language": {"language", "handles"},
     "pages": BELOW | {"pages", "options", "appearance", "stores"},
     "appearance": BELOW | {"appearance", "stores"},
     "stores": {"stores", "settings"},
-    "fonts and scale": {"fonts and scale", "settings"},
-    "controls": {"controls", "language", "fonts and scale"},
+    "fonts and scale": {"fonts and scale", "handles", "settings"},
+    "controls": {"controls", "handles", "language", "fonts and scale"},
+    "handles": set(),
     "settings": {"settings", "ids"},
     "ids": set(),
 }

@@ -1,0 +1,75 @@
+#include "app/export_import.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+#include <cwchar>
+#include <optional>
+#include <string>
+
+#include "app/language_table.h"
+#include "app/registry_exporter.h"
+#include "controls/wait_cursor.h"
+#include "resources/ids.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+// A pattern of the program's own with one "%s" in it.
+std::wstring Format(std::wstring pattern, const std::wstring& argument) {
+    const std::size_t place = pattern.find(L"%s");
+    return place == std::wstring::npos ? pattern : pattern.replace(place, 2, argument);
+}
+
+// Asks for a settings file by one of the system's two file dialogs; no value when the user cancels.
+std::optional<std::wstring> AskForFile(HWND owner, BOOL(WINAPI* dialog)(OPENFILENAMEW*),
+                                       DWORD flags) {
+    std::wstring filter =
+        Format(L"%s (*.dias)|*.dias|", GetLanguageTable().LoadString(IDS_SETTINGS_FILE_TYPE));
+    std::replace(filter.begin(), filter.end(), L'|', L'\0');
+    wchar_t path[MAX_PATH] = {};
+    GetLanguageTable().LoadString(IDS_SETTINGS_FILE_NAME).copy(path, MAX_PATH - 1);
+    OPENFILENAMEW request = {};
+    request.lStructSize = sizeof request;
+    request.hwndOwner = owner;
+    request.lpstrFilter = filter.c_str();
+    request.lpstrFile = path;
+    request.nMaxFile = MAX_PATH;
+    request.Flags = flags;
+    request.lpstrDefExt = L"dias";
+    if (!dialog(&request)) return {};
+    return path;
+}
+
+int Say(const wchar_t* text, UINT style) {
+    return MessageBoxW(GetActiveWindow(), text,
+                       GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), style);
+}
+
+void SayThatItFailed(unsigned text) {
+    Say(GetLanguageTable().LoadString(text).c_str(), MB_ICONINFORMATION);
+}
+
+}  // namespace
+
+void ExportSettings(HWND owner) {
+    const auto path = AskForFile(owner, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
+    if (!path) return;
+    const WaitCursor wait;
+    RegistryExporter exporter;
+    exporter.Exclude(L"Version");
+    exporter.Exclude(L"Build");
+    if (!exporter.Export(path->c_str(), HKEY_LOCAL_MACHINE, kProductKey)) {
+        SayThatItFailed(IDS_EXPORT_FAILED);
+    }
+}
+
+bool ImportSettings(HWND owner) {
+    const auto path = AskForFile(owner, GetOpenFileNameW, OFN_FILEMUSTEXIST);
+    if (!path) return false;
+    const std::wstring question = Format(GetLanguageTable().LoadString(IDS_CONFIRM_IMPORT), *path);
+    if (Say(question.c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES) return false;
+    const WaitCursor wait;
+    if (!RegistryExporter().Import(path->c_str())) SayThatItFailed(IDS_IMPORT_FAILED);
+    return true;
+}

@@ -1,0 +1,80 @@
+#include "appearance/folding_stripe.h"
+
+#include <algorithm>
+
+#include "appearance/fonts.h"
+#include "appearance/scale.h"
+#include "controls/owned_handle.h"
+
+namespace {
+
+constexpr int kMargin = 3;
+constexpr int kMarkSize = 9;
+constexpr int kMarkPlace = 14;  // width kept for the mark
+
+COLORREF Mix(COLORREF a, COLORREF b, int share, int whole) {
+    const auto channel = [=](int x, int y) { return (x * (whole - share) + y * share) / whole; };
+    return RGB(channel(GetRValue(a), GetRValue(b)), channel(GetGValue(a), GetGValue(b)),
+               channel(GetBValue(a), GetBValue(b)));
+}
+
+void Fill(HDC dc, const RECT& area, COLORREF color) {
+    const OwnedBrush brush(CreateSolidBrush(color));
+    FillRect(dc, &area, brush.get());
+}
+
+// From the highlight colour at the left to the window colour at the right.
+void Shade(HDC dc, const RECT& area) {
+    const COLORREF from = Mix(GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_WINDOW), 1, 2);
+    const int width = area.right - area.left;
+    const int step = ScaleX(4);
+    for (int x = 0; x < width; x += step) {
+        const RECT part = {area.left + x, area.top, std::min<LONG>(area.left + x + step, area.right),
+                           area.bottom};
+        Fill(dc, part, Mix(from, GetSysColor(COLOR_WINDOW), x, width));
+    }
+}
+
+// A minus in a box: the group is unfolded.
+void DrawMark(HDC dc, const RECT& area, COLORREF color) {
+    const int size = ScaleX(kMarkSize), line = ScaleX(1);
+    const int left = area.left + ScaleX(kMargin);
+    const int top = (area.top + area.bottom - size) / 2;
+    const RECT outer = {left, top, left + size, top + size};
+    Fill(dc, outer, color);
+    Fill(dc, {left + line, top + line, outer.right - line, outer.bottom - line},
+         GetSysColor(COLOR_WINDOW));
+    const int middle = top + (size - line) / 2;
+    Fill(dc, {left + 2 * line, middle, outer.right - 2 * line, middle + line}, color);
+}
+
+}  // namespace
+
+void FoldingStripe::Draw(HDC dc, const RECT& area, const std::wstring& title, int count) const {
+    COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
+    switch (style) {
+        case StripeStyle::kPlain: break;
+        case StripeStyle::kLine:
+            Fill(dc, {area.left, area.bottom - ScaleY(1), area.right, area.bottom},
+                 GetSysColor(COLOR_HIGHLIGHT));
+            break;
+        case StripeStyle::kShaded: Shade(dc, area); break;
+        case StripeStyle::kFilled:
+            Fill(dc, area, GetSysColor(COLOR_HIGHLIGHT));
+            text = GetSysColor(COLOR_HIGHLIGHTTEXT);
+            break;
+    }
+    RECT place = area;
+    if (showCollapseIcon) {
+        DrawMark(dc, area, style == StripeStyle::kFilled ? GetSysColor(COLOR_WINDOWTEXT) : text);
+        place.left += ScaleX(kMarkPlace);
+    }
+    place.left += ScaleX(kMargin);
+    place.right -= ScaleX(kMargin);
+    std::wstring shown = title;
+    if (drawCounter) shown += L" (" + std::to_wstring(count) + L")";
+    const SelectedObject font(dc, ListFont(FontStyle::kBold));
+    SetTextColor(dc, text);
+    DrawTextW(dc, shown.c_str(), static_cast<int>(shown.size()), &place,
+              DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+}

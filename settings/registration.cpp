@@ -1,0 +1,127 @@
+#include "settings/registration.h"
+
+#include <windows.h>
+
+#include "settings/catalogue.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+constexpr wchar_t kPlugins[] = L"SOFTWARE\\Lum Software House\\Shared\\TabPlugins";
+constexpr wchar_t kCombined[] = L"DiaryAll";
+constexpr wchar_t kTodayItem[] = L"SOFTWARE\\Microsoft\\Today\\Items\\\"Lum Diary\"";
+constexpr wchar_t kHost[] = L"SOFTWARE\\Lum Software House\\Lum Shell 2";
+constexpr wchar_t kLibrary[] = L"\\Windows\\LumDiary.dll";
+constexpr wchar_t kLibraryValue[] = L"DLL";
+constexpr DWORD kSelectableAsOne = 2;
+constexpr DWORD kCustomItem = 4;
+constexpr WPARAM kReloadItems = 0xF2;
+constexpr DWORD kReloadTime = 1000;  // milliseconds
+constexpr DWORD kNameLength = 256;
+
+std::wstring PluginKey(const std::wstring& name) { return std::wstring(kPlugins) + L"\\" + name; }
+
+bool Exists(const std::wstring& path) {
+    return CSettingsKey(HKEY_LOCAL_MACHINE, path.c_str(), false, false).IsOpen();
+}
+
+// The key's first key; empty when it has none, or is not there itself. The tab host makes one in
+// the key of a plug-in that it holds.
+std::wstring FirstSubKey(const std::wstring& path) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, 0, &key) != ERROR_SUCCESS) return {};
+    wchar_t name[kNameLength] = {};
+    DWORD length = kNameLength;
+    if (RegEnumKeyExW(key, 0, name, &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) {
+        length = 0;
+    }
+    RegCloseKey(key);
+    return {name, length};
+}
+
+Registration::State TodayState() {
+    CSettingsKey key(HKEY_LOCAL_MACHINE, kTodayItem, false, false);
+    if (!key.IsOpen()) return Registration::kNone;
+    if (key.ReadString(kLibraryValue).empty()) return Registration::kTodayDisabled;
+    const std::uint32_t enabled = key.ReadDword(L"enabled", SETTINGS_NO_DEFAULT);
+    return enabled && enabled != SETTINGS_NO_DEFAULT ? Registration::kToday
+                                                     : Registration::kTodayDisabled;
+}
+
+// Registers with the tab host under a key; whether the host holds the plug-in there.
+bool RegisterWithHost(const std::wstring& hostKey, const std::wstring& name) {
+    const std::wstring path = PluginKey(hostKey);
+    {
+        CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
+        key.WriteString(kLibraryValue, kLibrary);
+        key.WriteString(L"Name3.0", name.c_str());
+        key.WriteString(L"Label", L"");
+    }
+    const std::wstring held = FirstSubKey(path);
+    if (held.empty()) return false;
+    CSettingsKey(HKEY_LOCAL_MACHINE, (path + L"\\" + held).c_str(), false, true)
+        .WriteString(kLibraryValue, kLibrary);
+    return true;
+}
+
+void RegisterWithToday() {
+    CSettingsKey key(HKEY_LOCAL_MACHINE, kTodayItem, true, true);
+    key.WriteString(kLibraryValue, kLibrary);
+    key.WriteDword(L"selectability", kSelectableAsOne);
+    key.WriteDword(L"type", kCustomItem);
+    key.WriteDword(L"options", 1);
+    key.WriteDword(L"enabled", 1);
+}
+
+}  // namespace
+
+Registration Registration::Probe() {
+    Registration result;
+    result.hostInstalled = Exists(kHost);
+    result.state = TodayState();
+    if (Exists(PluginKey(kCombined))) {
+        if (!FirstSubKey(PluginKey(kCombined)).empty()) result.state = kOneHostTab;
+        return result;
+    }
+    for (const DiaryTab& tab : kDiaryTabs) {
+        if (FirstSubKey(PluginKey(tab.hostKey)).empty()) continue;
+        result.state = kTabPerHostTab;
+        break;
+    }
+    return result;
+}
+
+void RegisterPlugin(const std::array<std::wstring, kDiaryTabs.size()>& labels) {
+    bool combined = false;
+    {
+        CSettingsKey settings = OpenProductKey();
+        combined = settings.ReadDword(settings::AllTabsInShell.name,
+                                      settings::AllTabsInShell.defaultValue) != 0;
+        const Registration now = Registration::Probe();
+        const bool heldApart = now.state == Registration::kTabPerHostTab;
+        if (now.hostInstalled && (heldApart || now.state == Registration::kOneHostTab)) {
+            combined = !heldApart;
+            settings.WriteDword(settings::AllTabsInShell.name, combined);
+        }
+    }
+    bool held = false;
+    if (combined) {
+        held = RegisterWithHost(kCombined, L"Lum Diary");
+        for (const DiaryTab& tab : kDiaryTabs) {
+            DeleteKeyTree(HKEY_LOCAL_MACHINE, PluginKey(tab.hostKey).c_str());
+        }
+    } else {
+        for (std::size_t i = kDiaryTabs.size(); i-- > 0;) {
+            held |= RegisterWithHost(kDiaryTabs[i].hostKey, L"Lum Diary - " + labels[i]);
+        }
+        DeleteKeyTree(HKEY_LOCAL_MACHINE, PluginKey(kCombined).c_str());
+    }
+    if (!held) RegisterWithToday();
+}
+
+void ReloadTodayItems() {
+    if (const HWND today = FindWindowW(L"DesktopExplorerWindow", nullptr)) {
+        PostMessageW(today, WM_WININICHANGE, kReloadItems, 0);
+    }
+    Sleep(kReloadTime);
+}
