@@ -29,8 +29,8 @@ void Shade(HDC dc, const RECT& area) {
     const int width = area.right - area.left;
     const int step = ScaleX(4);
     for (int x = 0; x < width; x += step) {
-        const RECT part = {area.left + x, area.top, std::min<LONG>(area.left + x + step, area.right),
-                           area.bottom};
+        const RECT part = {area.left + x, area.top,
+                           std::min<LONG>(area.left + x + step, area.right), area.bottom};
         Fill(dc, part, Mix(from, GetSysColor(COLOR_WINDOW), x, width));
     }
 }

@@ -121,7 +121,7 @@ void RegisterPlugin(const std::array<std::wstring, kDiaryTabs.size()>& labels) {
 
 void ReloadTodayItems() {
     if (const HWND today = FindWindowW(L"DesktopExplorerWindow", nullptr)) {
-        PostMessageW(today, WM_WININICHANGE, kReloadItems, 0);
+        SendMessageW(today, WM_WININICHANGE, kReloadItems, 0);
     }
     Sleep(kReloadTime);
 }

@@ -67,11 +67,13 @@ std::wstring FolderOfTests() {
 
 std::vector<HWND> VisibleDialogs(DWORD process) {
     std::vector<HWND> dialogs;
-    HWND window = nullptr;
-    while ((window = FindWindowExW(nullptr, window, L"#32770", nullptr))) {
-        DWORD id = 0;
-        GetWindowThreadProcessId(window, &id);
-        if (id == process && IsWindowVisible(window)) dialogs.push_back(window);
+    for (const wchar_t* const className : {L"#32770", L"PocketPC.FileDialog"}) {
+        HWND window = nullptr;
+        while ((window = FindWindowExW(nullptr, window, className, nullptr))) {
+            DWORD id = 0;
+            GetWindowThreadProcessId(window, &id);
+            if (id == process && IsWindowVisible(window)) dialogs.push_back(window);
+        }
     }
     return dialogs;
 }

@@ -61,6 +61,7 @@ TEST_F(Pages, CancelChangesNoStoredValue) {
 // Every page and control: what changes it, the value behind it, that value's default and what the
 // change stores, all written out by hand.
 constexpr int kClick = -1;
+constexpr int kReturnPage = 6;
 struct Row {
     int control;
     int select;  // an index, or kClick
@@ -76,6 +77,30 @@ struct Tab {
 const std::vector<Tab> kTabs = {
     {0,
      0,
+     L"General options",
+     {{IDC_HEADER_STATE, 1, L"HeaderMinimized", 0, 1},
+      {IDC_ALLOW_MINIMIZATION, kClick, L"AllowMinimization", 1, 0},
+      {IDC_AUTO_SIZE, kClick, L"AutoSizeAdjust", 1, 0}}},
+    {0, 1, L"General options", {{IDC_SHORT_NOT_YEAR, kClick, L"ShortDate_NotYear", 1, 0}}},
+    {0,
+     2,
+     L"General options",
+     {{IDC_LONG_REGIONAL, kClick, L"LongDate_Regional", 1, 0},
+      {IDC_LONG_NOT_YEAR, kClick, L"LongDate_NotYear", 1, 0},
+      {IDC_LONG_SHORT_MONTH, kClick, L"LongDate_ShortMonth", 1, 0},
+      {IDC_LONG_SHORT_DAY, kClick, L"LongDate_ShortDay", 1, 0}}},
+    {0,
+     4,
+     L"General options",
+     {{IDC_STRIPE_STYLE, 0, L"FoldingStripeStyle", 2, 0},
+      {IDC_STRIPE_COUNTER, kClick, L"FoldingStripeDrawCounter", 1, 0},
+      {IDC_STRIPE_COLLAPSE_ICON, kClick, L"FoldingStripeShowCollapseIcon", 1, 0},
+      {IDC_STRIPE_HIDE_EMPTY, kClick, L"FoldingStripeDontShowNull", 1, 0},
+      {IDC_ONE_CLICK, 2, L"OneClick", 0, 2},
+      {IDC_DOUBLE_CLICK, 3, L"DoubleClick", 2, 3},
+      {IDC_DOUBLE_TAP_SCROLL, kClick, L"EnableDoubleTapOnScrollButton", 0, 1}}},
+    {0,
+     kReturnPage,
      L"General options",
      {{IDC_TIMEOUT_TIME, 2, L"TimeoutTime", 900, 14400},
       {IDC_TIMEOUT_VIEW, 5, L"TimeoutView", 1, 6},
@@ -198,7 +223,7 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
              Case{120, true, L"15 min", false, 900},
          }) {
         Put(L"TimeoutTime", c.stored);
-        program.Open(0, 0);
+        program.Open(0, kReturnPage);
         const HWND sheet = program.Sheet(L"General options");
         const HWND page = Page(sheet, IDC_TIMEOUT_ON);
         ASSERT_TRUE(page);

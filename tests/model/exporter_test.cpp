@@ -1,0 +1,139 @@
+// Settings files over the device's registry.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "app/registry_exporter.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+constexpr wchar_t kTree[] = L"\\Software\\Export Test";
+constexpr wchar_t kFile[] = L"\\My Documents\\test.dias";
+
+using Tree = std::map<std::wstring, std::wstring>;
+
+// Every value below a key: its path, and its type and data.
+void Collect(HKEY parent, const std::wstring& name, const std::wstring& path, Tree& tree) {
+    HKEY key = nullptr;
+    ASSERT_EQ(RegOpenKeyExW(parent, name.c_str(), 0, 0, &key), ERROR_SUCCESS);
+    std::vector<wchar_t> data(4096);
+    wchar_t text[256];
+    for (DWORD i = 0;; ++i) {
+        DWORD length = 256, type = 0, size = 8192;
+        if (RegEnumValueW(key, i, text, &length, nullptr, &type,
+                          reinterpret_cast<BYTE*>(data.data()), &size) != ERROR_SUCCESS) {
+            break;
+        }
+        tree[path + L"|" + text] =
+            std::to_wstring(type) + L":" + std::wstring(data.data(), (size + 1) / 2);
+    }
+    for (DWORD i = 0;; ++i) {
+        DWORD length = 256;
+        if (RegEnumKeyExW(key, i, text, &length, nullptr, nullptr, nullptr, nullptr)) break;
+        tree[path + L"\\" + text];
+        Collect(key, text, path + L"\\" + text, tree);
+    }
+    RegCloseKey(key);
+}
+Tree Everything() {
+    Tree tree;
+    Collect(HKEY_LOCAL_MACHINE, kTree, L"", tree);
+    return tree;
+}
+
+class Exporter : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        DeleteKeyTree(HKEY_LOCAL_MACHINE, kTree);
+        DeleteFileW(kFile);
+    }
+    static void Put(const std::wstring& below, const wchar_t* name, DWORD type,
+                    std::string_view data) {
+        HKEY key = nullptr;
+        DWORD disposition = 0;
+        ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (kTree + below).c_str(), 0, nullptr, 0, 0,
+                                  nullptr, &key, &disposition),
+                  ERROR_SUCCESS);
+        ASSERT_EQ(RegSetValueExW(key, name, 0, type, reinterpret_cast<const BYTE*>(data.data()),
+                                 static_cast<DWORD>(data.size())),
+                  ERROR_SUCCESS);
+        RegCloseKey(key);
+    }
+    static bool FileExists() { return GetFileAttributesW(kFile) != INVALID_FILE_ATTRIBUTES; }
+    static bool Export() {
+        RegistryExporter exporter;
+        exporter.Exclude(L"Version");
+        exporter.Exclude(L"bUild");
+        return exporter.Export(kFile, HKEY_LOCAL_MACHINE, kTree);
+    }
+};
+
+TEST_F(Exporter, BringsATreeBack) {
+    using namespace std::string_view_literals;
+    const std::wstring deep = L"\\a\\\x0416\x4E2D\\c\\d\\e";
+    Put(L"", L"", REG_SZ, "n\0o\0 \0n\0a\0m\0e\0\0\0"sv);
+    Put(L"", L"Empty", REG_SZ, "\0\0"sv);
+    Put(deep, L"\x0414\xD83D\xDE00", REG_SZ, "\x16\x04\x3D\xD8\0\0"sv);
+    Put(deep, L"Number", REG_DWORD, "\xFF\xFF\xFF\xFF"sv);
+    Put(L"\\a", L"Bytes", REG_BINARY, std::string(4096, '\xA5'));
+    const Tree before = Everything();
+    Put(L"", L"VERSION", REG_DWORD, "1234"sv);
+    Put(deep, L"Build", REG_MULTI_SZ, "\0\0"sv);  // Left out, and so no obstacle.
+    // What cannot be read as a number is exported as one that says so.
+    Put(L"", L"TooLong", REG_DWORD, "12345678"sv);
+    ASSERT_TRUE(Export());
+
+    DeleteKeyTree(HKEY_LOCAL_MACHINE, kTree);
+    Put(L"", L"Stays", REG_DWORD, "\1\0\0\0"sv);
+    ASSERT_TRUE(RegistryExporter().Import(kFile));
+    Tree expected = before;
+    expected[L"|Stays"] = std::wstring(L"4:\1\0", 4);
+    expected[L"|TooLong"] = std::wstring(L"4:\xDEF0\0", 4);
+    EXPECT_EQ(Everything(), expected);
+}
+
+TEST_F(Exporter, FailsAndLeavesNoFile) {
+    EXPECT_FALSE(Export()) << "no such key";
+    Put(L"\\a", L"Ok", REG_DWORD, "1234");
+    EXPECT_FALSE(RegistryExporter().Export(L"\\No Such Folder\\x.dias", HKEY_LOCAL_MACHINE, kTree));
+    Put(L"\\b", L"List", REG_MULTI_SZ, std::string(4, '\0'));
+    EXPECT_FALSE(Export()) << "a type that files do not have";
+    EXPECT_FALSE(FileExists());
+    EXPECT_FALSE(RegistryExporter().Import(kFile)) << "no such file";
+}
+
+TEST_F(Exporter, BytesThatAreNoneCannotBeReadBack) {
+    Put(L"", L"A", REG_DWORD, "1234");
+    Put(L"", L"None", REG_BINARY, "");
+    ASSERT_TRUE(Export());
+    DeleteKeyTree(HKEY_LOCAL_MACHINE, kTree);
+    EXPECT_FALSE(RegistryExporter().Import(kFile));
+    EXPECT_TRUE(Everything().contains(L"|A")) << "what stood before it is not there";
+}
+
+// The registry's own limit ends what nests deeper; the desktop's keys are out of reach.
+TEST_F(Exporter, ImportEndsWhereTheRegistryDoes) {
+    const auto import = [](DWORD root, int levels) {
+        std::vector<DWORD> file = {0, root, 4, 'k' | 'k' << 16};
+        for (int i = 0; i < levels; ++i) file.insert(file.end(), {2, 4, 'a' | 'b' << 16});
+        file.insert(file.end(), {4, 0, 4, 7});
+        file.insert(file.end(), static_cast<std::size_t>(levels), 3);
+        file.push_back(1);
+        const HANDLE handle =
+            CreateFileW(kFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        DWORD written = 0;
+        WriteFile(handle, file.data(), static_cast<DWORD>(file.size() * 4), &written, nullptr);
+        CloseHandle(handle);
+        return RegistryExporter().Import(kFile);
+    };
+    EXPECT_TRUE(import(0x80000002, 14));
+    EXPECT_FALSE(import(0x80000002, 17));
+    EXPECT_FALSE(import(0x80000004, 1));
+    EXPECT_FALSE(import(0x12345678, 1));
+    EXPECT_TRUE(DeleteKeyTree(HKEY_LOCAL_MACHINE, L"kk"));
+}
+
+}  // namespace

@@ -1,0 +1,154 @@
+#include "settings/settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+// Notes what it is given as text.
+struct Notes : SettingsSink {
+    std::string text;
+    std::size_t refuseAfter = 1000000;
+
+    bool Note(const std::string& line) {
+        text += line + ";";
+        return text.size() < refuseAfter;
+    }
+    static std::string Narrow(const std::wstring& wide) { return {wide.begin(), wide.end()}; }
+
+    bool OpenRoot(std::uint32_t root, const std::wstring& path) override {
+        return Note("root " + std::to_string(root) + " " + Narrow(path));
+    }
+    bool EnterKey(const std::wstring& name) override { return Note("{" + Narrow(name)); }
+    void LeaveKey() override { Note("}"); }
+    bool PutText(const std::wstring& name, const std::wstring& value) override {
+        return Note(Narrow(name) + "=" + Narrow(value));
+    }
+    bool PutNumber(const std::wstring& name, std::uint32_t number) override {
+        return Note(Narrow(name) + "=#" + std::to_string(number));
+    }
+    bool PutBinary(const std::wstring& name, std::span<const std::uint8_t> bytes) override {
+        return Note(Narrow(name) + "=" + std::to_string(bytes.size()) + " bytes");
+    }
+};
+
+using Bytes = std::vector<std::uint8_t>;
+
+// A file of numbers, each of four bytes, and of short pieces of text that come as they are.
+Bytes File(std::initializer_list<std::uint32_t> numbers) {
+    Bytes bytes;
+    for (const std::uint32_t number : numbers) {
+        for (int shift = 0; shift < 32; shift += 8) {
+            bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+        }
+    }
+    return bytes;
+}
+// Two UTF-16 units in a number.
+constexpr std::uint32_t Two(char first, char second) {
+    return static_cast<std::uint32_t>(first) | static_cast<std::uint32_t>(second) << 16;
+}
+constexpr std::uint32_t kLocalMachine = 0x80000002;
+
+const Bytes kGolden = File({0,
+                            kLocalMachine,
+                            4,
+                            Two('\\', 'S'),
+                            2,
+                            0,  //
+                            4,
+                            4,
+                            Two('O', 'n'),
+                            4,
+                            258,  // a number
+                            4,
+                            0,
+                            1,
+                            4,
+                            Two('h', 'i'),  // a text
+                            2,
+                            4,
+                            Two('S', 'b'),
+                            4,
+                            4,
+                            Two('B', 'n'),
+                            3,
+                            4,
+                            0xFFFFFFFF,
+                            3,  //
+                            3,
+                            1});
+
+TEST(SettingsFile, WritesAndReadsTheSameBytes) {
+    SettingsFileWriter writer;
+    writer.Begin(kLocalMachine, L"\\S");
+    writer.BeginKey(L"");
+    writer.Number(L"On", 258);
+    writer.Text(L"", L"hi");
+    writer.BeginKey(L"Sb");
+    writer.Binary(L"Bn", Bytes(4, 0xFF));
+    writer.EndKey();
+    writer.EndKey();
+    writer.End();
+    EXPECT_EQ(writer.bytes, kGolden);
+
+    Notes notes;
+    EXPECT_TRUE(ReadSettingsFile(kGolden, notes));
+    EXPECT_EQ(notes.text, "root 2147483650 \\S;{;On=#258;=hi;{Sb;Bn=4 bytes;};};");
+}
+
+TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
+    struct Case {
+        const char* what;
+        Bytes file;
+        bool read;
+        const char* seen;
+    };
+    for (const Case& c : {
+             Case{"empty", {}, false, ""},
+             Case{"wrong first tag", File({1, kLocalMachine, 0, 2, 0, 3, 1}), false, ""},
+             Case{"no key after the path", File({0, 1, 0, 4, 0, 3, 1}), false, "root 1 ;"},
+             Case{"nothing but a key", File({0, 1, 0, 2, 0, 3, 1}), true, "root 1 ;{;};"},
+             Case{"no end", File({0, 1, 0, 2, 0, 3}), false, "root 1 ;{;};"},
+             Case{"bytes behind the end", File({0, 1, 0, 2, 0, 3, 1, 77}), true, "root 1 ;{;};"},
+             Case{"other tags", File({0, 1, 0, 2, 0, 9, 0, 5, 3, 1}), true, "root 1 ;{;};"},
+             Case{"end tag inside", File({0, 1, 0, 2, 0, 2, 0, 1, 3, 1}), true, "root 1 ;{;{;};};"},
+             Case{"unknown type", File({0, 1, 0, 2, 0, 4, 0, 4, 7, 4, 0, 7, 0, 3, 1}), false,
+                  "root 1 ;{;=#7;"},
+             Case{"gigantic text", File({0, 1, 0, 2, 0, 4, 0, 1, 0xFFFFFFFF, 3, 1}), false,
+                  "root 1 ;{;"},
+             Case{"gigantic name", File({0, 1, 0, 2, 0x7FFFFFFF, 3, 1}), false, "root 1 ;"},
+             Case{"gigantic bytes", File({0, 1, 0, 2, 0, 4, 0, 3, 0x80000000}), false,
+                  "root 1 ;{;"},
+             // Of no bytes there is no count, so that what follows is taken for one.
+             Case{"bytes without a count", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 1}), false,
+                  "root 1 ;{;=3 bytes;"},
+         }) {
+        Notes notes;
+        EXPECT_EQ(ReadSettingsFile(c.file, notes), c.read) << c.what;
+        EXPECT_EQ(notes.text, c.seen) << c.what;
+    }
+    for (std::size_t size = 0; size < kGolden.size(); ++size) {
+        Notes notes;
+        EXPECT_FALSE(ReadSettingsFile(std::span(kGolden).first(size), notes)) << size;
+    }
+    Notes full;
+    full.refuseAfter = 30;
+    EXPECT_FALSE(ReadSettingsFile(kGolden, full));
+    EXPECT_EQ(full.text, "root 2147483650 \\S;{;On=#258;=hi;");
+}
+
+TEST(SettingsFile, DeepNestingTakesNoStack) {
+    constexpr std::size_t kLevels = 1000000;
+    Bytes file = File({0, 1, 0});
+    for (std::size_t i = 0; i < kLevels; ++i) file.insert(file.end(), {2, 0, 0, 0, 0, 0, 0, 0});
+    struct Counter : Notes {
+        std::size_t depth = 0;
+        bool EnterKey(const std::wstring&) override { return ++depth != 0; }
+    } counter;
+    EXPECT_FALSE(ReadSettingsFile(file, counter));
+    EXPECT_EQ(counter.depth, kLevels);
+}
+
+}  // namespace
