@@ -1,0 +1,34 @@
+// Any bytes are a bitmap file or none; its pieces lie in it, one below the other.
+#include "appearance/strip.h"
+
+#include <vector>
+
+#include "tests/fuzz/fuzz.h"
+
+namespace {
+
+void Check(const std::optional<BitmapView>& view) {
+    if (!view) return;
+    REQUIRE(view->width >= 1 && view->height >= 1);
+    unsigned sum = 0;
+    for (int y = 0; y < view->height; ++y) {
+        sum += *view->Pixel(0, y) + view->Pixel(view->width - 1, y)[2];
+    }
+    REQUIRE(sum <= 510u * view->height);
+    const std::vector<StripPiece> pieces = FindStripPieces(*view);
+    REQUIRE(!pieces.empty());
+    int next = 0;
+    for (const StripPiece& piece : pieces) {
+        REQUIRE(piece.top == next && piece.bottom >= piece.top && piece.bottom <= view->height);
+        next = piece.bottom + 1;
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::vector<std::uint8_t> bytes(data, data + size);
+    Check(ParseBitmapFile(bytes));
+    Check(ParseBitmapResource(bytes));
+    return 0;
+}
