@@ -9,6 +9,7 @@
 #include "pages/calendar_show_page.h"
 #include "pages/calendar_tasks_page.h"
 #include "pages/general_auto_return_page.h"
+#include "pages/general_skins_page.h"
 #include "pages/special_events_common_page.h"
 #include "pages/tasks_common_page.h"
 #include "resources/ids.h"
@@ -20,7 +21,10 @@ std::unique_ptr<OptionsPage> Make() {
     return std::make_unique<Page>();
 }
 
-constexpr MainEntry::PageFactory kGeneralPages[] = {Make<GeneralAutoReturnPage>};
+constexpr MainEntry::PageFactory kGeneralPages[] = {
+    Make<GeneralSkinsPage>,
+    Make<GeneralAutoReturnPage>,
+};
 constexpr MainEntry::PageFactory kCalendarPages[] = {
     Make<CalendarCommonPage>,
     Make<CalendarShowPage>,

@@ -3,12 +3,17 @@ add_library(diary_models STATIC
   app/language_table.cpp
   app/language_template.cpp
   app/module.cpp
+  appearance/archive.cpp
+  appearance/scale.cpp
+  appearance/skin_art.cpp
+  appearance/skin_source.cpp
+  appearance/skin_strip.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
   settings/settings_key.cpp
 )
-target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings)
+target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings minizip)
 
 # DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
 # them, as on the device everything binds to the system's own libraries.
@@ -23,7 +28,6 @@ add_executable(DiarySettings WIN32
   app/options_page.cpp
   app/options_sheet.cpp
   app/single_instance.cpp
-  appearance/scale.cpp
   controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/title_band.cpp
@@ -32,6 +36,8 @@ add_executable(DiarySettings WIN32
   pages/calendar_show_page.cpp
   pages/calendar_tasks_page.cpp
   pages/general_auto_return_page.cpp
+  pages/general_skins_page.cpp
+  pages/skin_preview.cpp
   pages/special_events_common_page.cpp
   pages/tasks_common_page.cpp
 )

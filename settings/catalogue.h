@@ -15,6 +15,9 @@ namespace settings {
 inline constexpr NumberSetting ShowTabs{L"ShowTabs", 0xFFFFFFFF};
 inline constexpr const wchar_t ShowTabsSequence[] = L"ShowTabsSequence";
 
+// The skin's name; its default stands with the artwork, as an empty name means the same.
+inline constexpr const wchar_t SkinName[] = L"SkinName";
+
 // Return to a view after idle time (seconds, 0: never), keyboard.
 inline constexpr NumberSetting TimeoutTime{L"TimeoutTime", 900};
 inline constexpr NumberSetting TimeoutView{L"TimeoutView", 1};

@@ -1,0 +1,139 @@
+#include "pages/skin_preview.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "app/language_table.h"
+#include "appearance/scale.h"
+#include "appearance/skin_art.h"
+#include "resources/ids.h"
+
+namespace {
+
+// Design lengths.
+constexpr int kIconGap = 2;
+constexpr int kLine = 1;
+constexpr int kTextGap = 3;
+constexpr int kTabGap = 4;
+constexpr int kTextLeft = 22;  // of a group's title, where item texts begin as well
+constexpr int kHeaderHeight = 15;
+constexpr int kRowHeight = 17;
+
+struct SampleItem {
+    unsigned text;
+    ItemIcon icon;
+    std::initializer_list<SkinIcon> marks;  // behind the text
+};
+
+void Fill(HDC dc, const RECT& rect, int color) { FillRect(dc, &rect, GetSysColorBrush(color)); }
+
+void DrawLabel(HDC dc, const RECT& row, const std::wstring& text) {
+    RECT rect = {row.left + ScaleX(kTextLeft), row.top, row.right, row.bottom};
+    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+}
+
+// Returns where the tabs end.
+int PaintTabs(HDC dc, const RECT& rect, int selected) {
+    if (GetSkinArt().LoadTabIcons() == SkinArt::kFailed) return rect.top;
+    const HIMAGELIST icons = GetSkinArt().TabIcons();
+    const int size = ScaleX(16);
+    const int bottom = rect.top + size + ScaleY(kTabGap);
+    const RECT row = {rect.left, rect.top, rect.right, bottom};
+    Fill(dc, row, COLOR_BTNFACE);
+    const int step = size + ScaleX(2 * kTabGap);
+    for (int i = 0; i < std::min(kTabIconCount, ImageList_GetImageCount(icons)); ++i) {
+        const int left = rect.left + i * step;
+        if (i == selected) Fill(dc, {left, rect.top, left + step, bottom}, COLOR_WINDOW);
+        ImageList_Draw(icons, i, dc, left + ScaleX(kTabGap), rect.top + ScaleY(kTabGap) / 2,
+                       ILD_TRANSPARENT);
+    }
+    return bottom;
+}
+
+void PaintItem(HDC dc, const RECT& row, const SampleItem& item, bool selected) {
+    if (selected) Fill(dc, row, COLOR_HIGHLIGHT);
+    SetTextColor(dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    SkinArt& art = GetSkinArt();
+    if (art.LoadIcons() == SkinArt::kFailed) return;
+    const SIZE icon = art.Icons()->PieceSize(static_cast<int>(item.icon));
+    art.DrawItemIcon(dc, item.icon, row.left + ScaleX(kTextGap),
+                     (row.top + row.bottom - icon.cy) / 2);
+    DrawLabel(dc, row, GetLanguageTable().LoadString(item.text));
+    int x = row.right;
+    for (const SkinIcon mark : item.marks) {
+        x -= icon.cx + ScaleX(kIconGap);
+        DrawIconEx(dc, x, (row.top + row.bottom - icon.cy) / 2, art.Icon(mark), icon.cx, icon.cy, 0,
+                   nullptr, DI_NORMAL);
+    }
+}
+
+}  // namespace
+
+void PaintItemIcons(HDC dc, const RECT& rect) {
+    Fill(dc, rect, COLOR_WINDOW);
+    SkinArt& art = GetSkinArt();
+    if (art.LoadIcons() == SkinArt::kFailed) return;
+    const SIZE icon = art.Icons()->PieceSize(0);
+    const int columnWidth = static_cast<int>(icon.cx) + ScaleX(kIconGap);
+    const int rowHeight = static_cast<int>(icon.cy) + ScaleY(kIconGap);
+    const int columns = std::max(1, static_cast<int>(rect.right - rect.left) / columnWidth);
+    for (int i = 0; i < std::min(kItemIconCount, art.Icons()->Count()); ++i) {
+        art.Icons()->Draw(dc, i, rect.left + i % columns * columnWidth,
+                          rect.top + i / columns * rowHeight);
+    }
+}
+
+void PaintScrollBar(HDC dc, const RECT& rect) {
+    Fill(dc, rect, COLOR_WINDOW);
+    SkinArt& art = GetSkinArt();
+    if (art.LoadScrollBar() == SkinArt::kFailed) return;
+    const SkinStrip& strip = *art.ScrollBar();
+    const int up = static_cast<int>(ScrollBarPart::kUp);
+    const int down = static_cast<int>(ScrollBarPart::kDown);
+    const int top = rect.top + strip.PieceSize(up).cy;
+    const int bottom = rect.bottom - strip.PieceSize(down).cy;
+    strip.DrawStretched(dc, static_cast<int>(ScrollBarPart::kTrack), rect.left, top, bottom - top);
+    strip.DrawStretched(dc, static_cast<int>(ScrollBarPart::kThumb), rect.left, top,
+                        (bottom - top) / 2);
+    strip.Draw(dc, up, rect.left, rect.top);
+    strip.Draw(dc, down, rect.left, bottom);
+}
+
+void PaintSampleList(HDC dc, const RECT& rect) {
+    const SampleItem items[] = {
+        {IDS_SAMPLE_APPOINTMENT,
+         ItemIcon::kAppointment,
+         {SkinIcon::kReminder, SkinIcon::kRecurrence}},
+        {IDS_SAMPLE_TASK, ItemIcon::kTaskOpen, {SkinIcon::kNote}},
+        {IDS_SAMPLE_BIRTHDAY, ItemIcon::kBirthday, {SkinIcon::kPrivate}},
+        {IDS_SAMPLE_MESSAGE, ItemIcon::kMessageUnread, {}},
+    };
+    Fill(dc, rect, COLOR_WINDOW);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    RECT row = rect;
+    row.top = PaintTabs(dc, rect, 0);
+    SkinArt& art = GetSkinArt();
+    if (art.LoadScrollBar() != SkinArt::kFailed) {
+        row.right -= art.ScrollBar()->PieceSize(0).cx;
+        PaintScrollBar(dc, {row.right, row.top, rect.right, rect.bottom});
+    }
+    row.bottom = row.top + ScaleY(kHeaderHeight);
+    Fill(dc, {row.left, row.top, row.right, row.top + ScaleY(kLine)}, COLOR_HIGHLIGHT);
+    const int mark = ScaleX(9);
+    DrawIconEx(dc, row.left + ScaleX(6), (row.top + row.bottom - mark) / 2,
+               art.Icon(SkinIcon::kExpanded), mark, mark, 0, nullptr, DI_NORMAL);
+    DrawLabel(dc, row,
+              GetLanguageTable().LoadString(IDS_SAMPLE_GROUP) + L" (" +
+                  std::to_wstring(std::size(items)) + L")");
+    bool selected = true;
+    for (const SampleItem& item : items) {
+        row.top = row.bottom;
+        row.bottom += ScaleY(kRowHeight);
+        if (row.bottom > rect.bottom) break;  // Only whole rows.
+        PaintItem(dc, row, item, selected);
+        selected = false;
+    }
+}
