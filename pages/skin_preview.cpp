@@ -75,13 +75,14 @@ void PaintItemIcons(HDC dc, const RECT& rect) {
     Fill(dc, rect, COLOR_WINDOW);
     SkinArt& art = GetSkinArt();
     if (art.LoadIcons() == SkinArt::kFailed) return;
-    const SIZE icon = art.Icons()->PieceSize(0);
-    const int columnWidth = static_cast<int>(icon.cx) + ScaleX(kIconGap);
-    const int rowHeight = static_cast<int>(icon.cy) + ScaleY(kIconGap);
-    const int columns = std::max(1, static_cast<int>(rect.right - rect.left) / columnWidth);
-    for (int i = 0; i < std::min(kItemIconCount, art.Icons()->Count()); ++i) {
-        art.Icons()->Draw(dc, i, rect.left + i % columns * columnWidth,
-                          rect.top + i / columns * rowHeight);
+    constexpr int kColumns = 10;
+    constexpr int kRows = kItemIconCount / kColumns;
+    const int columnWidth = static_cast<int>(rect.right - rect.left) / kColumns;
+    const int rowHeight = static_cast<int>(rect.bottom - rect.top) / kRows;
+    for (int i = 0; i < kItemIconCount; ++i) {
+        const int margin = (rowHeight - static_cast<int>(art.Icons()->PieceSize(i).cy)) / 2;
+        art.Icons()->Draw(dc, i, rect.left + i % kColumns * columnWidth,
+                          rect.top + i / kColumns * rowHeight + margin);
     }
 }
 

@@ -4,7 +4,7 @@
 
 // What the skins page shows of the current skin's artwork, each filling its rectangle.
 
-// All item icons, as many in a row as fit.
+// All item icons, ten in a row.
 void PaintItemIcons(HDC dc, const RECT& rect);
 // A scroll bar that stands still.
 void PaintScrollBar(HDC dc, const RECT& rect);

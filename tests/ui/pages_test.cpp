@@ -75,7 +75,7 @@ struct Tab {
 };
 const std::vector<Tab> kTabs = {
     {0,
-     0,
+     1,
      L"General options",
      {{IDC_TIMEOUT_TIME, 2, L"TimeoutTime", 900, 14400},
       {IDC_TIMEOUT_VIEW, 5, L"TimeoutView", 1, 6},
@@ -198,7 +198,7 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
              Case{120, true, L"15 min", false, 900},
          }) {
         Put(L"TimeoutTime", c.stored);
-        program.Open(0, 0);
+        program.Open(0, 1);
         const HWND sheet = program.Sheet(L"General options");
         const HWND page = Page(sheet, IDC_TIMEOUT_ON);
         ASSERT_TRUE(page);
