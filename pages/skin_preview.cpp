@@ -15,9 +15,10 @@ namespace {
 constexpr int kIconGap = 2;
 constexpr int kLine = 1;
 constexpr int kTextGap = 3;
-constexpr int kTabGap = 4;
+constexpr int kTabGap = 4;     // beside a tab's icon
+constexpr int kTabMargin = 1;  // above and below it
 constexpr int kTextLeft = 22;  // of a group's title, where item texts begin as well
-constexpr int kHeaderHeight = 15;
+constexpr int kHeaderHeight = 14;
 constexpr int kRowHeight = 17;
 
 struct SampleItem {
@@ -39,14 +40,14 @@ int PaintTabs(HDC dc, const RECT& rect, int selected) {
     if (GetSkinArt().LoadTabIcons() == SkinArt::kFailed) return rect.top;
     const HIMAGELIST icons = GetSkinArt().TabIcons();
     const int size = ScaleX(16);
-    const int bottom = rect.top + size + ScaleY(kTabGap);
+    const int bottom = rect.top + size + 2 * ScaleY(kTabMargin);
     const RECT row = {rect.left, rect.top, rect.right, bottom};
     Fill(dc, row, COLOR_BTNFACE);
     const int step = size + ScaleX(2 * kTabGap);
     for (int i = 0; i < std::min(kTabIconCount, ImageList_GetImageCount(icons)); ++i) {
         const int left = rect.left + i * step;
         if (i == selected) Fill(dc, {left, rect.top, left + step, bottom}, COLOR_WINDOW);
-        ImageList_Draw(icons, i, dc, left + ScaleX(kTabGap), rect.top + ScaleY(kTabGap) / 2,
+        ImageList_Draw(icons, i, dc, left + ScaleX(kTabGap), rect.top + ScaleY(kTabMargin),
                        ILD_TRANSPARENT);
     }
     return bottom;
@@ -129,12 +130,12 @@ void PaintSampleList(HDC dc, const RECT& rect) {
     DrawLabel(dc, row,
               GetLanguageTable().LoadString(IDS_SAMPLE_GROUP) + L" (" +
                   std::to_wstring(std::size(items)) + L")");
-    bool selected = true;
-    for (const SampleItem& item : items) {
+    // Whole rows, which share the height that is left.
+    const int space = rect.bottom - row.bottom;
+    const int rows = std::max(1, (space + ScaleY(kRowHeight) / 4) / ScaleY(kRowHeight));
+    for (int i = 0; i < std::min(rows, static_cast<int>(std::size(items))); ++i) {
         row.top = row.bottom;
-        row.bottom += ScaleY(kRowHeight);
-        if (row.bottom > rect.bottom) break;  // Only whole rows.
-        PaintItem(dc, row, item, selected);
-        selected = false;
+        row.bottom += std::min(space / rows, ScaleY(kRowHeight));
+        PaintItem(dc, row, items[i], i == 0);
     }
 }

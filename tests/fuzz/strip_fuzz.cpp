@@ -7,14 +7,13 @@
 
 namespace {
 
-void Check(const std::optional<BitmapView>& view) {
+void Check(const std::optional<BitmapView>& view, const std::vector<std::uint8_t>& bytes) {
     if (!view) return;
     REQUIRE(view->width >= 1 && view->height >= 1);
-    unsigned sum = 0;
-    for (int y = 0; y < view->height; ++y) {
-        sum += *view->Pixel(0, y) + view->Pixel(view->width - 1, y)[2];
+    for (const int y : {0, view->height - 1}) {
+        REQUIRE(view->Pixel(0, y) >= bytes.data());
+        REQUIRE(view->Pixel(view->width - 1, y) + 3 <= bytes.data() + bytes.size());
     }
-    REQUIRE(sum <= 510u * view->height);
     const std::vector<StripPiece> pieces = FindStripPieces(*view);
     REQUIRE(!pieces.empty());
     int next = 0;
@@ -28,7 +27,7 @@ void Check(const std::optional<BitmapView>& view) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::vector<std::uint8_t> bytes(data, data + size);
-    Check(ParseBitmapFile(bytes));
-    Check(ParseBitmapResource(bytes));
+    Check(ParseBitmapFile(bytes), bytes);
+    Check(ParseBitmapResource(bytes), bytes);
     return 0;
 }
