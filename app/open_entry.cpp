@@ -15,6 +15,7 @@
 #include "pages/general_group_style_page.h"
 #include "pages/general_long_date_page.h"
 #include "pages/general_short_date_page.h"
+#include "pages/general_skins_page.h"
 #include "pages/general_tabs_page.h"
 #include "pages/special_events_common_page.h"
 #include "pages/tasks_common_page.h"
@@ -28,9 +29,9 @@ std::unique_ptr<OptionsPage> Make() {
 }
 
 constexpr MainEntry::PageFactory kGeneralPages[] = {
-    Make<GeneralCommonPage>,     Make<GeneralShortDatePage>,  Make<GeneralLongDatePage>,
-    Make<GeneralFontPage>,       Make<GeneralGroupStylePage>, Make<GeneralTabsPage>,
-    Make<GeneralAutoReturnPage>,
+    Make<GeneralCommonPage>, Make<GeneralShortDatePage>,  Make<GeneralLongDatePage>,
+    Make<GeneralFontPage>,   Make<GeneralGroupStylePage>, Make<GeneralTabsPage>,
+    Make<GeneralSkinsPage>,  Make<GeneralAutoReturnPage>,
 };
 constexpr MainEntry::PageFactory kCalendarPages[] = {
     Make<CalendarCommonPage>,

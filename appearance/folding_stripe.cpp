@@ -4,6 +4,7 @@
 
 #include "appearance/fonts.h"
 #include "appearance/scale.h"
+#include "appearance/skin_art.h"
 #include "controls/owned_handle.h"
 
 namespace {
@@ -35,19 +36,6 @@ void Shade(HDC dc, const RECT& area) {
     }
 }
 
-// A minus in a box: the group is unfolded.
-void DrawMark(HDC dc, const RECT& area, COLORREF color) {
-    const int size = ScaleX(kMarkSize), line = ScaleX(1);
-    const int left = area.left + ScaleX(kMargin);
-    const int top = (area.top + area.bottom - size) / 2;
-    const RECT outer = {left, top, left + size, top + size};
-    Fill(dc, outer, color);
-    Fill(dc, {left + line, top + line, outer.right - line, outer.bottom - line},
-         GetSysColor(COLOR_WINDOW));
-    const int middle = top + (size - line) / 2;
-    Fill(dc, {left + 2 * line, middle, outer.right - 2 * line, middle + line}, color);
-}
-
 }  // namespace
 
 void FoldingStripe::Draw(HDC dc, const RECT& area, const std::wstring& title, int count) const {
@@ -66,7 +54,9 @@ void FoldingStripe::Draw(HDC dc, const RECT& area, const std::wstring& title, in
     }
     RECT place = area;
     if (showCollapseIcon) {
-        DrawMark(dc, area, style == StripeStyle::kFilled ? GetSysColor(COLOR_WINDOWTEXT) : text);
+        const int size = ScaleX(kMarkSize);
+        DrawIconEx(dc, area.left + ScaleX(kMargin), (area.top + area.bottom - size) / 2,
+                   GetSkinArt().Icon(SkinIcon::kExpanded), size, size, 0, nullptr, DI_NORMAL);
         place.left += ScaleX(kMarkPlace);
     }
     place.left += ScaleX(kMargin);

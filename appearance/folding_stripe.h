@@ -13,6 +13,6 @@ struct FoldingStripe {
     bool drawCounter = true;
     bool showCollapseIcon = true;
 
-    // Draws the heading of an unfolded group of `count` items.
+    // Draws the heading of an unfolded group of `count` items, its mark being the skin's.
     void Draw(HDC dc, const RECT& area, const std::wstring& title, int count) const;
 };

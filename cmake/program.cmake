@@ -4,16 +4,20 @@ add_library(diary_models STATIC
   app/language_template.cpp
   app/module.cpp
   app/registry_exporter.cpp
+  appearance/archive.cpp
   appearance/date_formats.cpp
   appearance/fonts.cpp
   appearance/scale.cpp
+  appearance/skin_art.cpp
+  appearance/skin_source.cpp
+  appearance/skin_strip.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
   settings/registration.cpp
   settings/settings_key.cpp
 )
-target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings)
+target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings minizip)
 
 # DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
 # them, as on the device everything binds to the system's own libraries.

@@ -6,6 +6,9 @@ add_library(diary_pure STATIC
   app/language_index.cpp
   app/page_rows.cpp
   settings/date_picture.cpp
+  appearance/bitmap_file.cpp
+  appearance/skin_list.cpp
+  appearance/strip.cpp
   settings/display_pattern.cpp
   settings/settings_file.cpp
   settings/tab_layout.cpp

@@ -17,13 +17,16 @@ void Paint(HWND hwnd) {
         const SelectedObject selected(memory.get(), bitmap.get());
         FillRect(memory.get(), &area, GetSysColorBrush(COLOR_WINDOW));
         SetBkMode(memory.get(), TRANSPARENT);
+        const HWND parent = GetParent(hwnd);
+        const SelectedObject font(memory.get(),
+                                  reinterpret_cast<HFONT>(SendMessageW(parent, WM_GETFONT, 0, 0)));
         DRAWITEMSTRUCT item = {};
         item.CtlType = ODT_STATIC;
         item.CtlID = static_cast<UINT>(GetWindowLongW(hwnd, GWL_ID));
         item.hwndItem = hwnd;
         item.hDC = memory.get();
         item.rcItem = area;
-        SendMessageW(GetParent(hwnd), WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+        SendMessageW(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
         BitBlt(dc, 0, 0, area.right, area.bottom, memory.get(), 0, 0, SRCCOPY);
     }
     EndPaint(hwnd, &paint);

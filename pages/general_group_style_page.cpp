@@ -4,6 +4,7 @@
 #include "appearance/folding_stripe.h"
 #include "appearance/fonts.h"
 #include "appearance/scale.h"
+#include "appearance/skin_art.h"
 #include "controls/owned_handle.h"
 
 namespace {
@@ -17,7 +18,8 @@ constexpr Row kRows[] = {
     rows::Index(IDC_DOUBLE_CLICK, &CDiarySettings::doubleClick),
     rows::Check(IDC_DOUBLE_TAP_SCROLL, &CDiarySettings::doubleTapOnScrollButton),
 };
-constexpr int kItemIndent = 14;
+constexpr int kIconIndent = 3;
+constexpr int kTextIndent = 22;
 
 }  // namespace
 
@@ -39,13 +41,19 @@ void GeneralGroupStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     stripe.Draw(item.hDC, row, GetLanguageTable().LoadString(IDS_SAMPLE_GROUP), 1);
 
     OffsetRect(&row, 0, height);
-    const std::wstring text = GetLanguageTable().LoadString(IDS_SAMPLE_ITEM);
-    RECT indented = row;
-    indented.left += ScaleX(kItemIndent);
+    SkinArt& art = GetSkinArt();
+    if (art.LoadIcons() != SkinArt::kFailed) {
+        const SIZE icon = art.Icons()->PieceSize(static_cast<int>(ItemIcon::kAppointment));
+        art.DrawItemIcon(item.hDC, ItemIcon::kAppointment, row.left + ScaleX(kIconIndent),
+                         (row.top + row.bottom - icon.cy) / 2);
+    }
+    RECT place = row;
+    place.left += ScaleX(kTextIndent);
+    const std::wstring text = GetLanguageTable().LoadString(IDS_SAMPLE_APPOINTMENT);
     {
         const SelectedObject font(item.hDC, ListFont(FontStyle::kNormal));
         SetTextColor(item.hDC, GetSysColor(COLOR_WINDOWTEXT));
-        DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &indented,
+        DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &place,
                   DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
     }
     if (IsChecked(IDC_STRIPE_HIDE_EMPTY)) return;

@@ -15,6 +15,12 @@
 #define IDI_SPECIAL_EVENTS 150
 #define IDI_CATEGORY_ICONS 215
 
+// The artwork that is used where no skin is; for screens below 144 dpi, and from there on.
+#define IDB_ICONS 128
+#define IDB_SCROLL_BAR 129
+#define IDB_ICONS_HIGH 141
+#define IDB_SCROLL_BAR_HIGH 142
+
 // The main window's menu bar and its commands.
 #define IDM_MAIN 128
 #define IDM_ABOUT_BOX 32784
@@ -88,8 +94,6 @@
 #define IDS_LONG_DATE_EXPLANATION 1061
 #define IDS_FONT_EXPLANATION 1062
 #define IDS_FONT_SAMPLE 1063
-#define IDS_SAMPLE_GROUP 1064
-#define IDS_SAMPLE_ITEM 1065
 #define IDS_SAMPLE_EMPTY_GROUP 1066
 
 // What the program says when an action failed.
@@ -169,6 +173,19 @@
 #define IDC_TABS_UP 4201
 #define IDC_TABS_DOWN 4202
 #define IDC_TABS_IN_ONE 4203
+// General: skins.
+#define IDD_GENERAL_SKINS 2018
+#define IDC_SKIN 4300
+#define IDC_SKIN_ICONS 4301
+#define IDC_SKIN_SCROLL_BAR 4302
+#define IDC_SKIN_SAMPLE 4303
+#define IDC_SKIN_HINT 4304
+#define IDS_SKIN_INCOMPLETE 1200
+#define IDS_SAMPLE_GROUP 1201
+#define IDS_SAMPLE_APPOINTMENT 1202
+#define IDS_SAMPLE_TASK 1203
+#define IDS_SAMPLE_BIRTHDAY 1204
+#define IDS_SAMPLE_MESSAGE 1205
 
 // Calendar: general.
 #define IDD_CALENDAR_COMMON 2020

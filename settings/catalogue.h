@@ -44,6 +44,9 @@ inline constexpr NumberSetting FontHeight{L"FontHeight", 12};
 inline constexpr NumberSetting ClearTypeOnPage{L"ClearType", 2};
 inline constexpr NumberSetting ClearTypeWhenDrawing{L"ClearType", 0};
 
+// The skin's name; its default stands with the artwork, as an empty name means the same.
+inline constexpr const wchar_t SkinName[] = L"SkinName";
+
 // Return to a view after idle time (seconds, 0: never), keyboard.
 inline constexpr NumberSetting TimeoutTime{L"TimeoutTime", 900};
 inline constexpr NumberSetting TimeoutView{L"TimeoutView", 1};

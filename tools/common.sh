@@ -64,6 +64,7 @@ fetch_source() { # NAME
 
 # Configures and builds one preset into build/NAME; Ninja shows the progress.
 build_preset() { # NAME WHAT
+    [ "$1" != windows ] || fetch_source minizip
     say "Building $2"
     local log=$ROOT/build/$1.configure.log
     mkdir -p "$ROOT/build"

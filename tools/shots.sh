@@ -105,7 +105,7 @@ run_demo() { # OUTPUT
 # Entry, page and name of every page there is.
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
-    "0:4 general_group_style" "0:5 general_tabs" "0:6 general_auto_return"
+    "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
     "2:0 tasks_common"
     "6:0 special_events_common"

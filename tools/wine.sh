@@ -93,6 +93,7 @@ furnish_device() { # DEVICE BIN
     local install="$1/Program Files/Lum Diary"
     mkdir -p "$install" "$1/Windows" "$1/My Documents"
     cp -u "$2/DiaryRes.Dll" "$ROOT/help/LumDiary.htm" "$install/"
+    cp -ru "$2/Skins" "$install/"
     cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$1/Windows/"
     [ -f "$1/device.ini" ] ||
         printf '[device]\r\nhive=Default\r\nversion=5.2.19208\r\nplatform=PocketPC\r\n' >"$1/device.ini"

@@ -61,7 +61,7 @@ TEST_F(Pages, CancelChangesNoStoredValue) {
 // Every page and control: what changes it, the value behind it, that value's default and what the
 // change stores, all written out by hand.
 constexpr int kClick = -1;
-constexpr int kReturnPage = 6;
+constexpr int kReturnPage = 7;
 struct Row {
     int control;
     int select;  // an index, or kClick

@@ -1,0 +1,179 @@
+// Skins as files on the device, at either density.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "app/module.h"
+#include "appearance/scale.h"
+#include "appearance/skin_art.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+const std::wstring kArchives = L"Z:" ARCHIVES L"/";
+const std::wstring kSkins = L"\\Program Files\\Lum Diary\\Skins\\";
+
+void Write(const std::wstring& path, const Bytes& bytes) {
+    const OwnedFile file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, 0));
+    DWORD written = 0;
+    ASSERT_TRUE(WriteFile(file.get(), bytes.data(), bytes.size(), &written, nullptr));
+}
+
+Bytes Read(const std::wstring& folder, const std::string& name) {
+    SkinSource source;
+    EXPECT_TRUE(source.Open(folder));
+    return source.ReadMember(name.c_str()).value_or(Bytes{});
+}
+
+TEST(SkinSource, ArchivesYieldIntactMembersOnly) {
+    constexpr std::uint32_t kNone = ~0u;
+    struct Case {
+        const wchar_t* archive;
+        bool opens;
+        std::uint32_t size;
+        bool isRead;
+    };
+    for (const Case& c : {
+             Case{L"stored", true, 30000, true},
+             Case{L"deflated", true, 30000, true},
+             Case{L"data_descriptor", true, 30000, true},
+             Case{L"zip64", true, 30000, true},
+             Case{L"comment", true, 30000, true},
+             Case{L"folders", true, 30000, true},
+             Case{L"encrypted", true, kNone, false},
+             Case{L"other_names", true, kNone, false},
+             Case{L"bzip2", true, 30000, false},
+             Case{L"largest", true, 16777216, true},
+             Case{L"too_large", true, kNone, false},
+             Case{L"claims_more", true, 1000000, false},
+             Case{L"claims_less", true, 100, false},
+             Case{L"cut", false, kNone, false},
+         }) {
+        SCOPED_TRACE(testing::PrintToString(c.archive));
+        SkinSource source;
+        EXPECT_EQ(source.Open(kArchives + c.archive + L".zip"), c.opens);
+        EXPECT_EQ(source.IsOpen(), c.opens);
+        EXPECT_EQ(source.GetMemberSize("icons.bmp").value_or(kNone), c.size);
+        const std::optional<Bytes> bytes = source.ReadMember("icons.bmp");
+        ASSERT_EQ(bytes.has_value(), c.isRead);
+        if (!bytes || c.size != 30000) continue;
+        for (std::size_t i = 0; i < bytes->size(); ++i) ASSERT_EQ((*bytes)[i], i * 7 % 251);
+    }
+}
+
+TEST(SkinSource, DamagedArchivesYieldTheMemberOrNothing) {
+    const Bytes archive = Read(kArchives, "data_descriptor.zip");
+    const Bytes content = Read(kArchives + L"stored.zip", "icons.bmp");
+    int refused = 0;
+    for (std::size_t i = 0; i < archive.size(); ++i) {
+        Bytes damaged = archive;
+        damaged[i] ^= i % 2 ? 0xFF : 1;
+        Write(L"\\damaged.zip", damaged);
+        SkinSource source;
+        source.Open(L"\\damaged.zip");
+        const std::optional<Bytes> bytes = source.ReadMember("icons.bmp");
+        ASSERT_TRUE(!bytes || *bytes == content) << i;
+        refused += !bytes;
+    }
+    EXPECT_GT(refused, 100);
+}
+
+TEST(SkinSource, RefusesLongPathsAndArchivesBeyondTheAnsiCodePage) {
+    SkinSource source;
+    for (const auto& [name, opens] :
+         {std::pair(L"\\Caf\xE9.zip", true), {L"\\\x0416.zip", false}}) {
+        Write(name, Read(kArchives, "stored.zip"));
+        EXPECT_EQ(source.Open(name), opens);
+    }
+    const std::wstring folder = kSkins + L"Classic";
+    EXPECT_FALSE(source.Open(L"") || source.IsOpen());
+    EXPECT_TRUE(source.Open(folder + std::wstring(260 - folder.size(), L'\\')));
+    EXPECT_FALSE(source.Open(folder + std::wstring(261 - folder.size(), L'\\')));
+}
+
+class Skin : public ::testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        InitModule(GetModuleHandleW(nullptr));
+        ASSERT_TRUE(LoadResourceLibrary(L"\\Program Files\\Lum Diary\\DiaryRes.Dll"));
+    }
+    static void TearDownTestSuite() { ShutDownModule(); }
+    // A folder with Classic's artwork for this screen.
+    void SetUp() override {
+        DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+        CreateDirectoryW(folder.c_str(), nullptr);
+        for (const std::string& name : names) Put(name, Read(kSkins + L"Classic", name));
+    }
+    void TearDown() override {
+        art.Reset();
+        for (const std::string& name : names) DeleteFileW(Path(name).c_str());
+        RemoveDirectoryW(folder.c_str());
+    }
+    std::wstring Path(const std::string& name) {
+        return folder + std::wstring(name.begin(), name.end());
+    }
+    void Put(const std::string& name, const Bytes& bytes) { Write(Path(name), bytes); }
+    bool IsValid(const wchar_t* name) {
+        OpenProductKey().WriteString(L"SkinName", name);
+        return art.IsValid();
+    }
+
+    SkinArt& art = GetSkinArt();
+    const std::wstring folder = kSkins + L"Mine\\";
+    const std::string variant = ScaleX(1) >= 2 ? "_vga.bmp" : ".bmp";
+    const std::string icons = "icons" + variant, scrollBar = "scrollbar" + variant;
+    const std::string tabIcons = "tab_icons_" + std::to_string(ScaleX(16)) + ".bmp";
+    const std::string names[3] = {icons, scrollBar, tabIcons};
+};
+
+TEST_F(Skin, TheShippedSkinsAreValid) {
+    EXPECT_EQ(art.LoadIcons(), 2);
+    EXPECT_EQ(OpenProductKey().ReadString(L"SkinName"), L"NewStyle");
+    for (const wchar_t* name : {L"", L"Classic", L"NewStyle"}) {
+        EXPECT_TRUE(IsValid(name)) << testing::PrintToString(name);
+        EXPECT_EQ(art.Icons()->Count(), 40);
+        EXPECT_EQ(art.Icons()->PieceSize(0).cx, ScaleX(16));
+        EXPECT_EQ(art.Icons()->PieceSize(39).cy, ScaleX(9));
+        EXPECT_EQ(art.ScrollBar()->Count(), 4);
+        EXPECT_EQ(ImageList_GetImageCount(art.TabIcons()), 6);
+    }
+}
+
+TEST_F(Skin, WhatASkinLacksIsBuiltInButTabIcons) {
+    EXPECT_FALSE(IsValid(L"No such skin"));
+    EXPECT_EQ(art.LoadIcons(), 1);
+    EXPECT_EQ(art.LoadScrollBar(), 1);
+    EXPECT_EQ(art.LoadTabIcons(), 0);
+    art.Reset();
+    DeleteFileW(Path(icons).c_str());
+    Put(scrollBar, {'B', 'M'});
+    EXPECT_TRUE(IsValid(L"Mine"));
+    Put(tabIcons, {'B', 'M'});
+    EXPECT_FALSE(IsValid(L"Mine"));
+    EXPECT_EQ(art.LoadIcons(), 2);
+    EXPECT_EQ(art.LoadTabIcons(), 0);
+}
+
+TEST_F(Skin, APieceTooFewMakesItInvalidAndAnArchiveWins) {
+    EXPECT_TRUE(IsValid(L"Mine"));
+    art.Reset();
+    Bytes short39 = Read(folder, icons);  // The last magenta row, which stands first, goes black.
+    std::fill_n(short39.begin() + 54, 3 * ScaleX(32), 0);
+    Put(icons, short39);
+    EXPECT_FALSE(IsValid(L"Mine"));
+    EXPECT_EQ(art.LoadIcons(), 2);
+    EXPECT_EQ(art.Icons()->Count(), 39);
+    EXPECT_TRUE(art.Icon(SkinIcon::kCollapsed)) << "the built-in one stands in";
+    const std::wstring archive = kSkins + L"Mine.zip";
+    Write(archive, Read(kSkins, "NewStyle.zip"));
+    EXPECT_TRUE(IsValid(L"Mine"));
+    art.Reset();
+    Write(archive, {'P', 'K', 3, 4});
+    EXPECT_FALSE(IsValid(L"Mine")) << "the folder stands in for what is no archive";
+    DeleteFileW(archive.c_str());
+}
+
+}  // namespace

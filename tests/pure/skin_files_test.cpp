@@ -1,0 +1,94 @@
+// What skins are made of: bitmap files, strips and the names of the Skins folder.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "appearance/skin_list.h"
+#include "appearance/strip.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+void Put(Bytes& bytes, std::size_t offset, std::uint32_t value) {
+    for (int i = 0; i < 4; ++i) bytes[offset + i] = static_cast<std::uint8_t>(value >> 8 * i);
+}
+
+// A bitmap file 4 pixels wide; each letter of `column` is a row, from the top: its pixel in the
+// column in the middle is magenta (M), not quite (m), or black.
+Bytes Strip(const std::string& column) {
+    Bytes bytes(54 + 12 * column.size());
+    bytes[0] = 'B', bytes[1] = 'M';
+    Put(bytes, 10, 54);
+    Put(bytes, 14, 40);
+    Put(bytes, 18, 4);
+    Put(bytes, 22, static_cast<std::uint32_t>(column.size()));
+    Put(bytes, 26, 24 << 16 | 1);
+    for (std::size_t y = 0; y < column.size(); ++y) {
+        std::uint8_t* const pixel = &bytes[54 + 12 * (column.size() - 1 - y) + 6];
+        if (column[y] != '.') pixel[0] = column[y] == 'M' ? 255 : 254, pixel[2] = 255;
+    }
+    return bytes;
+}
+
+TEST(Strip, MagentaRowsEndPieces) {
+    struct Case {
+        std::string column;
+        std::vector<StripPiece> pieces;
+    };
+    for (const Case& c : {
+             Case{"...", {{0, 3}}},
+             Case{"..M.M..", {{0, 2}, {3, 4}}},  // What follows the last row is no piece.
+             Case{"M.MM", {{0, 0}, {1, 2}, {3, 3}}},
+             Case{".m.M", {{0, 3}}},
+         }) {
+        const Bytes bytes = Strip(c.column);
+        EXPECT_EQ(FindStripPieces(ParseBitmapFile(bytes).value()), c.pieces) << c.column;
+        Bytes topDown = Strip(std::string(c.column.rbegin(), c.column.rend()));
+        Put(topDown, 22, 0u - static_cast<std::uint32_t>(c.column.size()));
+        EXPECT_EQ(FindStripPieces(ParseBitmapFile(topDown).value()), c.pieces) << c.column;
+    }
+}
+
+TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
+    // Numbers of the header of a file with 3 rows of 4 pixels.
+    struct Case {
+        std::size_t offset;
+        std::vector<std::uint32_t> refused;
+    };
+    for (const Case& c : {
+             Case{10, {53, 55, 0xFFFFFFFF}},            // where the pixels are
+             Case{14, {12, 39}},                        // the header's size
+             Case{18, {0, 5, 0x55555556, 0xFFFFFFFC}},  // the width
+             Case{22, {0, 4, 0x7FFFFFFF, 0x80000000}},  // the height
+             Case{26, {0x180002, 0x10001, 0x40001, 0x80001, 0x100001, 0x200001}},  // planes, bits
+             Case{30, {1, 3}},  // the compression
+         }) {
+        for (const std::uint32_t value : c.refused) {
+            Bytes bytes = Strip("..M");
+            Put(bytes, c.offset, value);
+            EXPECT_FALSE(ParseBitmapFile(bytes)) << c.offset << ": " << value;
+        }
+    }
+    Bytes bytes = Strip("..M");
+    const std::span<const std::uint8_t> resource = std::span(bytes).subspan(14);
+    EXPECT_TRUE(ParseBitmapResource(resource));
+    Put(bytes, 46, 0x40000000);  // Listed colours, which the pixels of a resource follow.
+    EXPECT_TRUE(ParseBitmapFile(bytes));
+    EXPECT_FALSE(ParseBitmapResource(resource));
+    for (std::size_t size = 0; size < bytes.size(); ++size) {
+        EXPECT_FALSE(ParseBitmapFile({bytes.data(), size})) << size;
+    }
+}
+
+TEST(SkinList, OffersFoldersAndArchives) {
+    EXPECT_EQ(OfferedSkinName(L"My.skin", true), L"My.skin");
+    EXPECT_EQ(OfferedSkinName(L"Blue.ZIP", false), L"Blue");
+    for (const wchar_t* name : {L".", L"..", L".zip", L"a.b.zip", L"zip", L"Blue.zipx", L"Blue."}) {
+        EXPECT_EQ(OfferedSkinName(name, name[1] == L'\0'), std::nullopt)
+            << testing::PrintToString(name);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,155 @@
+#!/usr/bin/env python3
+"""Makes a skin from drawings.
+
+usage: make_skin.py SKIN OUTPUT
+
+SKIN is a folder with style.svg, which says what the drawings' classes look like, and, where the skin has
+drawings of its own, icons.svg and scroll_bar.svg; without them it takes those of skins/shapes. OUTPUT is the
+skin: an archive when it ends in .zip, else a folder. See docs/skins.md. Needs rsvg-convert.
+"""
+import pathlib
+import re
+import struct
+import subprocess
+import sys
+import xml.etree.ElementTree as xml
+import zipfile
+import zlib
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+SVG = "{http://www.w3.org/2000/svg}"
+SCROLL_BAR_PARTS = ["up", "down", "thumb", "track"]
+TAB_DRAWINGS = ["today", "task_done", "contact", "note", "message_unread", "birthday"]
+# The artwork for screens below 144 dots per inch, and from there on.
+SCALES = {1: ("icons.bmp", "scrollbar.bmp", "tab_icons_16.bmp"),
+          2: ("icons_vga.bmp", "scrollbar_vga.bmp", "tab_icons_32.bmp")}
+MAGENTA = (255, 0, 255)
+
+
+def icon_names():
+    """The drawings of the item icon strip, in the program's own order."""
+    header = (ROOT / "appearance/item_icons.h").read_text()
+    listed = re.search(r"enum class ItemIcon \{(.*?)\};", header, re.DOTALL)[1]
+    names = re.findall(r"^\s*k(\w+),", listed, re.MULTILINE)
+    return [re.sub(r"(?<=.)([A-Z])", r"_\1", name).lower() for name in names]
+
+
+class Sheet:
+    """The drawings of an SVG file, by name."""
+
+    def __init__(self, skin, name):
+        path = skin / name if (skin / name).exists() else ROOT / "skins/shapes" / name
+        root = xml.parse(path).getroot()
+        self.path = path
+        self.width, self.height = int(root.get("data-width")), int(root.get("data-height"))
+        self.drawings = {group.get("id"): group for group in root.findall(f"{SVG}g")}
+        self.style = [child for child in xml.parse(skin / "style.svg").getroot()]
+
+    def render(self, names, scale, gap):
+        """The drawings one above the other, `gap` rows apart: rows of (red, green, blue, opacity), and
+        the height of each drawing."""
+        heights, y = [], 0
+        picture = xml.Element(f"{SVG}svg")
+        picture.extend(self.style)
+        for name in names:
+            if name not in self.drawings:
+                sys.exit(f"{self.path} has no drawing \"{name}\"")
+            drawing = self.drawings[name]
+            height = int(drawing.get("data-height", self.height))
+            cell = xml.SubElement(picture, f"{SVG}svg", x="0", y=str(y), width=str(self.width * scale),
+                                  height=str(height * scale), viewBox=f"0 0 {self.width} {height}")
+            xml.SubElement(cell, f"{SVG}g").extend(drawing)
+            heights.append(height * scale)
+            y += height * scale + gap
+        picture.set("width", str(self.width * scale))
+        picture.set("height", str(y))
+        result = subprocess.run(["rsvg-convert", "-f", "png"], input=xml.tostring(picture),
+                                capture_output=True)
+        if result.returncode:
+            sys.exit(f"{self.path} could not be rendered: {result.stderr.decode()}")
+        return read_png(result.stdout), heights
+
+
+def read_png(data):
+    """Rows of (red, green, blue, opacity), of the one kind of PNG that rsvg-convert writes."""
+    position, packed = 8, b""
+    while position < len(data):
+        length, kind = struct.unpack_from(">I4s", data, position)
+        chunk = data[position + 8:position + 8 + length]
+        if kind == b"IHDR":
+            width, height, depth, color, _, _, interlaced = struct.unpack(">IIBBBBB", chunk)
+            assert (depth, color, interlaced) == (8, 6, 0)
+        elif kind == b"IDAT":
+            packed += chunk
+        position += length + 12
+    raw, stride, rows = zlib.decompress(packed), 4 * width, []
+    above = bytes(stride)
+    for y in range(height):
+        kind = raw[y * (stride + 1)]
+        row = bytearray(raw[y * (stride + 1) + 1:(y + 1) * (stride + 1)])
+        for i in range(stride):
+            a, b, c = (row[i - 4], above[i], above[i - 4]) if i >= 4 else (0, above[i], 0)
+            nearest = min((abs(b - c), 0, a), (abs(a - c), 1, b), (abs(a + b - 2 * c), 2, c))[2]
+            row[i] = (row[i] + (0, a, b, (a + b) // 2, nearest)[kind]) & 255
+        rows.append([tuple(row[i:i + 4]) for i in range(0, stride, 4)])
+        above = row
+    return rows
+
+
+def bitmap(rows):
+    """A 24-bit bitmap file of rows of (red, green, blue)."""
+    width, height = len(rows[0]), len(rows)
+    stride = (3 * width + 3) // 4 * 4
+    pixels = b"".join(bytes(v for r, g, b in row for v in (b, g, r)).ljust(stride, b"\0")
+                      for row in reversed(rows))
+    info = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(pixels), 0, 0, 0, 0)
+    return struct.pack("<2sIHHI", b"BM", 54 + len(pixels), 0, 0, 54) + info + pixels
+
+
+def strip(sheet, names, scale):
+    """Colours at the left, opacity at the right, and a magenta row behind each piece."""
+    rows, heights = sheet.render(names, scale, 1)
+    result, y = [], 0
+    for height in heights:
+        for row in rows[y:y + height]:
+            colors = [pixel[:3] if pixel[3] else (255, 255, 255) for pixel in row]
+            result.append(colors + [(pixel[3],) * 3 for pixel in row])
+        result.append([MAGENTA] * (2 * len(rows[0])))
+        y += height + 1
+    return bitmap(result)
+
+
+def tab_icons(sheet, scale):
+    """Squares side by side; magenta is transparent."""
+    rows, _ = sheet.render(TAB_DRAWINGS, scale, 0)
+    size = sheet.width * scale
+    squares = [rows[i * size:(i + 1) * size] for i in range(len(TAB_DRAWINGS))]
+    return bitmap([[pixel[:3] if pixel[3] >= 128 else MAGENTA for square in squares for pixel in square[y]]
+                   for y in range(size)])
+
+
+def main():
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
+    skin, output = map(pathlib.Path, sys.argv[1:])
+    icons, scroll_bar = Sheet(skin, "icons.svg"), Sheet(skin, "scroll_bar.svg")
+    files = {}
+    for scale, (icon_file, scroll_bar_file, tab_file) in SCALES.items():
+        files[icon_file] = strip(icons, icon_names(), scale)
+        files[scroll_bar_file] = strip(scroll_bar, SCROLL_BAR_PARTS, scale)
+        files[tab_file] = tab_icons(icons, scale)
+    if output.suffix != ".zip":
+        output.mkdir(parents=True, exist_ok=True)
+        for name, data in files.items():
+            (output / name).write_bytes(data)
+        return
+    output.parent.mkdir(parents=True, exist_ok=True)
+    with zipfile.ZipFile(output, "w", zipfile.ZIP_DEFLATED) as archive:
+        for name, data in files.items():  # Without the time, so that the same skin is the same file.
+            member = zipfile.ZipInfo(name)
+            member.compress_type = zipfile.ZIP_DEFLATED
+            archive.writestr(member, data)
+
+
+if __name__ == "__main__":
+    main()
