@@ -34,6 +34,10 @@ class OpenKeys {
         const auto found = paths_.find(key);
         return found == paths_.end() ? std::nullopt : std::optional(found->second);
     }
+    bool Contains(HKEY key) const {
+        const std::lock_guard lock(mutex_);
+        return paths_.contains(key);
+    }
     bool HasInside(const std::wstring& path) const {
         const std::lock_guard lock(mutex_);
         for (const auto& [key, open] : paths_) {
@@ -109,7 +113,7 @@ class DesktopKey {
             RegCreateKeyExW(HKEY_CURRENT_USER, DesktopPath(NameOfRoot(key)).c_str(), 0, nullptr, 0,
                             KEY_ALL_ACCESS, nullptr, &root_, nullptr);
             key_ = root_;
-        } else if (Opened().PathOf(key)) {
+        } else if (Opened().Contains(key)) {
             key_ = key;
         }
     }
