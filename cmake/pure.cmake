@@ -5,6 +5,13 @@ add_library(diary_pure STATIC
   app/language_file.cpp
   app/language_index.cpp
   app/page_rows.cpp
+  appearance/bitmap_header.cpp
+  appearance/category_color.cpp
+  appearance/color_grid.cpp
+  appearance/file_name_escape.cpp
+  appearance/icon_catalogue.cpp
+  appearance/icon_grid.cpp
+  appearance/icon_sources.cpp
   settings/display_pattern.cpp
 )
 target_include_directories(diary_pure PUBLIC ${CMAKE_SOURCE_DIR})
