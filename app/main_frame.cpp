@@ -10,6 +10,7 @@
 #include "app/module.h"
 #include "app/open_entry.h"
 #include "appearance/scale.h"
+#include "appearance/theme_colors.h"
 #include "controls/modal_windows.h"
 #include "resources/ids.h"
 
@@ -74,6 +75,7 @@ std::optional<LRESULT> MainFrame::OnMessage(UINT message, WPARAM wParam, LPARAM 
 
 bool MainFrame::OnCreate() {
     startTabs_ = TabSettings::Read();
+    GetThemeColors().Refresh();
     SetWindowTextW(hwnd(), GetLanguageTable().LoadString(IDS_APP_TITLE).c_str());
 
     SHMENUBARINFO bar = {};
@@ -212,6 +214,7 @@ void MainFrame::OnDestroy() {
     SendMessageW(listView_, WM_SETFONT, reinterpret_cast<WPARAM>(savedListFont_), FALSE);
     imageList_.Reset();
     listFont_.Reset();
+    GetThemeColors().Release();
     if (settingsChanged_) NotifyPlugin(updateMessage_, 0, startTabs_);
     if (listView_) {
         DestroyWindow(listView_);

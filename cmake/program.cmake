@@ -3,6 +3,14 @@ add_library(diary_models STATIC
   app/language_table.cpp
   app/language_template.cpp
   app/module.cpp
+  appearance/category_color_store.cpp
+  appearance/icon_digest.cpp
+  appearance/icon_files.cpp
+  appearance/icon_library.cpp
+  appearance/mapped_file.cpp
+  appearance/scale.cpp
+  appearance/shell_colors.cpp
+  appearance/theme_colors.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
@@ -23,7 +31,6 @@ add_executable(DiarySettings WIN32
   app/options_page.cpp
   app/options_sheet.cpp
   app/single_instance.cpp
-  appearance/scale.cpp
   controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/title_band.cpp

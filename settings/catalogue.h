@@ -46,4 +46,19 @@ constexpr NumberSetting SpecialShowTransactions(bool financeProgramPresent) {
     return {L"SpecialShowTransactions", financeProgramPresent ? 1u : 0u};
 }
 
+// Colours of appointments by how busy they make, as 0x00BBGGRR. The plug-in knows two of them under
+// these very spellings.
+inline constexpr NumberSetting ApptStatusBackground{L"clrApptStatusBkg", 0xCCCCCC};
+inline constexpr NumberSetting ApptStatusFree{L"clrApptStatusFree", 0xFFFFFF};
+inline constexpr NumberSetting ApptStatusTentative{L"clrApptStatusTentative", 0xF7CBA5};
+inline constexpr NumberSetting ApptStatusBusy{L"clrApptStatusBusy", 0xDC4040};
+inline constexpr NumberSetting ApptStatusOutOfOffice{L"clrApptStatusOutOfOffice", 0x840084};
+inline constexpr NumberSetting ApptStatusNotLoaded{L"clrApptStatusNotloaded", 0xD2FFFF};
+inline constexpr NumberSetting ApptStatusConflicting{L"clrApptStatusConfliciting", 0x0000FF};
+
+// Category icons: the program whose icons are used (1 Agenda Fusion, 2 Pocket Informant, else the
+// diary's own), and the source last shown for choosing one.
+inline constexpr NumberSetting CurrentPim{L"CurrentPIM", 0};
+inline constexpr NumberSetting IconSetId{L"IconSetID", 0};
+
 }  // namespace settings

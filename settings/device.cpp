@@ -11,6 +11,30 @@ bool CanLoad(const wchar_t* path) {
     return true;
 }
 
+// The operating system's version; all 0 for a device that is no Pocket PC.
+struct PocketPcVersion {
+    DWORD major = 0;
+    DWORD minor = 0;
+};
+
+PocketPcVersion AskVersion() {
+    constexpr UINT kLongestType = 128;
+    wchar_t type[kLongestType] = {};
+    if (!SystemParametersInfoW(SPI_GETPLATFORMTYPE, kLongestType, type, 0) ||
+        wcscmp(type, L"PocketPC") != 0) {
+        return {};
+    }
+    OSVERSIONINFOW version = {};
+    version.dwOSVersionInfoSize = sizeof version;
+    if (!GetVersionExW(&version)) return {};
+    return {version.dwMajorVersion, version.dwMinorVersion};
+}
+
+const PocketPcVersion& Version() {
+    static const PocketPcVersion version = AskVersion();
+    return version;
+}
+
 }  // namespace
 
 bool IsPhoneDevice() {
@@ -19,3 +43,11 @@ bool IsPhoneDevice() {
 }
 
 bool IsFinanceProgramPresent() { return CanLoad(L"\\Windows\\LumFinanceScheduledAPI.dll"); }
+
+bool IsEarlyPocketPc() { return Version().major == 3; }
+
+bool HasTodayHighlight() {
+    return Version().major >= 5 || (Version().major == 4 && Version().minor >= 21);
+}
+
+bool IsNewerPocketPc() { return Version().major >= 5; }
