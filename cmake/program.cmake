@@ -31,6 +31,8 @@ add_executable(DiarySettings WIN32
   app/options_page.cpp
   app/options_sheet.cpp
   app/single_instance.cpp
+  appearance/color_button.cpp
+  appearance/colors_list_window.cpp
   controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/title_band.cpp

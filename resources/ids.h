@@ -15,6 +15,16 @@
 #define IDI_SPECIAL_EVENTS 150
 #define IDI_CATEGORY_ICONS 215
 
+// The faces of a colour button, for screens of 96 and of 192 dpi.
+#define IDB_COLOR_BUTTON_NORMAL 300
+#define IDB_COLOR_BUTTON_FOCUSED 301
+#define IDB_COLOR_BUTTON_PRESSED 302
+#define IDB_COLOR_BUTTON_DISABLED 303
+#define IDB_COLOR_BUTTON_NORMAL_192 310
+#define IDB_COLOR_BUTTON_FOCUSED_192 311
+#define IDB_COLOR_BUTTON_PRESSED_192 312
+#define IDB_COLOR_BUTTON_DISABLED_192 313
+
 // The main window's menu bar and its commands.
 #define IDM_MAIN 128
 #define IDM_ABOUT_BOX 32784
