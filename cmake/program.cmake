@@ -18,6 +18,15 @@ add_library(diary_models STATIC
 )
 target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings)
 
+# Controls that need no dialog of the program's; tests open them in dialogs of their own.
+add_library(diary_controls STATIC
+  appearance/color_button.cpp
+  appearance/colors_list_window.cpp
+  appearance/icons_list_control.cpp
+  controls/window.cpp
+)
+target_link_libraries(diary_controls PUBLIC diary_models PRIVATE diary_warnings)
+
 # DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
 # them, as on the device everything binds to the system's own libraries.
 add_executable(DiarySettings WIN32
@@ -31,12 +40,9 @@ add_executable(DiarySettings WIN32
   app/options_page.cpp
   app/options_sheet.cpp
   app/single_instance.cpp
-  appearance/color_button.cpp
-  appearance/colors_list_window.cpp
   controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/title_band.cpp
-  controls/window.cpp
   pages/calendar_common_page.cpp
   pages/calendar_show_page.cpp
   pages/calendar_tasks_page.cpp
@@ -46,6 +52,6 @@ add_executable(DiarySettings WIN32
 )
 target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
 target_link_libraries(DiarySettings PRIVATE
-  diary_art diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
+  diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
   inkx)
 add_dependencies(DiarySettings DiaryRes)

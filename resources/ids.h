@@ -89,6 +89,18 @@
 #define IDS_KEYBOARD_WHEN_ACTIVE 1041
 #define IDS_KEYBOARD_ALWAYS 1042
 
+// Groups of icons; the catalogue names them by their texts.
+#define IDS_ICONS_OTHER 1250
+#define IDS_ICONS_WORK 1251
+#define IDS_ICONS_HOME 1252
+#define IDS_ICONS_PEOPLE 1253
+#define IDS_ICONS_TRAVEL 1254
+#define IDS_ICONS_HEALTH 1255
+#define IDS_ICONS_MONEY 1256
+#define IDS_ICONS_LEISURE 1257
+#define IDS_ICONS_NATURE 1258
+#define IDS_ICONS_SIGNS 1259
+
 // About dialog.
 #define IDD_ABOUT 2000
 #define IDC_ABOUT_ICON 3000
