@@ -23,6 +23,7 @@ add_library(diary_controls STATIC
   appearance/color_button.cpp
   appearance/colors_list_window.cpp
   appearance/icons_list_control.cpp
+  controls/dialog.cpp
   controls/window.cpp
 )
 target_link_libraries(diary_controls PUBLIC diary_models PRIVATE diary_warnings)
@@ -40,7 +41,6 @@ add_executable(DiarySettings WIN32
   app/options_page.cpp
   app/options_sheet.cpp
   app/single_instance.cpp
-  controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/title_band.cpp
   pages/calendar_common_page.cpp
