@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr wchar_t kAgendaFusionKey[] = L"\\SOFTWARE\\Developer One, Inc.\\Agenda Fusion";
 // Where Pocket Informant notes the folder last used for icons, and before it for pictures.
 constexpr std::array kPocketInformantKeys = {
     L"\\Software\\WebIS\\PocketInformant\\Menus\\IconChooser\\MRU",
@@ -19,11 +18,6 @@ constexpr std::array kPocketInformantKeys = {
 };
 
 std::wstring RememberedKey() { return std::wstring(kProductKey) + L"\\IconSets"; }
-
-std::wstring ReadText(HKEY root, const wchar_t* path, const wchar_t* name) {
-    CSettingsKey key(root, path, false, false);
-    return key.IsOpen() ? key.ReadString(name) : std::wstring();
-}
 
 std::wstring PocketInformantFolder() {
     for (const wchar_t* const path : kPocketInformantKeys) {
@@ -34,6 +28,11 @@ std::wstring PocketInformantFolder() {
 }
 
 }  // namespace
+
+std::wstring ReadText(HKEY root, const wchar_t* path, const wchar_t* name) {
+    CSettingsKey key(root, path, false, false);
+    return key.IsOpen() ? key.ReadString(name) : std::wstring();
+}
 
 std::wstring JoinPath(const std::wstring& folder, const std::wstring& name) {
     return folder.ends_with(L'\\') ? folder + name : folder + L'\\' + name;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <vector>
 
@@ -12,6 +14,12 @@ inline constexpr int kLargestIcon = 30;
 // The names of a folder's bitmap files; hidden ones, which begin with a dot, and folders do not
 // count. The folder may end in a backslash or not.
 std::vector<std::wstring> FindBitmapFiles(const std::wstring& folder);
+
+// The key, under HKEY_LOCAL_MACHINE, of another program with category icons.
+inline constexpr wchar_t kAgendaFusionKey[] = L"\\SOFTWARE\\Developer One, Inc.\\Agenda Fusion";
+
+// A text of another program's; empty when it is not there. Nothing is created.
+std::wstring ReadText(HKEY root, const wchar_t* path, const wchar_t* name);
 
 std::wstring JoinPath(const std::wstring& folder, const std::wstring& name);
 

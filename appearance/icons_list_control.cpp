@@ -50,6 +50,25 @@ int TextWidth(HDC dc, const std::wstring& text) {
     return area.right;
 }
 
+// However long the title, the count behind it shows.
+void PaintTitle(HDC dc, RECT area, const std::wstring& title, const std::wstring& count) {
+    const auto draw = [&](const std::wstring& text, const RECT& where) {
+        RECT rect = where;
+        DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
+                  DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    };
+    const std::wstring whole = title + count;
+    if (TextWidth(dc, whole) <= area.right - area.left) {
+        draw(whole, area);
+        return;
+    }
+    RECT end = area;
+    end.left = std::max(area.left, area.right - TextWidth(dc, count));
+    area.right = end.left;
+    draw(title, area);
+    draw(count, end);
+}
+
 // Icons stand in cells that fit the largest of them.
 IconGridMetrics MetricsFor(const IconLibrary* library) {
     int width = ScaleX(kSmallestIcon);
@@ -337,19 +356,10 @@ void IconsListControl::PaintHeader(HDC dc, int group) const {
     paintMark_(dc, mark, IsExpanded(group));
 
     const IconLibrary::Group& shown = library_->groups()[static_cast<std::size_t>(group)];
-    const std::wstring count = L" (" + std::to_wstring(shown.icons.size()) + L")";
-    // However long the title, the count behind it shows.
-    constexpr UINT kFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
     RECT text = header;
     text.left += ScaleX(kTitleLeft);
     text.top = line.bottom;
-    const int room = static_cast<int>(text.right - text.left) - TextWidth(dc, count);
-    RECT title = text;
-    title.right = title.left + std::clamp(TextWidth(dc, shown.title), 0, std::max(0, room));
-    DrawTextW(dc, shown.title.c_str(), static_cast<int>(shown.title.size()), &title,
-              kFormat | DT_END_ELLIPSIS);
-    text.left = title.right;
-    DrawTextW(dc, count.c_str(), static_cast<int>(count.size()), &text, kFormat);
+    PaintTitle(dc, text, shown.title, L" (" + std::to_wstring(shown.icons.size()) + L")");
 }
 
 void IconsListControl::PaintIcon(HDC dc, const IconPlace& place) const {

@@ -4,6 +4,7 @@ add_library(diary_models STATIC
   app/language_template.cpp
   app/module.cpp
   appearance/category_color_store.cpp
+  appearance/category_icon_files.cpp
   appearance/icon_digest.cpp
   appearance/icon_files.cpp
   appearance/icon_library.cpp

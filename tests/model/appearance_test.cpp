@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "appearance/category_color_store.h"
+#include "appearance/category_icon_files.h"
 #include "appearance/icon_files.h"
 #include "appearance/icon_library.h"
 #include "appearance/shell_colors.h"
@@ -209,6 +210,28 @@ TEST_F(Appearance, SourcesAreFoundAndRemembered) {
         WriteRememberedFolders(remembered);
     }
     EXPECT_EQ(ReadRememberedFolders().folders(), (Folders{L"d", L"f", L"e", L"c", L"b"}));
+}
+
+TEST_F(Appearance, CategoryIconsLieWhereThePimKeepsThem) {
+    const std::wstring own = L"\\Program Files\\Lum Diary\\Icons\\";
+    EXPECT_EQ(FindCategoryIconFolder(), own);
+    OpenProductKey().WriteDword(L"CurrentPIM", 1);
+    EXPECT_EQ(FindCategoryIconFolder(), L"");
+    EXPECT_FALSE(AssignCategoryIcon(L"", L"Work", std::wstring(kIconSet) + L"house.bmp"));
+    Open(kAgendaFusionKey).WriteString(L"Core.Categories", L"\\Fusion");
+    EXPECT_EQ(FindCategoryIconFolder(), L"\\Fusion\\");
+
+    const std::wstring file = own + L"Work%CHome.bmp";
+    EXPECT_EQ(CategoryIconPath(own, L"Work/Home"), file);
+    for (const wchar_t* const icon : {L"house.bmp", L"coins.bmp"}) {
+        const std::wstring source = std::wstring(kIconSet) + icon;
+        EXPECT_TRUE(AssignCategoryIcon(own, L"Work/Home", source));
+        EXPECT_TRUE(LoadIconBitmap(file));
+        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    }
+    EXPECT_FALSE(AssignCategoryIcon(own, L"Work/Home", L"\\none.bmp"));
+    DeleteCategoryIcon(own, L"Work/Home");
+    EXPECT_FALSE(LoadIconBitmap(file));
 }
 
 }  // namespace
