@@ -31,6 +31,8 @@ class Appearance : public ::testing::Test {
     void SetUp() override {
         DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
         DeleteKeyTree(HKEY_LOCAL_MACHINE, kColorKey);
+        Open(L"SOFTWARE\\Apps\\Lum Diary")
+            .WriteString(L"InstallDir", L"\\Program Files\\Lum Diary");
     }
 };
 
