@@ -12,6 +12,7 @@
 #include "app/open_entry.h"
 #include "appearance/fonts.h"
 #include "appearance/scale.h"
+#include "appearance/theme_colors.h"
 #include "controls/modal_windows.h"
 #include "resources/ids.h"
 
@@ -76,6 +77,7 @@ std::optional<LRESULT> MainFrame::OnMessage(UINT message, WPARAM wParam, LPARAM 
 
 bool MainFrame::OnCreate() {
     startTabs_ = TabSettings::Read();
+    GetThemeColors().Refresh();
     SetWindowTextW(hwnd(), GetLanguageTable().LoadString(IDS_APP_TITLE).c_str());
 
     SHMENUBARINFO bar = {};
@@ -221,6 +223,7 @@ void MainFrame::OnDestroy() {
     SendMessageW(listView_, WM_SETFONT, reinterpret_cast<WPARAM>(savedListFont_), FALSE);
     imageList_.Reset();
     listFont_.Reset();
+    GetThemeColors().Release();
     if (settingsChanged_) NotifyPlugin(updateMessage_, 0, startTabs_);
     if (listView_) {
         DestroyWindow(listView_);

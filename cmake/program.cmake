@@ -5,12 +5,20 @@ add_library(diary_models STATIC
   app/module.cpp
   app/registry_exporter.cpp
   appearance/archive.cpp
+  appearance/category_color_store.cpp
+  appearance/category_icon_files.cpp
   appearance/date_formats.cpp
   appearance/fonts.cpp
+  appearance/icon_digest.cpp
+  appearance/icon_files.cpp
+  appearance/icon_library.cpp
+  appearance/mapped_file.cpp
   appearance/scale.cpp
+  appearance/shell_colors.cpp
   appearance/skin_art.cpp
   appearance/skin_source.cpp
   appearance/skin_strip.cpp
+  appearance/theme_colors.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
@@ -18,6 +26,16 @@ add_library(diary_models STATIC
   settings/settings_key.cpp
 )
 target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings minizip)
+
+# Controls that need no dialog of the program's; tests open them in dialogs of their own.
+add_library(diary_controls STATIC
+  appearance/color_button.cpp
+  appearance/colors_list_window.cpp
+  appearance/icons_list_control.cpp
+  controls/dialog.cpp
+  controls/window.cpp
+)
+target_link_libraries(diary_controls PUBLIC diary_models PRIVATE diary_warnings)
 
 # DiarySettings.exe. Our stand-ins come first on the link line, so that the functions they export bind to
 # them, as on the device everything binds to the system's own libraries.
@@ -35,15 +53,13 @@ add_executable(DiarySettings WIN32
   app/options_sheet.cpp
   app/single_instance.cpp
   appearance/folding_stripe.cpp
-  controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/preview_window.cpp
   controls/title_band.cpp
-  controls/window.cpp
   ${pages}
 )
 target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
 target_link_libraries(DiarySettings PRIVATE
-  diary_art diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
+  diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
   inkx)
 add_dependencies(DiarySettings DiaryRes)

@@ -5,10 +5,17 @@ add_library(diary_pure STATIC
   app/language_file.cpp
   app/language_index.cpp
   app/page_rows.cpp
-  settings/date_picture.cpp
   appearance/bitmap_file.cpp
+  appearance/bitmap_header.cpp
+  appearance/category_color.cpp
+  appearance/color_grid.cpp
+  appearance/file_name_escape.cpp
+  appearance/icon_catalogue.cpp
+  appearance/icon_grid.cpp
+  appearance/icon_sources.cpp
   appearance/skin_list.cpp
   appearance/strip.cpp
+  settings/date_picture.cpp
   settings/display_pattern.cpp
   settings/settings_file.cpp
   settings/tab_layout.cpp

@@ -44,6 +44,7 @@ struct FileRelease {
 
 using OwnedFont = OwnedHandle<HFONT, HandleRelease>;
 using OwnedBrush = OwnedHandle<HBRUSH, HandleRelease>;
+using OwnedPen = OwnedHandle<HPEN, HandleRelease>;
 using OwnedBitmap = OwnedHandle<HBITMAP, HandleRelease>;
 using OwnedDc = OwnedHandle<HDC, HandleRelease>;
 using OwnedIcon = OwnedHandle<HICON, HandleRelease>;

@@ -1,8 +1,9 @@
 #include "controls/window.h"
 
 bool Window::Create(const wchar_t* className, const wchar_t* title, DWORD style, const RECT& rect,
-                    HWND parent, HINSTANCE instance) {
+                    HWND parent, HINSTANCE instance, UINT classStyle) {
     WNDCLASSW windowClass = {};
+    windowClass.style = classStyle;
     windowClass.lpfnWndProc = WindowProcedure;
     windowClass.hInstance = instance;
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);

@@ -19,7 +19,7 @@ class Window {
 
     // Registers the class when needed and creates the window; false when that fails.
     bool Create(const wchar_t* className, const wchar_t* title, DWORD style, const RECT& rect,
-                HWND parent, HINSTANCE instance);
+                HWND parent, HINSTANCE instance, UINT classStyle = 0);
     // No value leaves the message to the system.
     virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 

@@ -21,6 +21,16 @@
 #define IDB_ICONS_HIGH 141
 #define IDB_SCROLL_BAR_HIGH 142
 
+// The faces of a colour button, for screens of 96 and of 192 dpi.
+#define IDB_COLOR_BUTTON_NORMAL 300
+#define IDB_COLOR_BUTTON_FOCUSED 301
+#define IDB_COLOR_BUTTON_PRESSED 302
+#define IDB_COLOR_BUTTON_DISABLED 303
+#define IDB_COLOR_BUTTON_NORMAL_192 310
+#define IDB_COLOR_BUTTON_FOCUSED_192 311
+#define IDB_COLOR_BUTTON_PRESSED_192 312
+#define IDB_COLOR_BUTTON_DISABLED_192 313
+
 // The main window's menu bar and its commands.
 #define IDM_MAIN 128
 #define IDM_ABOUT_BOX 32784
@@ -100,6 +110,18 @@
 #define IDS_EXPORT_FAILED 1100
 #define IDS_IMPORT_FAILED 1101
 #define IDS_HEIGHT_REFUSED 1102
+
+// Groups of icons; the catalogue names them by their texts.
+#define IDS_ICONS_OTHER 1250
+#define IDS_ICONS_WORK 1251
+#define IDS_ICONS_HOME 1252
+#define IDS_ICONS_PEOPLE 1253
+#define IDS_ICONS_TRAVEL 1254
+#define IDS_ICONS_HEALTH 1255
+#define IDS_ICONS_MONEY 1256
+#define IDS_ICONS_LEISURE 1257
+#define IDS_ICONS_NATURE 1258
+#define IDS_ICONS_SIGNS 1259
 
 // About dialog.
 #define IDD_ABOUT 2000

@@ -24,6 +24,8 @@ constexpr NumberSetting TotalHeight(bool landscape, int defaultHeight) {
 inline constexpr NumberSetting HeaderMinimized{L"HeaderMinimized", 0};
 inline constexpr NumberSetting AutoSizeAdjust{L"AutoSizeAdjust", 1};
 inline constexpr NumberSetting AllowMinimization{L"AllowMinimization", 1};
+// The program whose items are shown: 0 the device's own, 1 Agenda Fusion, 2 Pocket Informant,
+// 3 Agenda One.
 inline constexpr NumberSetting CurrentPIM{L"CurrentPIM", 0};
 
 // Dates.
@@ -77,5 +79,18 @@ inline constexpr NumberSetting SpecialShowBirthdays{L"SpecialShowBirthdays", 1};
 constexpr NumberSetting SpecialShowTransactions(bool financeProgramPresent) {
     return {L"SpecialShowTransactions", financeProgramPresent ? 1u : 0u};
 }
+
+// Colours of appointments by how busy they make, as 0x00BBGGRR. The plug-in knows two of them under
+// these very spellings.
+inline constexpr NumberSetting ApptStatusBackground{L"clrApptStatusBkg", 0xCCCCCC};
+inline constexpr NumberSetting ApptStatusFree{L"clrApptStatusFree", 0xFFFFFF};
+inline constexpr NumberSetting ApptStatusTentative{L"clrApptStatusTentative", 0xF7CBA5};
+inline constexpr NumberSetting ApptStatusBusy{L"clrApptStatusBusy", 0xDC4040};
+inline constexpr NumberSetting ApptStatusOutOfOffice{L"clrApptStatusOutOfOffice", 0x840084};
+inline constexpr NumberSetting ApptStatusNotLoaded{L"clrApptStatusNotloaded", 0xD2FFFF};
+inline constexpr NumberSetting ApptStatusConflicting{L"clrApptStatusConfliciting", 0x0000FF};
+
+// Category icons: the source last shown for choosing one.
+inline constexpr NumberSetting IconSetId{L"IconSetID", 0};
 
 }  // namespace settings

@@ -18,6 +18,30 @@ bool HasText(const wchar_t* path, const wchar_t* name) {
     return key.IsOpen() && !key.ReadString(name).empty();
 }
 
+// The operating system's version; all 0 for a device that is no Pocket PC.
+struct PocketPcVersion {
+    DWORD major = 0;
+    DWORD minor = 0;
+};
+
+PocketPcVersion AskVersion() {
+    constexpr UINT kLongestType = 128;
+    wchar_t type[kLongestType] = {};
+    if (!SystemParametersInfoW(SPI_GETPLATFORMTYPE, kLongestType, type, 0) ||
+        wcscmp(type, L"PocketPC") != 0) {
+        return {};
+    }
+    OSVERSIONINFOW version = {};
+    version.dwOSVersionInfoSize = sizeof version;
+    if (!GetVersionExW(&version)) return {};
+    return {version.dwMajorVersion, version.dwMinorVersion};
+}
+
+const PocketPcVersion& Version() {
+    static const PocketPcVersion version = AskVersion();
+    return version;
+}
+
 }  // namespace
 
 bool IsPhoneDevice() {
@@ -36,3 +60,11 @@ bool IsPocketInformantPresent() { return CanLoad(L"PITools.dll"); }
 bool IsAgendaOnePresent() {
     return HasText(L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath");
 }
+
+bool IsEarlyPocketPc() { return Version().major == 3; }
+
+bool HasTodayHighlight() {
+    return Version().major >= 5 || (Version().major == 4 && Version().minor >= 21);
+}
+
+bool IsNewerPocketPc() { return Version().major >= 5; }

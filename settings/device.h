@@ -1,6 +1,8 @@
 #pragma once
 
-// Whether the device has a phone. Asked once; the answer holds for the process.
+// Each of these is asked once; the answer holds for the process, but for the finance program's.
+
+// Whether the device has a phone.
 bool IsPhoneDevice();
 
 // Whether the finance program, whose scheduled transactions the diary can show, is installed.
@@ -10,3 +12,12 @@ bool IsFinanceProgramPresent();
 bool IsAgendaFusionPresent();
 bool IsPocketInformantPresent();
 bool IsAgendaOnePresent();
+
+// A Pocket PC of the first kind, with system version 3.
+bool IsEarlyPocketPc();
+
+// A Pocket PC whose Today screen has highlight colours of its own, from system version 4.21 on.
+bool HasTodayHighlight();
+
+// A Pocket PC with the newer databases, from system version 5 on.
+bool IsNewerPocketPc();

@@ -13,7 +13,7 @@ shift 4
 BIN=$(dirname "$program")
 device=$ROOT/build/stage/$name
 rm -rf "$device" "${WINE_DIR:?}/$name"
-furnish_device "$device" "$BIN"
+furnish_device "$device" "$BIN" "$dpi"
 start_display "$size"
 start_session "$name" "$dpi" "$device"
 trap 'end_session; end_display; rm -rf "${WINE_DIR:?}/$name" "$device"' EXIT

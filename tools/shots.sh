@@ -45,7 +45,7 @@ close_program() {
 open_stage() { # NAME DPI SIZE
     STAGE=$ROOT/build/stage/$1
     rm -rf "$STAGE" "${WINE_DIR:?}/$1"
-    furnish_device "$STAGE" "$BIN"
+    furnish_device "$STAGE" "$BIN" "$2"
     start_display "$3"
     start_session "$1" "$2" "$STAGE"
     trap 'end_session; end_display' EXIT

@@ -89,11 +89,15 @@ end_display() {
 }
 
 # A device: the folders and files that an owner's device has. What the build makes is brought up to date.
-furnish_device() { # DEVICE BIN
+furnish_device() { # DEVICE BIN DPI
     local install="$1/Program Files/Lum Diary"
     mkdir -p "$install" "$1/Windows" "$1/My Documents"
     cp -u "$2/DiaryRes.Dll" "$ROOT/help/LumDiary.htm" "$install/"
     cp -ru "$2/Skins" "$install/"
+    # The icons are bitmaps, of the screen's density.
+    cp -u "$2/icons.dat" "$install/"
+    rm -rf "$install/IconSet"
+    cp -r "$2/iconset/$3" "$install/IconSet"
     cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$1/Windows/"
     [ -f "$1/device.ini" ] ||
         printf '[device]\r\nhive=Default\r\nversion=5.2.19208\r\nplatform=PocketPC\r\n' >"$1/device.ini"

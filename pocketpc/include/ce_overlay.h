@@ -104,3 +104,16 @@
 EXTERN_C FARPROC WINAPI GetProcAddressW(HMODULE module, LPCWSTR name);
 #undef GetProcAddress
 #define GetProcAddress GetProcAddressW
+
+// A file that shall be mapped is opened by a function of its own, and mapped once.
+EXTERN_C HANDLE WINAPI CreateFileForMappingW(LPCWSTR path, DWORD access, DWORD share,
+                                             LPSECURITY_ATTRIBUTES security, DWORD disposition,
+                                             DWORD attributes, HANDLE templateFile);
+
+// Bitmap files are loaded by the shell.
+EXTERN_C HBITMAP WINAPI SHLoadDIBitmap(LPCWSTR path);
+
+// Copies what is not of the transparent colour; the source is a device context or a bitmap.
+EXTERN_C BOOL WINAPI TransparentImage(HDC target, LONG x, LONG y, LONG width, LONG height,
+                                      HANDLE source, LONG sourceX, LONG sourceY, LONG sourceWidth,
+                                      LONG sourceHeight, COLORREF transparent);

@@ -1,0 +1,99 @@
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+#include "appearance/category_color.h"
+#include "appearance/color_grid.h"
+#include "appearance/file_name_escape.h"
+
+namespace {
+
+TEST(CategoryColor, PacksAndBlends) {
+    CategoryColor color;
+    EXPECT_EQ(color.Pack(), 0xE4000000u);
+    EXPECT_EQ(color.GetColor(), kNoColor);
+    color.SetColor(0x7F123456);
+    EXPECT_EQ(color.Pack(), 0x64123456u);
+    color.SetColor(kNoColor);
+    color.SetIntensity(25);
+    EXPECT_EQ(color.Pack(), 0x99123456u);
+    color.Unpack(0x80FF0000);
+    EXPECT_EQ(color.GetColor(), kNoColor);
+    EXPECT_EQ(color.GetIntensity(), 0);
+
+    struct Case {
+        std::uint32_t packed, background, blended;
+    };
+    for (const Case& c : {
+             Case{0x00123456, 0x00ABCDEF, 0x00ABCDEF},
+             Case{0x64123456, 0x00ABCDEF, 0x00123456},
+             Case{0xE4123456, 0x00ABCDEF, 0x00ABCDEF},
+             Case{0x32000000, 0x00FFFFFF, 0x00808080},  // 255 - 127, not 128
+             Case{0x320000FF, 0x00000000, 0x0000007F},
+             Case{0x190A14FF, 0x00FF1400, 0x00C2143F},
+         }) {
+        color.Unpack(c.packed);
+        EXPECT_EQ(BlendCategoryColor(color, c.background), c.blended) << std::hex << c.packed;
+    }
+}
+
+TEST(FileNameEscape, KeepsEveryName) {
+    EXPECT_EQ(EscapeFileName(L"Work/Home"), L"Work%CHome");
+    EXPECT_EQ(EscapeFileName(L"%\\/:*?\"<>|"), L"%A%B%C%D%E%F%G%H%I%J");
+    struct Case {
+        const wchar_t *escaped, *name;
+    };
+    for (const Case& c : {Case{L"a%Bb", L"a\\b"}, Case{L"a%K%", L"a%K%"}, Case{L"%%A", L"%%"},
+                          Case{L"%a%@", L"%a%@"}, Case{L"%AB", L"%B"}, Case{L"%J", L"|"}}) {
+        EXPECT_EQ(UnescapeFileName(c.escaped), c.name);
+    }
+    std::mt19937 random(1);
+    const std::wstring letters = L"%\\/:*?\"<>|AJK a";
+    for (int i = 0; i < 5000; ++i) {
+        std::wstring name;
+        while (random() % 8) name += letters[random() % letters.size()];
+        const std::wstring escaped = EscapeFileName(name);
+        EXPECT_EQ(escaped.find_first_of(L"\\/:*?\"<>|"), std::wstring::npos);
+        EXPECT_EQ(UnescapeFileName(escaped), name);
+    }
+}
+
+TEST(ColorGrid, LiesOnTheScreenAsDesigned) {
+    EXPECT_EQ(ColorPalette[1], 0x00002AA5u);
+    EXPECT_EQ(FindPaletteColor(0x00FAE6E6), (GridCell{6, 4}));
+    EXPECT_EQ(FindPaletteColor(kNoColor), (GridCell{0, 0}));
+    EXPECT_FALSE(IsInGrid(FindPaletteColor(0x00123456)));
+
+    const ColorGrid usual(96, 96), fine(192, 192), uneven(192, 96);
+    EXPECT_EQ(usual.width(), 148);
+    EXPECT_EQ(usual.height(), 94);
+    EXPECT_EQ(fine.width(), 294);
+    EXPECT_EQ(fine.height(), 186);
+    EXPECT_EQ(uneven.width(), 286);  // with the vertical margin
+    EXPECT_EQ(usual.CellArea({7, 4}), (GridArea{130, 76, 142, 88}));
+    EXPECT_EQ(fine.CellArea({1, 2}), (GridArea{44, 80, 68, 104}));
+    EXPECT_EQ(usual.FrameArea({0, 0}), (GridArea{1, 1, 19, 19}));
+
+    struct Case {
+        const ColorGrid& grid;
+        int x, y;
+        GridCell cell;
+    };
+    for (const Case& c : {
+             Case{usual, 4, 4, {0, 0}}, Case{usual, 21, 21, {0, 0}}, Case{usual, 22, 22, {1, 1}},
+             Case{usual, 147, 93, {7, 4}}, Case{usual, 148, 94, {8, 5}},
+             Case{usual, 900, 900, {8, 5}}, Case{usual, -900, -900, {0, 0}},
+             Case{fine, 44, 80, {1, 2}},
+             Case{uneven, 8, 39, {0, 0}},  // rows by the horizontal density
+         }) {
+        EXPECT_EQ(c.grid.CellAt(c.x, c.y), c.cell) << c.x << "," << c.y;
+    }
+    EXPECT_EQ(ClampToGrid({8, 5}), (GridCell{7, 4}));
+
+    EXPECT_EQ(PlaceColorGrid({10, 20, 50, 40}, 148, 94, 240, 320, 1), (GridPoint{10, 39}));
+    EXPECT_EQ(PlaceColorGrid({190, 290, 230, 310}, 148, 94, 240, 320, 1), (GridPoint{82, 196}));
+    EXPECT_EQ(PlaceColorGrid({100, 50, 140, 70}, 148, 94, 140, 100, 1), (GridPoint{100, 69}));
+}
+
+}  // namespace

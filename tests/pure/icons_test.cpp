@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "appearance/bitmap_header.h"
+#include "appearance/icon_catalogue.h"
+#include "appearance/icon_grid.h"
+#include "appearance/icon_sources.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+void Append(Bytes& bytes, std::uint32_t value, int size = 4) {
+    for (; size > 0; --size, value >>= 8) bytes.push_back(value & 0xFF);
+}
+
+IconDigest Digest(std::uint8_t fill) {
+    IconDigest digest;
+    digest.fill(fill);
+    return digest;
+}
+
+// Two groups, "AB" (padded) and "C" (not), which share a digest.
+Bytes Catalogue() {
+    Bytes file;
+    Append(file, 2);
+    for (const std::uint32_t unit : {65, 66, 0, 0, 67, 0}) Append(file, unit, 2);
+    Append(file, 1);
+    file.insert(file.end(), 16, 1);
+    Append(file, 2);
+    file.insert(file.end(), 16, 1);
+    file.insert(file.end(), 16, 2);
+    return file;
+}
+
+TEST(IconCatalogue, FindsTheFirstGroupAndRefusesWhatIsCut) {
+    const Bytes file = Catalogue();
+    IconCatalogue catalogue;
+    ASSERT_TRUE(catalogue.Read(file));
+    EXPECT_EQ(catalogue.titles(), (std::vector<std::wstring>{L"AB", L"C"}));
+    EXPECT_EQ(catalogue.FindGroup(Digest(1)), 0u);
+    EXPECT_EQ(catalogue.FindGroup(Digest(2)), 1u);
+    EXPECT_EQ(catalogue.FindGroup(Digest(3)), std::nullopt);
+
+    for (std::size_t size = 0; size < file.size(); ++size) {
+        EXPECT_FALSE(catalogue.Read(std::span(file).first(size))) << size;
+        EXPECT_TRUE(catalogue.titles().empty() && !catalogue.FindGroup(Digest(1)));
+    }
+    // The counts of groups and of the first group's digests.
+    for (const std::size_t place : {0, 16}) {
+        for (const std::uint32_t count : {0xFFFFFFFFu, 0x7FFFFFFFu, 0x80000000u, 100u}) {
+            Bytes wrong = file;
+            for (int i = 0; i < 4; ++i) wrong[place + i] = count >> 8 * i & 0xFF;
+            EXPECT_FALSE(catalogue.Read(wrong)) << place << ": " << count;
+        }
+    }
+    EXPECT_TRUE(catalogue.Read(Bytes(4)));
+    EXPECT_FALSE(catalogue.Read(Bytes{1, 0, 0, 0, 'A', 0, 'A', 0}));
+}
+
+TEST(BitmapHeader, LetsOnlyWholeBitmapsThrough) {
+    struct Case {
+        const char* what;
+        std::uint32_t header, width, height, bits, compression, colors, pixels;
+        bool good;
+    };
+    for (const Case& c : {
+             Case{"24 bits", 40, 3, 2, 24, 0, 0, 24, true},
+             Case{"a byte short", 40, 3, 2, 24, 0, 0, 23, false},
+             Case{"top down", 40, 3, 0xFFFFFFFE, 32, 0, 0, 24, true},
+             Case{"8 bits", 40, 3, 2, 8, 0, 256, 8, true},
+             Case{"short table", 40, 3, 2, 8, 0, 2, 8, true},
+             Case{"too many colours", 40, 3, 2, 4, 0, 17, 500, false},
+             Case{"run lengths", 40, 3, 2, 8, 1, 256, 500, false},
+             Case{"no such depth", 40, 3, 2, 7, 0, 0, 500, false},
+             Case{"no width", 40, 0, 2, 24, 0, 0, 500, false},
+             Case{"widest", 40, 0x7FFFFFFF, 2, 24, 0, 0, 500, false},
+             Case{"deepest", 40, 3, 0x80000000, 24, 0, 0, 500, false},
+             Case{"no such header", 41 + 84, 3, 2, 24, 0, 0, 500, false},
+         }) {
+        Bytes file = {'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0};
+        for (const std::uint32_t field : {14 + c.header + 4 * c.colors, c.header, c.width, c.height,
+                                          1 | c.bits << 16, c.compression, 0u, 0u, 0u, c.colors}) {
+            Append(file, field);
+        }
+        file.resize(14 + c.header + 4 * c.colors + c.pixels);
+        const std::optional<BitmapSize> size = ReadBitmapSize(file);
+        EXPECT_EQ(size, c.good ? std::optional(BitmapSize{3, 2}) : std::nullopt) << c.what;
+    }
+    EXPECT_EQ(ReadBitmapSize({}), std::nullopt);
+}
+
+TEST(IconGrid, LiesGroupBelowGroup) {
+    const IconGridMetrics metrics = {15, 20, 20, 24};
+    // Three columns; groups of two rows, of none, collapsed, of one row.
+    const IconGrid grid(metrics, 85, {{5, true}, {0, true}, {9, false}, {1, true}});
+    EXPECT_EQ(grid.columns(), 3);
+    EXPECT_EQ(grid.height(), 4 * 15 + 3 * 24);
+    EXPECT_EQ(grid.AreaOf({0, 4}), (GridArea{40, 39, 60, 63}));
+    EXPECT_EQ(grid.AreaOf({3}), (GridArea{0, 93, 85, 108}));
+    EXPECT_EQ(grid.At({40, 39}), (IconPlace{0, 4}));
+    EXPECT_EQ(grid.At({0, 92}), (IconPlace{2}));
+    EXPECT_EQ(grid.At({60, 39}), std::nullopt);  // behind the last icon
+    EXPECT_EQ(grid.At({80, 20}), std::nullopt);  // behind the last column
+    EXPECT_EQ(grid.At({20, 132}), std::nullopt);
+    EXPECT_EQ(grid.At({20, -1}), std::nullopt);
+    EXPECT_EQ(grid.GroupsWithin(0, 15), (IconGrid::Range{0, 1}));
+    EXPECT_EQ(grid.GroupsWithin(62, 79), (IconGrid::Range{0, 3}));
+    EXPECT_EQ(grid.GroupsWithin(132, 200), (IconGrid::Range{4, 4}));
+    EXPECT_EQ(grid.IconsWithin(0, 0, 15), (IconGrid::Range{0, 0}));
+    EXPECT_EQ(grid.IconsWithin(0, 38, 40), (IconGrid::Range{0, 5}));
+    EXPECT_EQ(grid.IconsWithin(0, 39, 90), (IconGrid::Range{3, 5}));
+    EXPECT_EQ(grid.IconsWithin(2, 0, 500), (IconGrid::Range{0, 0}));
+
+    struct Case {
+        IconPlace from;
+        IconMove move;
+        IconPlace to;
+    };
+    for (const Case& c : {
+             Case{{0}, IconMove::kUp, {0}},
+             Case{{0, 1}, IconMove::kUp, {0}},
+             Case{{0, 4}, IconMove::kUp, {0, 1}},
+             Case{{0, 1}, IconMove::kDown, {0, 4}},
+             Case{{0, 2}, IconMove::kDown, {0, 4}},
+             Case{{0, 3}, IconMove::kDown, {1}},
+             Case{{1}, IconMove::kUp, {0, 3}},
+             Case{{0, 4}, IconMove::kRight, {1}},
+             Case{{3}, IconMove::kLeft, {2}},
+             Case{{3}, IconMove::kRight, {3, 0}},
+             Case{{3, 0}, IconMove::kDown, {3, 0}},
+             Case{{0}, IconMove::kLast, {3, 0}},
+             Case{{3, 0}, IconMove::kFirst, {0}},
+             Case{{0}, IconMove::kPageDown, {0, 3}},
+             Case{{3, 0}, IconMove::kPageUp, {2}},
+             Case{{3}, IconMove::kPageDown, {3, 0}},
+         }) {
+        EXPECT_EQ(grid.Move(c.from, c.move, 63), c.to)
+            << c.from.group << "," << c.from.icon << " " << static_cast<int>(c.move);
+    }
+    EXPECT_EQ(grid.Move(std::nullopt, IconMove::kDown, 60), IconPlace{});
+    EXPECT_EQ(IconGrid().Move(std::nullopt, IconMove::kDown, 60), std::nullopt);
+    EXPECT_EQ(IconGrid(metrics, 5, {{2, true}}).columns(), 1);
+}
+
+TEST(IconSources, ShowsAnyOfThem) {
+    using Folders = std::vector<std::wstring>;
+    const RememberedFolders remembered(
+        {{L"10", L"c"}, {L"2", L"b"}, {L"x1", L"-"}, {L"0", L"-"}, {L"3", L""}, {L"01", L"a"}});
+    EXPECT_EQ(remembered.folders(), (Folders{L"a", L"b", L"c"}));
+
+    IconSources sources({L"1", L"2"}, RememberedFolders({{L"1", L"a"}, {L"2", L"b"}}));
+    EXPECT_EQ(sources.Show(99), (Folders{L"1", L"2", L"a", L"b"}));
+    EXPECT_EQ(sources.Show(-1), std::nullopt);
+    EXPECT_EQ(sources.Show(5), std::nullopt);
+    EXPECT_EQ(sources.shown(), 0);
+    EXPECT_EQ(sources.Show(2), Folders{L"2"});
+    EXPECT_EQ(sources.Show(4), Folders{L"b"});
+    EXPECT_EQ(sources.shown(), 3);
+    EXPECT_EQ(sources.remembered().folders(), (Folders{L"b", L"a"}));
+    EXPECT_EQ(sources.ShowFolder(L"c"), Folders{L"c"});
+    EXPECT_EQ(sources.shown(), 3);
+}
+
+}  // namespace
