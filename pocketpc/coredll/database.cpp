@@ -286,10 +286,9 @@ CEOID OpenDatabase::Seek(DWORD type, DWORD_PTR value, WORD count, DWORD* index) 
     bool found = false;
     switch (type) {
         case CEDB_SEEK_CEOID: {
-            const auto entry =
-                std::find_if(entries_.begin(), entries_.end(), [&](const Entry& candidate) {
-                    return candidate.oid == static_cast<CEOID>(value);
-                });
+            const auto entry = std::find_if(
+                entries_.begin(), entries_.end(),
+                [&](const Entry& candidate) { return candidate.oid == static_cast<CEOID>(value); });
             target = entry - entries_.begin();
             found = entry != entries_.end();
             break;

@@ -217,8 +217,7 @@ BOOL WINAPI CeOidGetInfoEx(PCEGUID guid, CEOID oid, CEOIDINFO* info) {
 BOOL WINAPI CeOidGetInfoEx2(PCEGUID guid, CEOID oid, CEOIDINFOEX* info) {
     const std::lock_guard lock(Store::Get().mutex());
     switch (guid && info ? info->wVersion : 0) {
-        case CEOIDINFOEX_VERSION_CEDB:
-            return DescribeEx2<CEOIDINFOEX_CEDB>(guid, oid, kCedb, info);
+        case CEOIDINFOEX_VERSION_CEDB: return DescribeEx2<CEOIDINFOEX_CEDB>(guid, oid, kCedb, info);
         case CEOIDINFOEX_VERSION_EDB: return DescribeEx2<CEOIDINFOEX_EDB>(guid, oid, kEdb, info);
     }
     return Refuse(ERROR_INVALID_PARAMETER);

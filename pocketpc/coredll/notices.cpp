@@ -41,8 +41,7 @@ void Post(const OpenDatabase& database, const Notice& notice) {
     if (!notification) return;
     *notification = {sizeof(CENOTIFICATION), request.dwParam, notice.code,
                      notice.volume,          notice.oid,      notice.parent};
-    if (!PostMessageW(request.hwnd, WM_DBNOTIFICATION, 0,
-                      reinterpret_cast<LPARAM>(notification))) {
+    if (!PostMessageW(request.hwnd, WM_DBNOTIFICATION, 0, reinterpret_cast<LPARAM>(notification))) {
         HeapFree(heap, 0, notification);
     }
 }

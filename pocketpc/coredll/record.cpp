@@ -131,8 +131,8 @@ bool KeepsRules(const OpenDatabase& database, CEOID record, const Values& change
             std::erase_if(same, [&](CEOID other) {
                 const auto value = column.find(other);
                 return value == column.end() ||
-                       CompareValues(key.propid, key.dwFlags, value->second,
-                                     *values[key.propid]) != 0;
+                       CompareValues(key.propid, key.dwFlags, value->second, *values[key.propid]) !=
+                           0;
             });
         }
         if (!same.empty()) return Refuse(ERROR_ALREADY_EXISTS);
@@ -228,9 +228,9 @@ CEOID WINAPI CeWriteRecordProps(HANDLE handle, CEOID record, WORD count, CEPROPV
     const CEOID written = volume.WriteRecord(database->oid(), record, changes);
     if (written) {
         const UINT code = record ? DB_CEOID_CHANGED : DB_CEOID_CREATED;
-        SendNotice({Store::Get().IdentifierOf(volume), database->oid(), code, written,
-                    database->oid()},
-                   handle);
+        SendNotice(
+            {Store::Get().IdentifierOf(volume), database->oid(), code, written, database->oid()},
+            handle);
     }
     return written;
 }

@@ -21,7 +21,8 @@ constexpr const char* kSchema[] = {
 };
 
 std::string Utf8(const std::wstring& text) {
-    const int length = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr);
+    const int length =
+        WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr);
     std::string bytes(length, '\0');
     WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, bytes.data(), length, nullptr, nullptr);
     bytes.resize(length - 1);
@@ -104,7 +105,8 @@ bool Volume::Connect(bool create) {
         return false;
     }
     sqlite3_busy_timeout(connection, kLockTimeout);
-    // A power failure may cost a stand-in its data; waiting for the disk would cost every test time.
+    // A power failure may cost a stand-in its data; waiting for the disk would cost every test
+    // time.
     if (!Prepare("pragma synchronous = off").Run()) return false;
     // A damaged file must not make SQLite run what it finds there.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -168,7 +170,8 @@ CEOID Volume::FindDatabase(const std::wstring& name) const {
 }
 
 std::optional<DatabaseInfo> Volume::Info(CEOID database) const {
-    Statement row = Prepare("select name, type, flags, modified, orders from databases where oid = ?");
+    Statement row =
+        Prepare("select name, type, flags, modified, orders from databases where oid = ?");
     if (!row.Bind(database).Step()) {
         if (!row.Failed()) SetLastError(ERROR_FILE_NOT_FOUND);
         return std::nullopt;
@@ -197,8 +200,8 @@ CEOID Volume::WriteInfo(CEOID database, const DatabaseInfo& info) {
         return 0;
     }
     if (!database) database = NewIdentifier();
-    const long long modified = static_cast<long long>(info.modified.dwHighDateTime) << 32 |
-                               info.modified.dwLowDateTime;
+    const long long modified =
+        static_cast<long long>(info.modified.dwHighDateTime) << 32 | info.modified.dwLowDateTime;
     Statement write = Prepare("insert or replace into databases values(?, ?, ?, ?, ?, ?)");
     write.Bind(database).Bind(info.name).Bind(info.type).Bind(info.flags);
     write.Bind(modified ? modified : Now()).BindBytes(BytesOf(info.orders));
@@ -252,7 +255,10 @@ Values Volume::Record(CEOID record) const {
 }
 
 bool Volume::Touch(CEOID database) {
-    return Prepare("update databases set modified = ? where oid = ?").Bind(Now()).Bind(database).Run();
+    return Prepare("update databases set modified = ? where oid = ?")
+        .Bind(Now())
+        .Bind(database)
+        .Run();
 }
 
 CEOID Volume::WriteRecord(CEOID database, CEOID record, const Values& values) {

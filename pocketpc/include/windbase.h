@@ -1,5 +1,5 @@
-// The object-store databases. Programs that use the newer kind of volume (EDB) define EDB before they
-// include this; the information blocks then have that kind's layouts.
+// The object-store databases. Programs that use the newer kind of volume (EDB) define EDB before
+// they include this; the information blocks then have that kind's layouts.
 #pragma once
 
 #include <windows.h>
@@ -21,10 +21,8 @@ typedef struct _CEGUID {
 #define CREATE_INVALIDGUID(guid) (memset((guid), -1, sizeof(CEGUID)))
 #define CREATE_INVALIDEDBGUID(guid) \
     (memset((guid), 0, sizeof(CEGUID)), *(BYTE*)(guid) = 0xFF, (guid))
-#define CHECK_SYSTEMGUID(guid) \
-    (!((guid)->Data1 | (guid)->Data2 | (guid)->Data3 | (guid)->Data4))
-#define CHECK_INVALIDGUID(guid) \
-    (!~((guid)->Data1 & (guid)->Data2 & (guid)->Data3 & (guid)->Data4))
+#define CHECK_SYSTEMGUID(guid) (!((guid)->Data1 | (guid)->Data2 | (guid)->Data3 | (guid)->Data4))
+#define CHECK_INVALIDGUID(guid) (!~((guid)->Data1 & (guid)->Data2 & (guid)->Data3 & (guid)->Data4))
 
 // Property identifiers: a number of the program's in the high word, the type in the low one.
 #define CEVT_I2 2
@@ -238,8 +236,8 @@ typedef CEDBASEINFOEX_CEDB CEDBASEINFOEX;
 typedef CEOIDINFOEX_CEDB CEOIDINFOEX;
 #endif
 
-// Notifications. Without CEDB_EXNOTIFICATION the window gets the code itself as a message, with the object
-// and its parent as parameters; with it WM_DBNOTIFICATION with a CENOTIFICATION to be freed.
+// Notifications. Without CEDB_EXNOTIFICATION the window gets the code itself as a message, with the
+// object and its parent as parameters; with it WM_DBNOTIFICATION with a CENOTIFICATION to be freed.
 #define WM_DBNOTIFICATION 0x03FD
 #define CEDB_EXNOTIFICATION 0x00000001
 #define DB_CEOID_CREATED (WM_USER + 1)
