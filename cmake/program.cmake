@@ -3,6 +3,11 @@ add_library(diary_models STATIC
   app/language_table.cpp
   app/language_template.cpp
   app/module.cpp
+  pages/stores/database_layer.cpp
+  pages/stores/database_record.cpp
+  pages/stores/mail2.cpp
+  pages/stores/mail2_storage.cpp
+  pages/stores/read_settings_ini.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp

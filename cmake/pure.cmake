@@ -5,6 +5,7 @@ add_library(diary_pure STATIC
   app/language_file.cpp
   app/language_index.cpp
   app/page_rows.cpp
+  pages/stores/settings_ini.cpp
   settings/display_pattern.cpp
 )
 target_include_directories(diary_pure PUBLIC ${CMAKE_SOURCE_DIR})

@@ -11,6 +11,15 @@ bool CanLoad(const wchar_t* path) {
     return true;
 }
 
+bool IsNewerPocketPc() {
+    OSVERSIONINFOW version = {};
+    version.dwOSVersionInfoSize = sizeof version;
+    wchar_t platform[64] = {};
+    return GetVersionExW(&version) && version.dwMajorVersion >= 5 &&
+           SystemParametersInfoW(SPI_GETPLATFORMTYPE, 64, platform, 0) &&
+           wcscmp(platform, L"PocketPC") == 0;
+}
+
 }  // namespace
 
 bool IsPhoneDevice() {
@@ -19,3 +28,8 @@ bool IsPhoneDevice() {
 }
 
 bool IsFinanceProgramPresent() { return CanLoad(L"\\Windows\\LumFinanceScheduledAPI.dll"); }
+
+bool IsNewerDatabasePlatform() {
+    static const bool newer = IsNewerPocketPc();
+    return newer;
+}

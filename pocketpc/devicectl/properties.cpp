@@ -40,12 +40,14 @@ std::optional<CEPROPID> ParseProperty(std::wstring_view text) {
 }
 
 std::wstring PropertyText(CEPROPID property) {
+    // Large numbers are bit patterns to those who chose them.
+    wchar_t number[16];
+    swprintf(number, std::size(number), HIWORD(property) < 0x1000 ? L"%u:" : L"0x%x:",
+             unsigned{HIWORD(property)});
     for (const Type& type : kTypes) {
-        if (type.type == TypeFromPropID(property)) {
-            return std::to_wstring(HIWORD(property)) + L":" + type.name;
-        }
+        if (type.type == TypeFromPropID(property)) return std::wstring(number) + type.name;
     }
-    return std::to_wstring(HIWORD(property)) + L":" + std::to_wstring(LOWORD(property));
+    return number + std::to_wstring(TypeFromPropID(property));
 }
 
 std::optional<std::vector<BYTE>> ParseBytes(std::wstring_view digits) {
