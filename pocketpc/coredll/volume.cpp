@@ -105,26 +105,28 @@ bool Volume::Connect(bool create) {
         return false;
     }
     sqlite3_busy_timeout(connection, kLockTimeout);
-    // A power failure may cost a stand-in its data; waiting for the disk would cost every test
-    // time.
-    if (!Prepare("pragma synchronous = off").Run()) return false;
     // A damaged file must not make SQLite run what it finds there.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    if (create) {
-        Transaction transaction(connection);
-        if (!transaction.IsOpen()) return false;
-        for (const char* sql : kSchema) {
-            if (!Prepare(sql).Run()) return false;
-        }
-        const std::string marks = "pragma user_version=" + std::to_string(kind_->format);
-        const std::string application = "pragma application_id=" + std::to_string(kApplication);
-        return Prepare(marks.c_str()).Run() && Prepare(application.c_str()).Run() &&
-               transaction.Commit();
+    if (create ? !MakeTables() : !IsVolume()) {
+        if (!create && GetLastError() != ERROR_SHARING_VIOLATION) SetLastError(ERROR_ACCESS_DENIED);
+        return false;
     }
-    if (IsVolume()) return true;
-    if (GetLastError() != ERROR_SHARING_VIOLATION) SetLastError(ERROR_ACCESS_DENIED);
-    return false;
+    // A power failure may cost a stand-in its data; waiting for the disk would cost every test
+    // time.
+    return Prepare("pragma synchronous = off").Run();
+}
+
+bool Volume::MakeTables() {
+    Transaction transaction(connection_.get());
+    if (!transaction.IsOpen()) return false;
+    for (const char* sql : kSchema) {
+        if (!Prepare(sql).Run()) return false;
+    }
+    const std::string format = "pragma user_version=" + std::to_string(kind_->format);
+    const std::string application = "pragma application_id=" + std::to_string(kApplication);
+    return Prepare(format.c_str()).Run() && Prepare(application.c_str()).Run() &&
+           transaction.Commit();
 }
 
 bool Volume::IsVolume() const {

@@ -77,6 +77,7 @@ class Volume {
         void operator()(sqlite3* connection) const;
     };
     bool Connect(bool create);
+    bool MakeTables();
     bool IsVolume() const;
     CEOID NewIdentifier();
     bool Touch(CEOID database);

@@ -91,8 +91,7 @@ TEST(Mail2, DropsWhatItCannotOpen) {
 }
 
 TEST(Mail2, IsAbsentWithoutItsKey) {
-    const std::wstring key = L"Software\\WebIS\\Mail2", moved = L"Software\\WebIS";
-    ASSERT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, key.c_str()), ERROR_SUCCESS);
+    ASSERT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\WebIS\\Mail2"), ERROR_SUCCESS);
     Mail2 mail2;
     mail2.Load();
     EXPECT_FALSE(mail2.IsInstalled());
