@@ -52,7 +52,7 @@ std::vector<SortOrder> OrdersOf(const std::string& bytes) {
         for (DWORD keys = words[i++]; keys && i + 2 <= words.size(); --keys, i += 2) {
             order.keys.push_back({words[i], words[i + 1]});
         }
-        orders.push_back(std::move(order));
+        if (!order.keys.empty()) orders.push_back(std::move(order));
     }
     return orders;
 }
