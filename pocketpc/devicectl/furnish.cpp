@@ -48,13 +48,17 @@ class Furnisher {
         if (line.starts_with(std::wstring(kIndentation, L' '))) {
             const std::wstring inner = line.substr(kIndentation);
             if (skipping_) return {};
-            if (!file_.empty()) return fileText_.append(FileLine(inner)).append(L"\r\n"), L"";
+            if (!file_.empty()) {
+                fileText_ += FileLine(inner) + L"\r\n";
+                return {};
+            }
             if (inner.starts_with(L"#") || inner.empty()) return {};
             return Inner(SplitWords(inner));
         }
+        if (line.empty() && !file_.empty()) fileText_ += L"\r\n";
+        if (line.empty() || line.starts_with(L"#")) return {};
         const std::wstring problem = Finish();
-        if (!problem.empty() || line.empty() || line.starts_with(L"#")) return problem;
-        return Outer(SplitWords(line));
+        return problem.empty() ? Outer(SplitWords(line)) : problem;
     }
 
     // Ends the statement that is being put together.
