@@ -19,6 +19,11 @@ add_library(diary_models STATIC
   appearance/skin_source.cpp
   appearance/skin_strip.cpp
   appearance/theme_colors.cpp
+  pages/stores/database_layer.cpp
+  pages/stores/database_record.cpp
+  pages/stores/mail2.cpp
+  pages/stores/mail2_storage.cpp
+  pages/stores/read_settings_ini.cpp
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp

@@ -62,9 +62,29 @@ fetch_source() { # NAME
     rm -rf "$apt"
 }
 
+# What the programs are built on besides Debian's libraries.
+fetch_sources() {
+    fetch_source minizip
+    fetch_source sqlite3
+    make_sqlite
+}
+
+# SQLite's sources are made into one file, which is compiled with the stand-in device; once.
+make_sqlite() {
+    local made=$ROOT/third_party/sqlite3/amalgamation log=$ROOT/build/sqlite3.log
+    [ ! -f "$made/sqlite3.c" ] || return 0
+    say "Preparing the sources of sqlite3"
+    rm -rf "$made"
+    mkdir -p "$made.part" "$ROOT/build"
+    (cd "$made.part" && ../configure --disable-readline --disable-tcl && make sqlite3.c) >"$log" 2>&1 || {
+        cat "$log" >&2
+        fail "SQLite's one source file could not be made"
+    }
+    mv "$made.part" "$made"
+}
+
 # Configures and builds one preset into build/NAME; Ninja shows the progress.
 build_preset() { # NAME WHAT
-    [ "$1" != windows ] || fetch_source minizip
     say "Building $2"
     local log=$ROOT/build/$1.configure.log
     mkdir -p "$ROOT/build"

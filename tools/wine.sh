@@ -76,6 +76,13 @@ start_session() { # NAME DPI DEVICE: a clone of its own with the device as drive
     quietly wineserver -p
     reg_add 'HKCU\Software\PocketPC Devices\Default\HKEY_LOCAL_MACHINE\SOFTWARE\Apps\Lum Diary' \
         InstallDir REG_SZ '\Program Files\Lum Diary'
+    furnish_owner "$3"
+}
+
+# What the device's owner keeps on it, as far as it is not there yet. Needs BIN.
+furnish_owner() { # DEVICE
+    (cd "$1" && wine "$BIN/devicectl.exe" furnish - <"$ROOT/pocketpc/furnishing/owner.txt") ||
+        fail "The device could not be furnished"
 }
 
 end_session() {
@@ -88,7 +95,8 @@ end_display() {
     XVFB_PID=
 }
 
-# A device: the folders and files that an owner's device has. What the build makes is brought up to date.
+# A device: the folders and files that any device has. What the build makes is brought up to date.
+# DEVICE_VERSION chooses another version of the system for a new one.
 furnish_device() { # DEVICE BIN DPI
     local install="$1/Program Files/Lum Diary"
     mkdir -p "$install" "$1/Windows" "$1/My Documents"
@@ -100,5 +108,6 @@ furnish_device() { # DEVICE BIN DPI
     cp -r "$2/iconset/$3" "$install/IconSet"
     cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$1/Windows/"
     [ -f "$1/device.ini" ] ||
-        printf '[device]\r\nhive=Default\r\nversion=5.2.19208\r\nplatform=PocketPC\r\n' >"$1/device.ini"
+        printf '[device]\r\nhive=Default\r\nversion=%s\r\nplatform=PocketPC\r\n' \
+            "${DEVICE_VERSION:-5.2.19208}" >"$1/device.ini"
 }

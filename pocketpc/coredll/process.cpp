@@ -16,7 +16,10 @@ struct LaterFunction {
     const wchar_t* name;
     DWORD major, minor;
 };
-constexpr LaterFunction kLaterFunctions[] = {{L"SHGetUIMetrics", 4, 21}};
+constexpr LaterFunction kLaterFunctions[] = {
+    {L"SHGetUIMetrics", 4, 21},     {L"CeCreateDatabaseEx2", 5, 0}, {L"CeOidGetInfoEx2", 5, 0},
+    {L"CeOpenDatabaseEx2", 5, 0},   {L"CeReadRecordPropsEx", 5, 0}, {L"CeSeekDatabaseEx", 5, 0},
+    {L"CeSetDatabaseInfoEx2", 5, 0}};
 
 bool IsLater(const wchar_t* name) {
     const Device& device = ThisDevice();

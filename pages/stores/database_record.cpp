@@ -1,0 +1,45 @@
+#include "pages/stores/database_record.h"
+
+namespace {
+
+std::optional<std::uint32_t> NumberOf(const CEPROPVAL& value) {
+    switch (TypeFromPropID(value.propid)) {
+        case CEVT_I2: return static_cast<std::uint32_t>(value.val.iVal);
+        case CEVT_UI2: return value.val.uiVal;
+        case CEVT_I4:
+        case CEVT_UI4:
+        case CEVT_RECID: return value.val.ulVal;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+bool DatabaseRecord::Read(HANDLE database, std::initializer_list<CEPROPID> properties) {
+    values_.assign(properties.size(), {});
+    std::vector<CEPROPID> wanted(properties);
+    WORD count = static_cast<WORD>(wanted.size());
+    BYTE* buffer = nullptr;
+    DWORD size = 0;
+    const CEOID oid =
+        GetDatabaseLayer().ReadRecord(database, &count, wanted.data(), &buffer, &size);
+    // A record that has none of the properties is one all the same.
+    const bool read = oid || GetLastError() == ERROR_NO_DATA;
+    const auto values = reinterpret_cast<const CEPROPVAL*>(buffer);
+    for (std::size_t i = 0; oid && i < values_.size() && i < count; ++i) {
+        if (values[i].propid != wanted[i] || values[i].wFlags & CEDB_PROPNOTFOUND) continue;
+        values_[i].number = NumberOf(values[i]);
+        if (TypeFromPropID(wanted[i]) == CEVT_LPWSTR && values[i].val.lpwstr) {
+            values_[i].text = values[i].val.lpwstr;
+        }
+    }
+    // Even a failed read may have allocated.
+    LocalFree(buffer);
+    return read;
+}
+
+std::optional<std::uint32_t> DatabaseRecord::Number(std::size_t index) const {
+    return values_.at(index).number;
+}
+
+std::wstring DatabaseRecord::Text(std::size_t index) const { return values_.at(index).text; }
