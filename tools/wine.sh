@@ -6,9 +6,10 @@
 
 WINE_DIR=$ROOT/build/wine
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=,winemenubuilder.exe=d" LC_ALL=C.UTF-8
+export FONTCONFIG_FILE=$ROOT/tools/fonts.conf
 
 # Changes with what make_template does, so that an older template is made anew.
-TEMPLATE_VERSION=2
+TEMPLATE_VERSION=3
 
 quietly() { "$@" </dev/null >/dev/null 2>&1; }
 
@@ -26,8 +27,9 @@ make_template() {
     # Documents, Desktop and the like are links into the home folder.
     HOME=$WINE_DIR/home quietly wineboot -i
     quietly wineserver -w
-    # The device's system font, and the symbols of check boxes and scroll bars.
-    cp "$fonts"/{tahoma,tahomabd,marlett,symbol}.ttf "$template/drive_c/windows/Fonts/"
+    # The device's system font, and the symbols of check boxes and scroll bars. The outlines of the bold face
+    # are not bold at these sizes; without it Wine emboldens the regular one.
+    cp "$fonts"/{tahoma,marlett,symbol}.ttf "$template/drive_c/windows/Fonts/"
     quietly wineserver -p
     # Without a window manager Wine waits whenever a managed window goes.
     reg_add 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N
@@ -37,8 +39,6 @@ make_template() {
     quietly wineserver -k
     quietly wineserver -w
     clone_prefix "$template" "$WINE_DIR/template-192"
-    # Its outlines are not bold at this size; without it Wine emboldens the regular face.
-    rm -f "$WINE_DIR/template-192/drive_c/windows/Fonts/tahomabd.ttf"
     export WINEPREFIX=$WINE_DIR/template-192
     quietly wineserver -p
     reg_add 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD 192

@@ -119,6 +119,15 @@ TEST_F(General, FontFollowsTheSystemOrTheLists) {
     Click(page, IDC_FONT_SYSTEM);
     EXPECT_EQ(Selected(page, IDC_FONT_FACE), L"Tahoma");
     EXPECT_FALSE(IsEnabled(page, IDC_FONT_SIZE));
+    EXPECT_EQ(Selected(page, IDC_FONT_SIZE), L"13");
+    // The user changes the system's text size meanwhile.
+    wchar_t deviceFile[MAX_PATH];
+    GetFullPathNameW(L"\\device.ini", MAX_PATH, deviceFile, nullptr);
+    for (const wchar_t* const size : {L"9", static_cast<const wchar_t*>(nullptr)}) {
+        WritePrivateProfileStringW(L"device", L"textsize", size, deviceFile);
+        SendMessageW(sheet_, RegisterWindowMessageW(L"SH_UIMETRIC_CHANGE"), 0, 1);
+        EXPECT_EQ(Selected(page, IDC_FONT_SIZE), size ? L"11" : L"13");
+    }
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(StoredText(L"FontName"), L"Tahoma");
     EXPECT_EQ(Stored(L"FontHeight"), 13u);  // What 11 pixels of text take.
