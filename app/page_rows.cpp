@@ -77,7 +77,9 @@ std::int32_t PageRows::Edited(const PageControls& controls, std::size_t index) c
     const Row& row = rows_[index];
     const State& state = states_[index];
     switch (row.kind) {
-        case Row::Kind::kCheck: return controls.IsChecked(row.control) ? 1 : 0;
+        case Row::Kind::kCheck:
+            if (row.whileOff != Row::WhileOff::kShown && !state.enabled) return state.loaded;
+            return controls.IsChecked(row.control) ? 1 : 0;
         case Row::Kind::kInvertedCheck: return controls.IsChecked(row.control) ? 0 : 1;
         case Row::Kind::kIndex: {
             const int selection = controls.Selection(row.control);
@@ -99,7 +101,7 @@ void PageRows::Save(const PageControls& controls, PageValues& values,
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
         if (row.kind == Row::Kind::kNoValue) continue;
-        if (row.keptWhileOff && !states_[i].enabled) continue;
+        if (row.whileOff == Row::WhileOff::kKeptAndNotStored && !states_[i].enabled) continue;
         const std::int32_t number = Edited(controls, i);
         if (row.shared) {
             shared.*row.shared = number;
@@ -115,7 +117,7 @@ void PageRows::UpdateEnabled(PageControls& controls) {
         State& state = states_[i];
         if (!row.enabledBy) continue;
         const bool enabled = controls.IsChecked(row.enabledBy) == row.enablingState;
-        if (row.keptWhileOff && enabled != state.enabled) {
+        if (row.whileOff != Row::WhileOff::kShown && enabled != state.enabled) {
             if (!enabled) state.keptChecked = controls.IsChecked(row.control);
             controls.SetChecked(row.control, enabled && state.keptChecked);
         }

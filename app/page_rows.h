@@ -51,8 +51,10 @@ struct Row {
     const ValueLabel* choices = nullptr;
     int enabledBy = 0;          // the check box that enables the control; 0: always enabled
     bool enablingState = true;  // the state of that check box in which the control is enabled
-    bool keptWhileOff = false;  // a check box that shows empty while disabled and then comes back;
-                                // its value is not stored meanwhile
+    // What becomes of a check box while it is disabled. Both kinds of kept boxes show empty then,
+    // and come back with their mark; meanwhile the number as it was loaded is stored, or nothing.
+    enum class WhileOff { kShown, kKeptAndStored, kKeptAndNotStored };
+    WhileOff whileOff = WhileOff::kShown;
 
     constexpr Row EnabledBy(int checkBox) const {
         Row row = *this;
@@ -66,12 +68,13 @@ struct Row {
     }
     constexpr Row KeptWhileOff(int checkBox) const {
         Row row = EnabledBy(checkBox);
-        row.keptWhileOff = true;
+        row.whileOff = WhileOff::kKeptAndStored;
         return row;
     }
+    // Also, nothing of it is stored meanwhile.
     constexpr Row KeptWhileOn(int checkBox) const {
         Row row = DisabledBy(checkBox);
-        row.keptWhileOff = true;
+        row.whileOff = WhileOff::kKeptAndNotStored;
         return row;
     }
 };

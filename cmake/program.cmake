@@ -21,8 +21,10 @@ add_library(diary_models STATIC
   appearance/theme_colors.cpp
   pages/stores/database_layer.cpp
   pages/stores/database_record.cpp
+  pages/stores/handwriting.cpp
   pages/stores/mail2.cpp
   pages/stores/mail2_storage.cpp
+  pages/stores/note_folders.cpp
   pages/stores/read_settings_ini.cpp
   settings/device.cpp
   settings/diary_settings.cpp
@@ -58,6 +60,8 @@ add_executable(DiarySettings WIN32
   app/options_sheet.cpp
   app/single_instance.cpp
   appearance/folding_stripe.cpp
+  appearance/sample_list.cpp
+  controls/check_list.cpp
   controls/full_screen_dialog.cpp
   controls/preview_window.cpp
   controls/title_band.cpp
@@ -67,4 +71,4 @@ target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Releas
 target_link_libraries(DiarySettings PRIVATE
   diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
   inkx)
-add_dependencies(DiarySettings DiaryRes)
+add_dependencies(DiarySettings DiaryRes note_prj)

@@ -13,11 +13,13 @@ add_library(diary_pure STATIC
   appearance/icon_catalogue.cpp
   appearance/icon_grid.cpp
   appearance/icon_sources.cpp
+  appearance/note_label.cpp
   appearance/skin_list.cpp
   appearance/strip.cpp
   pages/stores/settings_ini.cpp
   settings/date_picture.cpp
   settings/display_pattern.cpp
+  settings/hidden_names.cpp
   settings/settings_file.cpp
   settings/tab_layout.cpp
 )

@@ -1,11 +1,7 @@
 #include "pages/general_group_style_page.h"
 
 #include "app/language_table.h"
-#include "appearance/folding_stripe.h"
-#include "appearance/fonts.h"
-#include "appearance/scale.h"
-#include "appearance/skin_art.h"
-#include "controls/owned_handle.h"
+#include "appearance/sample_list.h"
 
 namespace {
 
@@ -18,8 +14,6 @@ constexpr Row kRows[] = {
     rows::Index(IDC_DOUBLE_CLICK, &CDiarySettings::doubleClick),
     rows::Check(IDC_DOUBLE_TAP_SCROLL, &CDiarySettings::doubleTapOnScrollButton),
 };
-constexpr int kIconIndent = 3;
-constexpr int kTextIndent = 22;
 
 }  // namespace
 
@@ -35,28 +29,10 @@ void GeneralGroupStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     stripe.style = static_cast<StripeStyle>(Selection(IDC_STRIPE_STYLE));
     stripe.drawCounter = IsChecked(IDC_STRIPE_COUNTER);
     stripe.showCollapseIcon = IsChecked(IDC_STRIPE_COLLAPSE_ICON);
-    const int height = (item.rcItem.bottom - item.rcItem.top) / 3;
-    RECT row = item.rcItem;
-    row.bottom = row.top + height;
-    stripe.Draw(item.hDC, row, GetLanguageTable().LoadString(IDS_SAMPLE_GROUP), 1);
-
-    OffsetRect(&row, 0, height);
-    SkinArt& art = GetSkinArt();
-    if (art.LoadIcons() != SkinArt::kFailed) {
-        const SIZE icon = art.Icons()->PieceSize(static_cast<int>(ItemIcon::kAppointment));
-        art.DrawItemIcon(item.hDC, ItemIcon::kAppointment, row.left + ScaleX(kIconIndent),
-                         (row.top + row.bottom - icon.cy) / 2);
-    }
-    RECT place = row;
-    place.left += ScaleX(kTextIndent);
-    const std::wstring text = GetLanguageTable().LoadString(IDS_SAMPLE_APPOINTMENT);
-    {
-        const SelectedObject font(item.hDC, ListFont(FontStyle::kNormal));
-        SetTextColor(item.hDC, GetSysColor(COLOR_WINDOWTEXT));
-        DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &place,
-                  DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
-    }
+    SampleList list(item.hDC, item.rcItem, 3);
+    const LanguageTable& texts = GetLanguageTable();
+    list.AddGroup(texts.LoadString(IDS_SAMPLE_GROUP), 1, stripe);
+    list.AddItem(ItemIcon::kAppointment, texts.LoadString(IDS_SAMPLE_APPOINTMENT));
     if (IsChecked(IDC_STRIPE_HIDE_EMPTY)) return;
-    OffsetRect(&row, 0, height);
-    stripe.Draw(item.hDC, row, GetLanguageTable().LoadString(IDS_SAMPLE_EMPTY_GROUP), 0);
+    list.AddGroup(texts.LoadString(IDS_SAMPLE_EMPTY_GROUP), 0, stripe);
 }

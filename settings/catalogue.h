@@ -74,6 +74,13 @@ inline constexpr NumberSetting TaskCompletionMessage{L"Task_DisplayComplMsg", 1}
 inline constexpr NumberSetting TasksShowActiveTasks{L"TasksShowActiveTasks", 0};
 inline constexpr NumberSetting TasksShowCompletedTasks{L"TasksShowCompletedTasks", 0};
 
+// Notes: how they are grouped (a code), their order and what a tap does (indices). The hidden
+// folders are a text of a key of their own.
+inline constexpr NumberSetting NotesGroupBy{L"NotesGroupBy", 559};
+inline constexpr NumberSetting NoteSortOrder{L"NoteSortOrder", 1};
+inline constexpr NumberSetting NotesOneTap{L"NotesOneTap", 2};
+inline constexpr const wchar_t HiddenFolders[] = L"HiddenFolders";
+
 // Special events. Transactions default to what the device can show.
 inline constexpr NumberSetting SpecialShowBirthdays{L"SpecialShowBirthdays", 1};
 constexpr NumberSetting SpecialShowTransactions(bool financeProgramPresent) {

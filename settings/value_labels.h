@@ -51,6 +51,13 @@ inline constexpr ValueLabel kKeyboardSupport[] = {
     {0, 0},
 };
 
+inline constexpr ValueLabel kNoteGroupings[] = {
+    {501, IDS_NOTES_UNGROUPED},
+    {559, IDS_NOTES_BY_FOLDER},
+    {551, IDS_NOTES_BY_CATEGORY},
+    {0, 0},
+};
+
 // The plug-in counts the default period as 0, which stands fourth in the list.
 inline constexpr ValueLabel kSpecialPeriods[] = {
     {1, IDS_PERIOD_FIRST},     {2, IDS_PERIOD_FIRST + 1},

@@ -102,12 +102,13 @@ run_demo() { # OUTPUT
     say "Pictures of each step are in ${1#"$ROOT"/}"
 }
 
-# Entry, page and name of every page there is.
+# Entry, page and name of every page there is; and how many tabs to go on where a sheet always opens its first.
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
     "2:0 tasks_common"
+    "4:0 notes_common" "4:0 notes_filter 1"
     "6:0 special_events_common"
 )
 
@@ -125,10 +126,13 @@ run_gallery() { # OUTPUT
         await_window About
         take_picture "$1/$name/about.png"
         close_program
+        local place picture further
         for page in "${GALLERY_PAGES[@]}"; do
-            start_program "$STAGE" "-P${page%% *}"
+            read -r place picture further <<<"$page"
+            start_program "$STAGE" "-P$place"
             await_window '.* options'
-            take_picture "$1/$name/${page#* }.png"
+            for _ in $(seq "${further:-0}"); do xdotool key ctrl+Tab; done
+            take_picture "$1/$name/$picture.png"
             close_program
         done
         close_stage

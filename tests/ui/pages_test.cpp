@@ -140,6 +140,17 @@ const std::vector<Tab> kTabs = {
       {IDC_TASKS_ALL_CATEGORIES, kClick, L"ShowTasksInAllCategories", 0, 1},
       {IDC_TASKS_COMPLETED, kClick, L"TasksShowCompletedTasks", 0, 1},
       {IDC_TASKS_ACTIVE, kClick, L"TasksShowActiveTasks", 0, 1}}},
+    {4,
+     0,
+     L"Note options",
+     {{IDC_NOTES_GROUP_BY, 2, L"NotesGroupBy", 559, 551},
+      {IDC_NOTES_SORT, 0, L"NoteSortOrder", 1, 0},
+      {IDC_NOTES_ONE_TAP, 3, L"NotesOneTap", 2, 3},
+      {IDC_NOTES_SIZE, kClick, L"NoteDrawSize", 0, 1},
+      {IDC_NOTES_TIME, kClick, L"NoteDrawTime", 1, 0},
+      {IDC_NOTES_INDENT, kClick, L"NoteMakeIndent", 1, 0},
+      {IDC_NOTES_TYPE_FIRST, kClick, L"NotesType0Enabled", 1, 0},
+      {IDC_NOTES_TYPE_FIRST + 5, kClick, L"NotesType5Enabled", 1, 0}}},
     {6,
      0,
      L"Special event options",
@@ -270,6 +281,22 @@ TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
             }
         }
     }
+}
+
+TEST_F(Pages, HiddenNoteFolders) {
+    const std::wstring filters = std::wstring(kProductKey) + L"\\Filters";
+    CSettingsKey key(HKEY_LOCAL_MACHINE, filters.c_str(), true, true);
+    key.WriteString(L"HiddenFolders", L"gone|PERSONAL");
+    Program program(L"-P4:0");
+    const HWND sheet = program.Sheet(L"Note options");
+    TurnTo(sheet, 1);
+    const HWND list = GetDlgItem(Page(sheet, IDC_NOTES_FOLDERS), IDC_NOTES_FOLDERS);
+    ASSERT_TRUE(list);
+    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Business
+    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
+    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Personal
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(key.ReadString(L"HiddenFolders"), L"gone|business");
 }
 
 TEST_F(Pages, UnlistedNumbersShowNothingAndStay) {

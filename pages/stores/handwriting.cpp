@@ -1,0 +1,76 @@
+#include "pages/stores/handwriting.h"
+
+#include <windows.h>
+
+#include <string>
+
+#include "settings/settings_key.h"
+
+namespace {
+
+struct PhatNotesKey {
+    std::uint32_t version;
+    const wchar_t* path;
+};
+constexpr PhatNotesKey kPhatNotes[] = {
+    {0x405, L"Software\\PhatWare\\PhatNotes\\4.0\\Settings"},
+    {0x407, L"Software\\PhatWare\\PhatNotes\\Settings"},
+};
+constexpr wchar_t kViewLibrary[] = L"PhatPadViewCtl.dll";
+
+// The folder a program was installed in, with a backslash at its end; empty without its key.
+std::wstring InstallFolder(const wchar_t* path) {
+    CSettingsKey key(HKEY_CURRENT_USER, path, false, false);
+    if (!key.IsOpen()) return {};
+    std::wstring folder = key.ReadString(L"InstPath", L"\\Program Files\\PhatPad\\");
+    if (folder.empty() || folder.back() != L'\\') folder += L'\\';
+    return folder;
+}
+
+HMODULE LoadFrom(const std::wstring& folder, const std::wstring& otherFolder,
+                 const wchar_t* library) {
+    HMODULE module = nullptr;
+    for (const std::wstring& place : {folder, otherFolder}) {
+        if (!module && !place.empty()) module = LoadLibraryW((place + library).c_str());
+    }
+    return module;
+}
+
+bool IsFile(const std::wstring& folder, const wchar_t* name) {
+    return !folder.empty() &&
+           GetFileAttributesW((folder + name).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// The view library leaves its window classes behind, which would keep its code from being loaded
+// anew elsewhere.
+void UnloadViews(HMODULE views) {
+    FreeLibrary(views);
+    if (GetModuleHandleW(kViewLibrary)) return;
+    for (const wchar_t* name : {L"PW_FileViewClass", L"PW_PageBrowserClass"}) {
+        UnregisterClassW(name, GetModuleHandleW(nullptr));
+    }
+}
+
+}  // namespace
+
+std::uint32_t PhatNotesVersion() {
+    for (const PhatNotesKey& key : kPhatNotes) {
+        if (CSettingsKey(HKEY_CURRENT_USER, key.path, false, false).IsOpen()) return key.version;
+    }
+    return 0;
+}
+
+bool IsPhatPadPresent() {
+    const std::wstring pad = InstallFolder(L"Software\\PhatWare\\PhatPad");
+    const std::wstring viewer = InstallFolder(L"Software\\PhatWare\\PhatPad Viewer");
+    if (pad.empty() && viewer.empty()) return false;
+    const HMODULE control = LoadFrom(pad, viewer, L"PhatPadCtl.dll");
+    const bool installed = IsFile(pad, L"PhatPad.exe") || IsFile(viewer, L"PhatPadViewer.exe");
+    bool present = false;
+    if (const HMODULE views = LoadFrom(pad, viewer, kViewLibrary)) {
+        present = installed && GetProcAddress(views, L"PhatPad_CreateView") != nullptr;
+        UnloadViews(views);
+    }
+    if (control) FreeLibrary(control);
+    return present;
+}

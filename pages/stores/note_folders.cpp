@@ -1,0 +1,36 @@
+#include "pages/stores/note_folders.h"
+
+#include <projects.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr WORD kEnumProjectsEx = 21;  // By its ordinal.
+
+BOOL CALLBACK AddFolder(PAstruct* project, LPARAM context) {
+    auto& names = *reinterpret_cast<std::vector<std::wstring>*>(context);
+    if (project->m_IDtype == FILE_ID_TYPE_PATHNAME) {
+        names.emplace_back(project->m_szPathname,
+                           wcsnlen(project->m_szPathname, std::size(project->m_szPathname)));
+    }
+    return TRUE;
+}
+
+}  // namespace
+
+std::vector<std::wstring> NoteFolders() {
+    std::vector<std::wstring> names;
+    const HMODULE library = LoadLibraryW(L"Note_prj.dll");
+    if (!library) return names;
+    using Enumerate = decltype(&EnumProjectsEx);
+    if (const auto enumerate = reinterpret_cast<Enumerate>(
+            reinterpret_cast<void*>(GetProcAddress(library, MAKEINTRESOURCEW(kEnumProjectsEx))))) {
+        enumerate(AddFolder, 0, PRJ_ENUM_ALL_DEVICES, reinterpret_cast<LPARAM>(&names));
+    }
+    FreeLibrary(library);
+    std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
+        return _wcsicmp(a.c_str(), b.c_str()) < 0;
+    });
+    return names;
+}

@@ -1,0 +1,51 @@
+// What the device says of notes: their folders and the programs that write them by hand.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "pages/stores/handwriting.h"
+#include "pages/stores/note_folders.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+TEST(Notes, FoldersAreSortedByName) {
+    for (const wchar_t* const name : {L"zebra", L"Apple", L"apricot"}) {
+        CreateDirectoryW((std::wstring(L"\\My Documents\\") + name).c_str(), nullptr);
+    }
+    const std::vector<std::wstring> folders = NoteFolders();
+    ASSERT_GE(folders.size(), 3u);
+    EXPECT_EQ(folders[0], L"Apple");
+    EXPECT_EQ(folders[1], L"apricot");
+    EXPECT_EQ(folders.back(), L"zebra");
+}
+
+TEST(Notes, HandwritingPrograms) {
+    const auto make = [](const wchar_t* path) {
+        return CSettingsKey(HKEY_CURRENT_USER, path, true, false);
+    };
+    EXPECT_EQ(PhatNotesVersion(), 0u);
+    make(L"Software\\PhatWare\\PhatNotes\\Settings");
+    EXPECT_EQ(PhatNotesVersion(), 0x407u);
+    make(L"Software\\PhatWare\\PhatNotes\\4.0\\Settings");
+    EXPECT_EQ(PhatNotesVersion(), 0x405u);
+
+    EXPECT_FALSE(IsPhatPadPresent());
+    CreateDirectoryW(L"\\Viewer", nullptr);
+    make(L"Software\\PhatWare\\PhatPad Viewer").WriteString(L"InstPath", L"\\Viewer");
+    CloseHandle(CreateFileW(L"\\Viewer\\PhatPadViewer.exe", GENERIC_WRITE, 0, nullptr,
+                            CREATE_ALWAYS, 0, nullptr));
+    EXPECT_FALSE(IsPhatPadPresent()) << "its library is not there";
+    wchar_t program[MAX_PATH];
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    std::wstring library = program;
+    library = library.substr(0, library.rfind(L'\\')) + L"\\phatpad_view.dll";
+    ASSERT_TRUE(CopyFileW(library.c_str(), L"\\Viewer\\PhatPadViewCtl.dll", FALSE));
+    EXPECT_TRUE(IsPhatPadPresent());
+    EXPECT_EQ(GetModuleHandleW(L"PhatPadViewCtl.dll"), nullptr) << "still loaded";
+    DeleteFileW(L"\\Viewer\\PhatPadViewer.exe");
+    EXPECT_FALSE(IsPhatPadPresent());
+    DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\PhatWare");
+}
+
+}  // namespace
