@@ -9,6 +9,8 @@
 #include "pages/calendar_common_page.h"
 #include "pages/calendar_show_page.h"
 #include "pages/calendar_tasks_page.h"
+#include "pages/calendar_titles_page.h"
+#include "pages/flag_icons_page.h"
 #include "pages/general_auto_return_page.h"
 #include "pages/general_common_page.h"
 #include "pages/general_font_page.h"
@@ -21,6 +23,8 @@
 #include "pages/notes_filter_page.h"
 #include "pages/special_events_common_page.h"
 #include "pages/tasks_common_page.h"
+#include "pages/tasks_view_style_page.h"
+#include "pages/title_draft.h"
 #include "resources/ids.h"
 
 namespace {
@@ -39,8 +43,13 @@ constexpr MainEntry::PageFactory kCalendarPages[] = {
     Make<CalendarCommonPage>,
     Make<CalendarShowPage>,
     Make<CalendarTasksPage>,
+    Make<CalendarTitlesPage>,
 };
-constexpr MainEntry::PageFactory kTasksPages[] = {Make<TasksCommonPage>};
+constexpr MainEntry::PageFactory kTasksPages[] = {
+    Make<TasksCommonPage>,
+    Make<TasksViewStylePage>,
+    Make<TasksIconsPage>,
+};
 constexpr MainEntry::PageFactory kNotesPages[] = {Make<NotesCommonPage>, Make<NotesFilterPage>};
 constexpr MainEntry::PageFactory kSpecialEventsPages[] = {Make<SpecialEventsCommonPage>};
 
@@ -66,6 +75,7 @@ std::span<const MainEntry> MainEntries() { return kEntries; }
 bool OpenEntry(WPARAM entry, LPARAM page) {
     if (entry >= std::size(kEntries) || kEntries[entry].pages.empty()) return false;
     const MainEntry& row = kEntries[entry];
+    ForgetTitleDraft();
     std::vector<std::unique_ptr<OptionsPage>> pages;  // Outlive the sheet.
     OptionsSheet sheet(GetLanguageTable().LoadString(row.caption));
     for (const MainEntry::PageFactory make : row.pages) {

@@ -1,5 +1,8 @@
 #include "appearance/sample_list.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "appearance/fonts.h"
 #include "appearance/scale.h"
 #include "appearance/skin_art.h"
@@ -11,7 +14,24 @@ constexpr int kIconLeft = 3;
 constexpr int kTextLeft = 22;
 constexpr int kIndent = 10;
 constexpr int kRight = 3;
+constexpr int kGap = 2;  // beside the subject
+// The modes of a title pattern that show more than one line.
+constexpr std::int32_t kWholeSubjectOfSelected = 1;
+constexpr std::int32_t kWholeSubject = 2;
 constexpr UINT kText = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX;
+
+std::optional<ItemIcon> IconOf(wchar_t field) {
+    switch (field) {
+        case L'p': return ItemIcon::kImportanceHigh;
+        case L'n': return ItemIcon::kNote;
+        case L'r': return ItemIcon::kReminder;
+        case L'q': return ItemIcon::kRecurrence;
+        case L's': return ItemIcon::kPrivate;
+        case L'c': return ItemIcon::kCategory;
+        case L'a': return ItemIcon::kAttendees;
+    }
+    return std::nullopt;
+}
 
 }  // namespace
 
@@ -20,12 +40,21 @@ SampleList::SampleList(HDC dc, const RECT& area, int rows)
     SetBkMode(dc, TRANSPARENT);
 }
 
-bool SampleList::NextRow(RECT& row) {
+bool SampleList::NextRow(RECT& row, int lines) {
     const LONG top = area_.top + next_ * rowHeight_;
-    row = {area_.left, top, area_.right, top + rowHeight_};
+    row = {area_.left, top, area_.right, top + lines * rowHeight_};
     if (row.bottom > area_.bottom) return false;
-    ++next_;
+    next_ += lines;
     return true;
+}
+
+// Centred in the first line of `row`; returns the icon's width.
+int SampleList::DrawIcon(ItemIcon icon, int x, const RECT& row) const {
+    SkinArt& art = GetSkinArt();
+    if (art.LoadIcons() == SkinArt::kFailed) return 0;
+    const SIZE size = art.Icons()->PieceSize(static_cast<int>(icon));
+    art.DrawItemIcon(dc_, icon, x, row.top + (rowHeight_ - size.cy) / 2);
+    return size.cx;
 }
 
 void SampleList::AddGroup(const std::wstring& title, int count, const FoldingStripe& stripe) {
@@ -37,12 +66,7 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
     RECT row;
     if (!NextRow(row)) return;
     if (indented_) row.left += ScaleX(kIndent);
-    SkinArt& art = GetSkinArt();
-    if (art.LoadIcons() != SkinArt::kFailed) {
-        const SIZE size = art.Icons()->PieceSize(static_cast<int>(icon));
-        art.DrawItemIcon(dc_, icon, row.left + ScaleX(kIconLeft),
-                         (row.top + row.bottom - size.cy) / 2);
-    }
+    DrawIcon(icon, row.left + ScaleX(kIconLeft), row);
     row.left += ScaleX(kTextLeft);
     row.right -= ScaleX(kRight);
     const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
@@ -55,4 +79,38 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
         row.right -= measured.right + ScaleX(kRight);
     }
     DrawTextW(dc_, text.c_str(), static_cast<int>(text.size()), &row, kText);
+}
+
+void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
+                          bool selected) {
+    const bool whole =
+        pattern.mode == kWholeSubject || (pattern.mode == kWholeSubjectOfSelected && selected);
+    RECT row;
+    if (!NextRow(row, whole ? 2 : 1)) return;
+    if (selected) FillRect(dc_, &row, GetSysColorBrush(COLOR_HIGHLIGHT));
+    if (indented_) row.left += ScaleX(kIndent);
+    DrawIcon(icon, row.left + ScaleX(kIconLeft), row);
+    row.left += ScaleX(kTextLeft);
+    row.right -= ScaleX(kRight);
+    for (const wchar_t letter : pattern.before) {
+        if (const auto field = IconOf(letter)) row.left += DrawIcon(*field, row.left, row);
+    }
+    // Behind the subject where it ends, or at the right edge behind a long one.
+    const auto icons = static_cast<int>(std::ranges::count_if(
+        pattern.after, [](wchar_t letter) { return IconOf(letter).has_value(); }));
+    SkinArt& art = GetSkinArt();
+    const int iconWidth = art.Icons() ? static_cast<int>(art.Icons()->PieceSize(0).cx) : 0;
+    RECT text = row;
+    text.left += ScaleX(kGap);
+    text.right -= icons * iconWidth + ScaleX(kGap);
+    const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
+    SetTextColor(dc_, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    const int length = static_cast<int>(subject.size());
+    RECT measured = text;
+    DrawTextW(dc_, subject.c_str(), length, &measured, kText | DT_CALCRECT);
+    DrawTextW(dc_, subject.c_str(), length, &text, whole ? DT_WORDBREAK | DT_NOPREFIX : kText);
+    int x = static_cast<int>(std::min(measured.right, text.right)) + ScaleX(kGap);
+    for (const wchar_t letter : pattern.after) {
+        if (const auto field = IconOf(letter)) x += DrawIcon(*field, x, row);
+    }
 }

@@ -6,6 +6,7 @@
 
 #include "appearance/folding_stripe.h"
 #include "appearance/item_icons.h"
+#include "settings/title_fields.h"
 
 // Paints a few sample lines as the diary would show them: headings of groups, and items with the
 // skin's icons in the list's font. What does not fit is left out.
@@ -17,12 +18,17 @@ class SampleList {
     void AddGroup(const std::wstring& title, int count, const FoldingStripe& stripe = {});
     // `details` stand at the right.
     void AddItem(ItemIcon icon, const std::wstring& text, const std::wstring& details = {});
+    // An item with the fields of its title: those before the subject, the subject, those behind.
+    // The subject takes one line, or two where its mode says so of this item.
+    void AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
+                  bool selected);
     // Whether the items that follow stand indented below their group.
     void SetIndented(bool indented) { indented_ = indented; }
 
   private:
-    // The next line; false when there is no room for it.
-    bool NextRow(RECT& row);
+    // The next lines; false when there is no room for them.
+    bool NextRow(RECT& row, int lines = 1);
+    int DrawIcon(ItemIcon icon, int x, const RECT& row) const;
 
     HDC dc_;
     RECT area_;

@@ -22,6 +22,7 @@ add_library(diary_pure STATIC
   settings/hidden_names.cpp
   settings/settings_file.cpp
   settings/tab_layout.cpp
+  settings/title_fields.cpp
 )
 target_include_directories(diary_pure PUBLIC ${CMAKE_SOURCE_DIR})
 target_link_libraries(diary_pure PRIVATE diary_warnings)

@@ -1,5 +1,6 @@
 #include "pages/tasks_common_page.h"
 
+#include "pages/title_draft.h"
 #include "resources/ids.h"
 
 namespace {
@@ -18,10 +19,18 @@ TasksCommonPage::TasksCommonPage()
 
 // The way the subject is shown is the digit of the tasks' title pattern.
 void TasksCommonPage::OnLoad(PageValues&) {
-    FillChoices(*this, IDC_TASK_SUBJECT, kSubjectModes, GetDiarySettings().taskPattern.mode);
+    FillChoices(*this, IDC_TASK_SUBJECT, kSubjectModes, GetTitleDraft().task.mode);
+}
+
+bool TasksCommonPage::OnCommand(int id, int code) {
+    std::int32_t& mode = GetTitleDraft().task.mode;
+    if (id == IDC_TASK_SUBJECT && code == CBN_SELCHANGE) {
+        mode = ChosenValue(*this, IDC_TASK_SUBJECT, mode);
+    }
+    return OptionsPage::OnCommand(id, code);
 }
 
 void TasksCommonPage::OnSave(PageValues&) {
-    std::int32_t& mode = GetDiarySettings().taskPattern.mode;
-    mode = ChosenValue(*this, IDC_TASK_SUBJECT, mode);
+    GetTitleDraft().task.mode = ChosenValue(*this, IDC_TASK_SUBJECT, 0);
+    StoreTitleDraft();
 }

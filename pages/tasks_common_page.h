@@ -9,5 +9,6 @@ class TasksCommonPage : public OptionsPage {
 
   protected:
     void OnLoad(PageValues& values) override;
+    bool OnCommand(int id, int code) override;
     void OnSave(PageValues& values) override;
 };

@@ -69,6 +69,8 @@ inline constexpr NumberSetting CalendarShowOverdueTasks{L"CalendarShowOverdueTas
 inline constexpr NumberSetting CalendarShowCompletedTasks{L"CalendarShowCompletedTasks", 0};
 inline constexpr NumberSetting CalendarShowUndatedTasks{L"CalendarShowUndatedTasks", 0};
 
+inline constexpr NumberSetting TimeSpanNewStyle{L"TimeSpanNewStyle", 0};
+
 // Tasks.
 inline constexpr NumberSetting TaskCompletionMessage{L"Task_DisplayComplMsg", 1};
 inline constexpr NumberSetting TasksShowActiveTasks{L"TasksShowActiveTasks", 0};

@@ -106,8 +106,8 @@ run_demo() { # OUTPUT
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
-    "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
-    "2:0 tasks_common"
+    "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks" "1:3 calendar_titles"
+    "2:0 tasks_common" "2:1 tasks_view_style" "2:2 tasks_icons"
     "4:0 notes_common" "4:0 notes_filter 1"
     "6:0 special_events_common"
 )

@@ -133,6 +133,20 @@ const std::vector<Tab> kTabs = {
       {IDC_SHOW_OVERDUE_TASKS, kClick, L"CalendarShowOverdueTasks", 1, 0},
       {IDC_SHOW_COMPLETED_TASKS, kClick, L"CalendarShowCompletedTasks", 0, 1},
       {IDC_TASK_PLACEMENT, 1, L"App_TaskShowMultiday", 3, 1}}},
+    {1,
+     3,
+     L"Calendar options",
+     {{IDC_APP_SUBJECT_STYLE, 1, L"App_SubjectStyle", 3, 1},
+      {IDC_APP_LOCATION, kClick, L"App_Location", 1, 0},
+      {IDC_APP_START_ONLY, kClick, L"App_StartOnly", 0, 1},
+      {IDC_APP_STATUS_BAR, kClick, L"App_StatusBar", 1, 0},
+      {IDC_APP_INDENT, kClick, L"App_MakeDateIndent", 1, 0},
+      {IDC_TIME_SPAN_NEW_STYLE, kClick, L"TimeSpanNewStyle", 0, 1}}},
+    {2,
+     1,
+     L"Task options",
+     {{IDC_TASK_CHECKBOX, kClick, L"Task_ShowCheckbox", 1, 0},
+      {IDC_TASK_INDENT, kClick, L"Task_MakeDateIndent", 1, 0}}},
     {2,
      0,
      L"Task options",
@@ -174,7 +188,7 @@ TEST_F(Pages, EveryControlIsStored) {
                 Select(page, row.control, row.select);
             }
         }
-        if (tab.entry == 2) {
+        if (tab.entry == 2 && tab.page == 0) {
             EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Whole subject for selected");
             Select(page, IDC_TASK_SUBJECT, 0);
         }
@@ -281,6 +295,49 @@ TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
             }
         }
     }
+}
+
+// All pages of a sheet edit the same title patterns; letters that stand for nothing stay.
+TEST_F(Pages, TitlePatternsAreOneOverASheet) {
+    OpenProductKey().WriteString(L"CurTaskPattern", L"px3nq");
+    Program program(L"-P2:1");
+    HWND sheet = program.Sheet(L"Task options");
+    const HWND titles = Page(sheet, IDC_TASK_CHECKBOX);
+    const HWND list = GetDlgItem(titles, IDC_TITLE_FIELDS);
+    ASSERT_TRUE(list);
+    SendMessageW(list, WM_KEYDOWN, VK_RIGHT, 0);  // Importance behind the subject.
+    TurnTo(sheet, 2);
+    const HWND icons = Page(sheet, IDC_FLAG_NOTE);
+    ASSERT_TRUE(icons);
+    EXPECT_TRUE(IsChecked(icons, IDC_FLAG_LOW_PRIORITY) && !IsChecked(icons, IDC_FLAG_PRIVATE));
+    Click(icons, IDC_FLAG_NOTE);
+    Click(icons, IDC_FLAG_PRIVATE);
+    TurnTo(sheet, 0);
+    const HWND common = Page(sheet, IDC_TASK_SUBJECT);
+    ASSERT_TRUE(common);
+    Select(common, IDC_TASK_SUBJECT, 0);
+    TurnTo(sheet, 1);
+    ASSERT_TRUE(Until([&] { return IsWindowVisible(list); }));
+    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // The subject, which cannot be left out.
+    Click(titles, IDC_TITLE_DOWN);
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"px2qs");
+
+    program.Open(2, 1);
+    sheet = program.Sheet(L"Task options");
+    Click(Page(sheet, IDC_TASK_CHECKBOX), IDC_TITLE_DOWN);
+    ASSERT_TRUE(Cancel(sheet));
+    program.Open(1, 3);
+    sheet = program.Sheet(L"Calendar options");
+    const HWND calendar = Page(sheet, IDC_TITLE_LIST);
+    ASSERT_TRUE(calendar);
+    Select(calendar, IDC_TITLE_LIST, 2);
+    EXPECT_EQ(Selected(calendar, IDC_TITLE_MODE), L"Whole subject for selected");
+    Select(calendar, IDC_TITLE_MODE, 2);
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"px2qs") << "the cancelled change came back";
+    EXPECT_EQ(StoredText(L"CurAppPattern"), L"n3rqsca");
+    EXPECT_EQ(StoredText(L"CurContactPattern"), L"c3n");
 }
 
 TEST_F(Pages, HiddenNoteFolders) {

@@ -1,0 +1,92 @@
+#include "pages/calendar_titles_page.h"
+
+#include "app/language_table.h"
+#include "appearance/sample_list.h"
+#include "pages/title_draft.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Index(IDC_APP_SUBJECT_STYLE, &CDiarySettings::appointmentSubjectStyle),
+    rows::Check(IDC_APP_LOCATION, &CDiarySettings::appointmentLocation),
+    rows::Check(IDC_APP_START_ONLY, &CDiarySettings::startTimeOnly),
+    rows::Check(IDC_APP_STATUS_BAR, &CDiarySettings::statusBar),
+    rows::Check(IDC_APP_INDENT, &CDiarySettings::appointmentIndent),
+    rows::Check(IDC_TIME_SPAN_NEW_STYLE, settings::TimeSpanNewStyle),
+};
+
+// The lists whose titles can be edited, in the order of the drop-down.
+struct TitledList {
+    unsigned label;
+    ItemIcon icon;
+    DisplayPattern TitleDraft::*pattern;
+};
+constexpr TitledList kLists[] = {
+    {IDS_VIEW_CALENDAR, ItemIcon::kAppointment, &TitleDraft::appointment},
+    {IDS_VIEW_TASKS, ItemIcon::kTaskOpen, &TitleDraft::task},
+    {IDS_VIEW_CONTACTS, ItemIcon::kContact, &TitleDraft::contact},
+};
+
+}  // namespace
+
+CalendarTitlesPage::CalendarTitlesPage()
+    : OptionsPage(IDD_CALENDAR_TITLES, L"calendar_titles", {std::begin(kRows), std::end(kRows)}) {}
+
+void CalendarTitlesPage::OnLoad(PageValues&) {
+    for (const TitledList& list : kLists) AddItem(IDC_TITLE_LIST, list.label, 0);
+    SetSelection(IDC_TITLE_LIST, 0);
+    FillChoices(*this, IDC_TITLE_MODE, kSubjectModes, Edited().mode);
+    editor_.Attach(hwnd());
+    ShowEdited();
+}
+
+DisplayPattern& CalendarTitlesPage::Edited() const {
+    return GetTitleDraft().*kLists[Selection(IDC_TITLE_LIST)].pattern;
+}
+
+// An unknown mode shows as none, and stays unless another is chosen.
+void CalendarTitlesPage::ShowEdited() {
+    SetSelection(IDC_TITLE_MODE, -1);
+    for (int i = 0; kSubjectModes[i].label; ++i) {
+        if (kSubjectModes[i].value == Edited().mode) SetSelection(IDC_TITLE_MODE, i);
+    }
+    editor_.Show(Edited());
+    OnUpdate();
+}
+
+bool CalendarTitlesPage::OnCommand(int id, int code) {
+    if (code == CBN_SELCHANGE && id == IDC_TITLE_LIST) ShowEdited();
+    if (code == CBN_SELCHANGE && id == IDC_TITLE_MODE) {
+        Edited().mode = ChosenValue(*this, IDC_TITLE_MODE, Edited().mode);
+    }
+    editor_.OnCommand(id, code);
+    return OptionsPage::OnCommand(id, code);
+}
+
+std::optional<INT_PTR> CalendarTitlesPage::OnControlNotification(const NMHDR& header) {
+    if (editor_.OnNotify(header)) OnUpdate();
+    return std::nullopt;
+}
+
+void CalendarTitlesPage::OnUpdate() { InvalidateRect(Item(IDC_TITLE_PREVIEW), nullptr, TRUE); }
+
+void CalendarTitlesPage::OnSave(PageValues&) { StoreTitleDraft(); }
+
+void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    const TitledList& shown = kLists[Selection(IDC_TITLE_LIST)];
+    SampleList list(item.hDC, item.rcItem, 3);
+    list.SetIndented(shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_INDENT));
+    const LanguageTable& texts = GetLanguageTable();
+    if (shown.icon == ItemIcon::kContact) {
+        list.AddTitle(shown.icon, Edited(), texts.LoadString(IDS_SAMPLE_CONTACT), true);
+        return;
+    }
+    const bool place = shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_LOCATION);
+    const auto subject = [&](unsigned id) {
+        const std::wstring text = texts.LoadString(id);
+        return place ? text + L" (" + texts.LoadString(IDS_SAMPLE_PLACE) + L")" : text;
+    };
+    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_LONG_SUBJECT), true);
+    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_APPOINTMENT), false);
+}
