@@ -39,7 +39,7 @@ void Shade(HDC dc, const RECT& area) {
 }  // namespace
 
 void FoldingStripe::Draw(HDC dc, const RECT& area, const std::wstring& title, int count) const {
-    COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
+    COLORREF text = GetTextColor(dc);
     switch (style) {
         case StripeStyle::kPlain: break;
         case StripeStyle::kLine:

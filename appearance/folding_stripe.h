@@ -13,6 +13,7 @@ struct FoldingStripe {
     bool drawCounter = true;
     bool showCollapseIcon = true;
 
-    // Draws the heading of an unfolded group of `count` items, its mark being the skin's.
+    // Draws the heading of an unfolded group of `count` items, its mark being the skin's, in the
+    // text colour of `dc` where the style has none of its own.
     void Draw(HDC dc, const RECT& area, const std::wstring& title, int count) const;
 };

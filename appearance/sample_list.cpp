@@ -6,6 +6,8 @@
 #include "appearance/fonts.h"
 #include "appearance/scale.h"
 #include "appearance/skin_art.h"
+#include "appearance/theme_colors.h"
+#include "appearance/today_background.h"
 #include "controls/owned_handle.h"
 
 namespace {
@@ -38,6 +40,8 @@ std::optional<ItemIcon> IconOf(wchar_t field) {
 SampleList::SampleList(HDC dc, const RECT& area, int rows)
     : dc_(dc), area_(area), rowHeight_(static_cast<int>(area.bottom - area.top) / rows) {
     SetBkMode(dc, TRANSPARENT);
+    PaintTodayBackground(dc, area);
+    textColor_ = GetTextColor(dc);
 }
 
 bool SampleList::NextRow(RECT& row, int lines) {
@@ -59,7 +63,9 @@ int SampleList::DrawIcon(ItemIcon icon, int x, const RECT& row) const {
 
 void SampleList::AddGroup(const std::wstring& title, int count, const FoldingStripe& stripe) {
     RECT row;
-    if (NextRow(row)) stripe.Draw(dc_, row, title, count);
+    if (!NextRow(row)) return;
+    SetTextColor(dc_, textColor_);
+    stripe.Draw(dc_, row, title, count);
 }
 
 void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wstring& details) {
@@ -70,7 +76,7 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
     row.left += ScaleX(kTextLeft);
     row.right -= ScaleX(kRight);
     const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
-    SetTextColor(dc_, GetSysColor(COLOR_WINDOWTEXT));
+    SetTextColor(dc_, textColor_);
     if (!details.empty()) {
         RECT measured = {};
         const int length = static_cast<int>(details.size());
@@ -87,7 +93,8 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
         pattern.mode == kWholeSubject || (pattern.mode == kWholeSubjectOfSelected && selected);
     RECT row;
     if (!NextRow(row, whole ? 2 : 1)) return;
-    if (selected) FillRect(dc_, &row, GetSysColorBrush(COLOR_HIGHLIGHT));
+    ThemeColors& theme = GetThemeColors();
+    if (selected) FillRect(dc_, &row, theme.GetBrush(ThemeColor::kHighlight));
     if (indented_) row.left += ScaleX(kIndent);
     DrawIcon(icon, row.left + ScaleX(kIconLeft), row);
     row.left += ScaleX(kTextLeft);
@@ -104,7 +111,7 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
     text.left += ScaleX(kGap);
     text.right -= icons * iconWidth + ScaleX(kGap);
     const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
-    SetTextColor(dc_, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    SetTextColor(dc_, selected ? theme.GetColor(ThemeColor::kHighlightedText) : textColor_);
     const int length = static_cast<int>(subject.size());
     RECT measured = text;
     DrawTextW(dc_, subject.c_str(), length, &measured, kText | DT_CALCRECT);

@@ -8,8 +8,8 @@
 #include "appearance/item_icons.h"
 #include "settings/title_fields.h"
 
-// Paints a few sample lines as the diary would show them: headings of groups, and items with the
-// skin's icons in the list's font. What does not fit is left out.
+// Paints a few sample lines as the diary would show them on the Today screen: headings of groups,
+// and items with the skin's icons in the list's font. What does not fit is left out.
 class SampleList {
   public:
     // `rows` lines share the height of `area`.
@@ -33,6 +33,7 @@ class SampleList {
     HDC dc_;
     RECT area_;
     int rowHeight_;
+    COLORREF textColor_;
     int next_ = 0;
     bool indented_ = false;
 };

@@ -61,6 +61,7 @@ add_executable(DiarySettings WIN32
   app/single_instance.cpp
   appearance/folding_stripe.cpp
   appearance/sample_list.cpp
+  appearance/today_background.cpp
   controls/check_list.cpp
   controls/full_screen_dialog.cpp
   controls/preview_window.cpp

@@ -1,6 +1,7 @@
 #include "pages/calendar_common_page.h"
 
 #include "resources/ids.h"
+#include "settings/device.h"
 
 namespace {
 
@@ -19,3 +20,8 @@ constexpr Row kRows[] = {
 
 CalendarCommonPage::CalendarCommonPage()
     : OptionsPage(IDD_CALENDAR_COMMON, L"calendar_common", {std::begin(kRows), std::end(kRows)}) {}
+
+// Without the sibling plug-in there is no weather to group.
+void CalendarCommonPage::OnLoad(PageValues&) {
+    Enable(IDC_GROUP_WEATHER, IsWeatherPluginRegistered());
+}

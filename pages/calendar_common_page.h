@@ -6,4 +6,7 @@
 class CalendarCommonPage : public OptionsPage {
   public:
     CalendarCommonPage();
+
+  protected:
+    void OnLoad(PageValues& values) override;
 };

@@ -8,6 +8,7 @@
 #include "appearance/folding_stripe.h"
 #include "appearance/scale.h"
 #include "appearance/skin_art.h"
+#include "appearance/today_background.h"
 #include "resources/ids.h"
 
 namespace {
@@ -54,14 +55,18 @@ int PaintTabs(HDC dc, const RECT& rect, int selected) {
 }
 
 void PaintItem(HDC dc, const RECT& row, const SampleItem& item, bool selected) {
-    if (selected) Fill(dc, row, COLOR_HIGHLIGHT);
-    SetTextColor(dc, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    const COLORREF textColor = GetTextColor(dc);
+    if (selected) {
+        Fill(dc, row, COLOR_HIGHLIGHT);
+        SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHTTEXT));
+    }
     SkinArt& art = GetSkinArt();
     if (art.LoadIcons() == SkinArt::kFailed) return;
     const SIZE icon = art.Icons()->PieceSize(static_cast<int>(item.icon));
     art.DrawItemIcon(dc, item.icon, row.left + ScaleX(kTextGap),
                      (row.top + row.bottom - icon.cy) / 2);
     DrawLabel(dc, row, GetLanguageTable().LoadString(item.text));
+    SetTextColor(dc, textColor);
     int x = row.right;
     for (const SkinIcon mark : item.marks) {
         x -= icon.cx + ScaleX(kIconGap);
@@ -112,9 +117,8 @@ void PaintSampleList(HDC dc, const RECT& rect) {
         {IDS_SAMPLE_BIRTHDAY, ItemIcon::kBirthday, {SkinIcon::kPrivate}},
         {IDS_SAMPLE_MESSAGE, ItemIcon::kMessageUnread, {}},
     };
-    Fill(dc, rect, COLOR_WINDOW);
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    PaintTodayBackground(dc, rect);
     RECT row = rect;
     row.top = PaintTabs(dc, rect, 0);
     SkinArt& art = GetSkinArt();

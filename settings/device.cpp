@@ -61,6 +61,12 @@ bool IsAgendaOnePresent() {
     return HasText(L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath");
 }
 
+bool IsWeatherPluginRegistered() {
+    return CSettingsKey(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Today\\Items\\\"Lum Weather\"",
+                        false, false)
+        .IsOpen();
+}
+
 bool IsEarlyPocketPc() { return Version().major == 3; }
 
 bool HasTodayHighlight() {

@@ -13,6 +13,9 @@ bool IsAgendaFusionPresent();
 bool IsPocketInformantPresent();
 bool IsAgendaOnePresent();
 
+// Whether the sibling plug-in that shows the weather is registered with the Today screen.
+bool IsWeatherPluginRegistered();
+
 // A Pocket PC of the first kind, with system version 3.
 bool IsEarlyPocketPc();
 

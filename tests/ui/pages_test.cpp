@@ -174,6 +174,8 @@ const std::vector<Tab> kTabs = {
 
 // Every control is changed from its default.
 TEST_F(Pages, EveryControlIsStored) {
+    const CSettingsKey weather(HKEY_LOCAL_MACHINE,
+                               L"SOFTWARE\\Microsoft\\Today\\Items\\\"Lum Weather\"", true, false);
     OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
     Program program;
     for (const Tab& tab : kTabs) {
