@@ -126,21 +126,6 @@ TEST(MenuBar, AnswersAsAToolBar) {
     EXPECT_FALSE(SendMessageW(bar, TB_GETBUTTON, 2, reinterpret_cast<LPARAM>(&buttons[0])));
 }
 
-TEST(MenuBar, SendsCommandsAndOpensMenusForItsWindow) {
-    const Frame frame;
-    const HWND bar = frame.CreateMenuBar(SHCMBF_HMENU);
-    const int width = GetSystemMetrics(SM_CXSCREEN);
-    Click(bar, width - 10, 5);
-    EXPECT_EQ(frame.commands, std::vector<int>{202});
-    Frame::openedMenu = nullptr;
-    Click(bar, 10, 5);
-    EXPECT_EQ(reinterpret_cast<LRESULT>(Frame::openedMenu),
-              SendMessageW(bar, SHCMBM_GETSUBMENU, 0, 0xF000));
-    EnableWindow(frame.hwnd(), FALSE);
-    Click(bar, width - 10, 5);
-    EXPECT_EQ(frame.commands.size(), 1u);
-}
-
 TEST(MenuBar, ShowsWithItsWindowAndDiesWithIt) {
     HWND bar = nullptr;
     {
@@ -179,32 +164,6 @@ TEST(NavigationBar, ItsOkButtonServesTheActiveWindow) {
     EXPECT_TRUE(SHDoneButton(frame.hwnd(), SHDB_HIDE));
     Click(bar, x, kBar / 2);
     EXPECT_EQ(frame.commands.size(), 1u);
-}
-
-TEST(MessageBox, FitsTheScreenWithItsButtonsBelowTheText) {
-    static RECT box, text, button;
-    const auto look = [](HWND, UINT, UINT_PTR, DWORD) {
-        const HWND hwnd = FindWindowW(L"#32770", L"Box");
-        if (!hwnd || !IsWindowVisible(hwnd)) return;
-        box = RectOf(hwnd);
-        button = RectOf(GetDlgItem(hwnd, IDOK));
-        for (HWND child = GetWindow(hwnd, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-            if (GetWindowTextLengthW(child) > 100) text = RectOf(child);
-        }
-        PostMessageW(hwnd, WM_COMMAND, IDOK, 0);
-    };
-    const UINT_PTR timer = SetTimer(nullptr, 0, 20, look);
-    std::wstring words;
-    for (int i = 0; i < 16; ++i) words += L"some words ";
-    EXPECT_EQ(MessageBoxW(nullptr, words.c_str(), L"Box", MB_OK | MB_ICONINFORMATION), IDOK);
-    KillTimer(nullptr, timer);
-    const RECT area = WorkArea();
-    RECT shared;
-    ASSERT_TRUE(IntersectRect(&shared, &box, &area));
-    EXPECT_TRUE(EqualRect(&shared, &box)) << "reaches beyond the screen";
-    EXPECT_GT(text.right - text.left, 100);
-    EXPECT_GE(button.top, text.bottom);
-    EXPECT_LT(button.bottom, box.bottom);
 }
 
 INT_PTR CALLBACK NoMessages(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
@@ -343,21 +302,10 @@ class SheetTest : public ::testing::Test {
 
 constexpr char kOpening[] = "version precreate initialized title link setactive1 ";
 
-TEST_F(SheetTest, OkAppliesTheCreatedPages) {
-    EXPECT_GT(Run({[] { Press(IDOK); }}), 0);
-    EXPECT_EQ(log_, std::string(kOpening) + "killactive1 apply1 ");
-    EXPECT_GT(Run({[] { SendMessageW(sheet_, PSM_SETCURSEL, 1, 0); }, [] { Press(IDOK); }}), 0);
-}
-
 TEST_F(SheetTest, ARefusedApplyKeepsTheSheet) {
     refusals_ = 1;
     EXPECT_GT(Run({[] { Press(IDOK); }, [] { log_ += "again "; }, [] { Press(IDOK); }}), 0);
     EXPECT_EQ(log_, std::string(kOpening) + "killactive1 apply1 again killactive1 apply1 ");
-}
-
-TEST_F(SheetTest, CancelResetsAndReturnsZero) {
-    EXPECT_EQ(Run({[] { Press(IDCANCEL); }}), 0);
-    EXPECT_EQ(log_, std::string(kOpening) + "reset1 ");
 }
 
 TEST_F(SheetTest, ControlAndTabTurnThePages) {
