@@ -188,6 +188,49 @@ bool Cancel(HWND sheet) {
     return Until([&] { return !IsWindow(sheet); });
 }
 
+namespace {
+
+HWND FocusOf(HWND window) {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+    return info.hwndFocus;
+}
+
+void Press(HWND focus, WPARAM key) {
+    PostMessageW(focus, WM_KEYDOWN, key, 1);
+    PostMessageW(focus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+}
+
+bool TabTo(HWND page, int control) {
+    constexpr int kMostControls = 40;
+    const HWND wanted = GetDlgItem(page, control);
+    for (int i = 0; i < kMostControls; ++i) {
+        const HWND focus = FocusOf(page);
+        if (focus == wanted) return true;
+        Press(focus, VK_TAB);
+        if (!Until([&] { return FocusOf(page) != focus; })) return false;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool ClickByKeys(HWND page, int control) {
+    if (!TabTo(page, control)) return false;
+    const bool before = IsChecked(page, control);
+    Press(GetDlgItem(page, control), VK_SPACE);
+    return Until([&] { return IsChecked(page, control) != before; });
+}
+
+bool SelectByKeys(HWND page, int control, int index) {
+    if (!TabTo(page, control)) return false;
+    const HWND list = GetDlgItem(page, control);
+    Press(list, VK_HOME);
+    for (int i = 0; i < index; ++i) Press(list, VK_DOWN);
+    return Until([&] { return SendMessageW(list, CB_GETCURSEL, 0, 0) == index; });
+}
+
 // By message, as GetWindowText does not look into controls of other processes.
 std::wstring Text(HWND window) {
     wchar_t text[kTextLength] = {};

@@ -172,7 +172,7 @@ const std::vector<Tab> kTabs = {
       {IDC_SPECIAL_BIRTHDAYS, kClick, L"SpecialShowBirthdays", 1, 0}}},
 };
 
-// Every control is changed from its default.
+// Every control is changed from its default, with the keys alone.
 TEST_F(Pages, EveryControlIsStored) {
     const CSettingsKey weather(HKEY_LOCAL_MACHINE,
                                L"SOFTWARE\\Microsoft\\Today\\Items\\\"Lum Weather\"", true, false);
@@ -184,11 +184,9 @@ TEST_F(Pages, EveryControlIsStored) {
         const HWND page = Page(sheet, tab.rows.front().control);
         ASSERT_TRUE(page) << tab.entry << ":" << tab.page;
         for (const Row& row : tab.rows) {
-            if (row.select == kClick) {
-                Click(page, row.control);
-            } else {
-                Select(page, row.control, row.select);
-            }
+            EXPECT_TRUE(row.select == kClick ? ClickByKeys(page, row.control)
+                                             : SelectByKeys(page, row.control, row.select))
+                << testing::PrintToString(row.name);
         }
         if (tab.entry == 2 && tab.page == 0) {
             EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Whole subject for selected");
