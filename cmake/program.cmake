@@ -14,6 +14,7 @@ add_library(diary_models STATIC
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
+  settings/keyboard_layouts.cpp
   settings/registration.cpp
   settings/settings_key.cpp
 )
@@ -35,6 +36,7 @@ add_executable(DiarySettings WIN32
   app/options_sheet.cpp
   app/single_instance.cpp
   appearance/folding_stripe.cpp
+  controls/check_list.cpp
   controls/dialog.cpp
   controls/full_screen_dialog.cpp
   controls/preview_window.cpp

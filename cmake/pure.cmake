@@ -5,11 +5,13 @@ add_library(diary_pure STATIC
   app/language_file.cpp
   app/language_index.cpp
   app/page_rows.cpp
+  settings/contact_name.cpp
   settings/date_picture.cpp
   appearance/bitmap_file.cpp
   appearance/skin_list.cpp
   appearance/strip.cpp
   settings/display_pattern.cpp
+  settings/keyboard_layout.cpp
   settings/settings_file.cpp
   settings/tab_layout.cpp
 )

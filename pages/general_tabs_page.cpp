@@ -12,8 +12,6 @@ namespace {
 constexpr Row kRows[] = {
     rows::Check(IDC_TABS_IN_ONE, settings::AllTabsInShell),
 };
-// The state images of a list with check boxes.
-constexpr UINT kNotShown = 1, kShown = 2;
 constexpr int kLastTab = static_cast<int>(kDiaryTabs.size()) - 1;
 
 const DiaryTab& Tab(int index) { return kDiaryTabs[static_cast<std::size_t>(index)]; }
@@ -24,15 +22,7 @@ GeneralTabsPage::GeneralTabsPage()
     : OptionsPage(IDD_GENERAL_TABS, L"general_tabs", {std::begin(kRows), std::end(kRows)}) {}
 
 void GeneralTabsPage::OnLoad(PageValues& values) {
-    const HWND list = Item(IDC_TABS_LIST);
-    SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
-    RECT area;
-    GetClientRect(list, &area);
-    LVCOLUMNW column = {};
-    column.mask = LVCF_WIDTH;
-    column.cx = area.right;
-    SendMessageW(list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
-
+    list_.Attach(Item(IDC_TABS_LIST));
     const TabLayout layout =
         TabLayout::Parse(values.Read(settings::ShowTabs),
                          OpenProductKey().ReadString(settings::ShowTabsSequence, L""));
@@ -40,9 +30,7 @@ void GeneralTabsPage::OnLoad(PageValues& values) {
         const int tab = layout.order[static_cast<std::size_t>(i)];
         InsertTab(i, tab, (layout.shown & Tab(tab).bit) != 0);
     }
-    LVITEMW first = {};
-    first.stateMask = first.state = LVIS_FOCUSED | LVIS_SELECTED;
-    SendMessageW(list, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&first));
+    list_.Select(0);
 
     // Once the tab host holds the diary's tabs, it is the host that arranges them.
     const Registration registration = Registration::Probe();
@@ -55,59 +43,29 @@ void GeneralTabsPage::OnLoad(PageValues& values) {
 }
 
 void GeneralTabsPage::InsertTab(int position, int tab, bool shown) {
-    const HWND list = Item(IDC_TABS_LIST);
-    std::wstring text = GetLanguageTable().LoadString(Tab(tab).label);
-    LVITEMW item = {};
-    item.mask = LVIF_TEXT | LVIF_PARAM;
-    item.iItem = position;
-    item.pszText = text.data();
-    item.lParam = tab;
-    SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    item.stateMask = LVIS_STATEIMAGEMASK;
-    item.state = INDEXTOSTATEIMAGEMASK(shown ? kShown : kNotShown);
-    SendMessageW(list, LVM_SETITEMSTATE, position, reinterpret_cast<LPARAM>(&item));
+    list_.Insert(position, GetLanguageTable().LoadString(Tab(tab).label), tab, shown);
 }
 
-int GeneralTabsPage::TabAt(int position) const {
-    LVITEMW item = {};
-    item.mask = LVIF_PARAM;
-    item.iItem = position;
-    SendDlgItemMessageW(hwnd(), IDC_TABS_LIST, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    return static_cast<int>(item.lParam);
-}
-
-bool GeneralTabsPage::IsShown(int position) const {
-    return SendDlgItemMessageW(hwnd(), IDC_TABS_LIST, LVM_GETITEMSTATE, position,
-                               LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(kShown);
-}
-
-int GeneralTabsPage::SelectedPosition() const {
-    return static_cast<int>(SendDlgItemMessageW(hwnd(), IDC_TABS_LIST, LVM_GETNEXTITEM,
-                                                static_cast<WPARAM>(-1), LVNI_SELECTED));
-}
+int GeneralTabsPage::TabAt(int position) const { return static_cast<int>(list_.ValueAt(position)); }
 
 void GeneralTabsPage::Move(int by) {
-    const HWND list = Item(IDC_TABS_LIST);
-    const int from = SelectedPosition(), to = from + by;
+    const int from = list_.Selected(), to = from + by;
     if (from < 0 || to < 0 || to > kLastTab) return;
     const int tab = TabAt(from);
-    const bool shown = IsShown(from);
-    SendMessageW(list, LVM_DELETEITEM, from, 0);
+    const bool shown = list_.IsChecked(from);
+    list_.Remove(from);
     InsertTab(to, tab, shown);
-    LVITEMW moved = {};
-    moved.stateMask = moved.state = LVIS_FOCUSED | LVIS_SELECTED;
-    SendMessageW(list, LVM_SETITEMSTATE, to, reinterpret_cast<LPARAM>(&moved));
-    SendMessageW(list, LVM_ENSUREVISIBLE, to, FALSE);
+    list_.Select(to);
 }
 
 void GeneralTabsPage::OnUpdate() {
-    const int selected = SelectedPosition();
+    const int selected = list_.Selected();
     const HWND focus = GetFocus();
     Enable(IDC_TABS_UP, selected > 0);
     Enable(IDC_TABS_DOWN, selected >= 0 && selected < kLastTab);
     // The keys must not stay with a button that can no longer be pressed.
     if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
-        SetFocus(Item(IDC_TABS_LIST));
+        SetFocus(list_.hwnd());
     }
 }
 
@@ -127,18 +85,12 @@ std::optional<INT_PTR> GeneralTabsPage::OnControlNotification(const NMHDR& heade
     return std::nullopt;
 }
 
-// Left and right move the tab, as up and down move the selection; at either end these leave the
-// list, so that a device without a Tab key reaches the other controls.
+// Left and right move the tab, as up and down move the selection.
 void GeneralTabsPage::OnKey(WORD key) {
     switch (key) {
         case VK_LEFT: Move(-1); break;
         case VK_RIGHT: Move(1); break;
-        case VK_UP:
-            if (SelectedPosition() == 0) PostMessageW(hwnd(), WM_NEXTDLGCTL, TRUE, FALSE);
-            break;
-        case VK_DOWN:
-            if (SelectedPosition() == kLastTab) PostMessageW(hwnd(), WM_NEXTDLGCTL, FALSE, FALSE);
-            break;
+        default: list_.OnKey(key); break;
     }
 }
 
@@ -147,7 +99,7 @@ void GeneralTabsPage::OnSave(PageValues& values) {
     layout.shown = settings::ShowTabs.defaultValue;
     for (int i = 0; i <= kLastTab; ++i) {
         layout.order[static_cast<std::size_t>(i)] = TabAt(i);
-        if (!IsShown(i)) layout.shown &= ~Tab(TabAt(i)).bit;
+        if (!list_.IsChecked(i)) layout.shown &= ~Tab(TabAt(i)).bit;
     }
     values.Write(settings::ShowTabs, layout.shown);
     OpenProductKey().WriteString(settings::ShowTabsSequence, layout.Sequence().c_str());

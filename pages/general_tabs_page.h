@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/options_page.h"
+#include "controls/check_list.h"
 
 // Which tabs the diary has, and in which order. Its ok also registers the plug-in.
 class GeneralTabsPage : public OptionsPage {
@@ -17,9 +18,9 @@ class GeneralTabsPage : public OptionsPage {
   private:
     void InsertTab(int position, int tab, bool shown);
     int TabAt(int position) const;
-    bool IsShown(int position) const;
-    int SelectedPosition() const;
     // Moves the selected tab by one place, up (-1) or down (1).
     void Move(int by);
     void OnKey(WORD key);
+
+    CheckList list_;
 };

@@ -72,6 +72,16 @@ inline constexpr NumberSetting TaskCompletionMessage{L"Task_DisplayComplMsg", 1}
 inline constexpr NumberSetting TasksShowActiveTasks{L"TasksShowActiveTasks", 0};
 inline constexpr NumberSetting TasksShowCompletedTasks{L"TasksShowCompletedTasks", 0};
 
+// Contacts. The grouping is a code.
+inline constexpr NumberSetting ContactsGroupBy{L"ContactsGroupBy", 551};
+inline constexpr NumberSetting ContactsShowPhotoContacts{L"ContactsShowPhotoContacts", 0};
+
+// Keyboard layouts of a tab, whose name comes before: those it offers, by name, and the position
+// of the active one (-1: none).
+inline constexpr const wchar_t LayoutsSuffix[] = L"_layouts";
+inline constexpr const wchar_t LayoutsDefault[] = L"Latin";
+inline constexpr const wchar_t LayoutActiveSuffix[] = L"_layout_active";
+
 // Special events. Transactions default to what the device can show.
 inline constexpr NumberSetting SpecialShowBirthdays{L"SpecialShowBirthdays", 1};
 constexpr NumberSetting SpecialShowTransactions(bool financeProgramPresent) {

@@ -51,6 +51,14 @@ inline constexpr ValueLabel kKeyboardSupport[] = {
     {0, 0},
 };
 
+// The codes are the plug-in's own.
+inline constexpr ValueLabel kContactGroups[] = {
+    {501, IDS_CONTACTS_BY_LETTER},
+    {558, IDS_CONTACTS_BY_COMPANY},
+    {551, IDS_CONTACTS_BY_CATEGORY},
+    {0, 0},
+};
+
 // The plug-in counts the default period as 0, which stands fourth in the list.
 inline constexpr ValueLabel kSpecialPeriods[] = {
     {1, IDS_PERIOD_FIRST},     {2, IDS_PERIOD_FIRST + 1},
