@@ -102,18 +102,20 @@ run_demo() { # OUTPUT
     say "Pictures of each step are in ${1#"$ROOT"/}"
 }
 
-# Entry, page and name of every page there is.
+# Entry, page and name of every page and dialog there is, and the keys that lead there from the page.
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
     "2:0 tasks_common"
+    "3:0 contacts_common" "3:0 contacts_view_style ctrl+Next"
+    "3:0 layouts_select Tab Tab Tab Tab s"
     "6:0 special_events_common"
 )
 
 run_gallery() { # OUTPUT
     rm -rf "$1"
-    local screen page
+    local screen name dpi size page opened keys
     for screen in "portrait 96 240x320" "landscape 96 320x240" "double 192 480x640"; do
         read -r name dpi size <<<"$screen"
         say "Taking pictures of every page at $size pixels"
@@ -126,9 +128,15 @@ run_gallery() { # OUTPUT
         take_picture "$1/$name/about.png"
         close_program
         for page in "${GALLERY_PAGES[@]}"; do
-            start_program "$STAGE" "-P${page%% *}"
+            read -r opened page keys <<<"$page"
+            start_program "$STAGE" "-P$opened"
             await_window '.* options'
-            take_picture "$1/$name/${page#* }.png"
+            take_picture "$1/$name/$page.png"
+            if [ -n "$keys" ]; then
+                # shellcheck disable=SC2086  # Each word is a key.
+                xdotool key --delay 100 $keys
+                take_picture "$1/$name/$page.png"
+            fi
             close_program
         done
         close_stage
