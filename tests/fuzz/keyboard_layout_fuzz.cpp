@@ -9,9 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (layout) {
         std::wstring printed = layout->rightToLeft ? L"r" : L"l";
         for (const KeyboardLayout::Key& key : layout->keys) {
-            for (const std::wstring& part : {key.label, key.matches}) {
-                REQUIRE(!part.empty() && part.find_first_of(L" ()") == std::wstring::npos);
-            }
+            REQUIRE(!key.label.empty() && !key.matches.empty());
             printed += key.label + L"(" + key.matches + L")";
         }
         REQUIRE(printed.size() <= text.size() && !layout->keys.empty());
