@@ -10,6 +10,8 @@
 #include "pages/calendar_show_page.h"
 #include "pages/calendar_tasks_page.h"
 #include "pages/calendar_titles_page.h"
+#include "pages/contacts_common_page.h"
+#include "pages/contacts_view_style_page.h"
 #include "pages/flag_icons_page.h"
 #include "pages/general_auto_return_page.h"
 #include "pages/general_common_page.h"
@@ -50,6 +52,11 @@ constexpr MainEntry::PageFactory kTasksPages[] = {
     Make<TasksViewStylePage>,
     Make<TasksIconsPage>,
 };
+constexpr MainEntry::PageFactory kContactsPages[] = {
+    Make<ContactsCommonPage>,
+    Make<ContactsViewStylePage>,
+    Make<ContactsIconsPage>,
+};
 constexpr MainEntry::PageFactory kNotesPages[] = {Make<NotesCommonPage>, Make<NotesFilterPage>};
 constexpr MainEntry::PageFactory kSpecialEventsPages[] = {Make<SpecialEventsCommonPage>};
 
@@ -57,7 +64,7 @@ constexpr MainEntry kEntries[] = {
     {IDS_GENERAL, IDI_GENERAL, IDS_GENERAL_CAPTION, kGeneralPages, true},
     {IDS_CALENDAR, IDI_CALENDAR, IDS_CALENDAR_CAPTION, kCalendarPages, true},
     {IDS_TASKS, IDI_TASKS, IDS_TASKS_CAPTION, kTasksPages, true},
-    {IDS_CONTACTS, IDI_CONTACTS, IDS_CONTACTS_CAPTION, {}, false},
+    {IDS_CONTACTS, IDI_CONTACTS, IDS_CONTACTS_CAPTION, kContactsPages, false},
     {IDS_NOTES, IDI_NOTES, IDS_NOTES_CAPTION, kNotesPages, false},
     {IDS_MESSAGES, IDI_MESSAGES, IDS_MESSAGES_CAPTION, {}, true},
     {IDS_SPECIAL_EVENTS, IDI_SPECIAL_EVENTS, IDS_SPECIAL_EVENTS_CAPTION, kSpecialEventsPages,

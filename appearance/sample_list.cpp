@@ -88,7 +88,7 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
 }
 
 void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
-                          bool selected) {
+                          bool selected, const std::wstring& details) {
     const bool whole =
         pattern.mode == kWholeSubject || (pattern.mode == kWholeSubjectOfSelected && selected);
     RECT row;
@@ -111,6 +111,14 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
     text.left += ScaleX(kGap);
     text.right -= icons * iconWidth + ScaleX(kGap);
     const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
+    if (!details.empty()) {
+        SetTextColor(dc_, GetSysColor(COLOR_GRAYTEXT));
+        const int size = static_cast<int>(details.size());
+        RECT measured = {};
+        DrawTextW(dc_, details.c_str(), size, &measured, kText | DT_CALCRECT);
+        DrawTextW(dc_, details.c_str(), size, &row, kText | DT_RIGHT);
+        text.right -= measured.right;
+    }
     SetTextColor(dc_, selected ? theme.GetColor(ThemeColor::kHighlightedText) : textColor_);
     const int length = static_cast<int>(subject.size());
     RECT measured = text;
@@ -120,4 +128,13 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
     for (const wchar_t letter : pattern.after) {
         if (const auto field = IconOf(letter)) x += DrawIcon(*field, x, row);
     }
+}
+
+void SampleList::AddDetail(const std::wstring& text) {
+    RECT row;
+    if (!NextRow(row)) return;
+    row.left += ScaleX(kTextLeft + (indented_ ? kIndent : 0));
+    const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
+    SetTextColor(dc_, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextW(dc_, text.c_str(), static_cast<int>(text.size()), &row, kText);
 }

@@ -19,9 +19,12 @@ class SampleList {
     // `details` stand at the right.
     void AddItem(ItemIcon icon, const std::wstring& text, const std::wstring& details = {});
     // An item with the fields of its title: those before the subject, the subject, those behind.
-    // The subject takes one line, or two where its mode says so of this item.
+    // The subject takes one line, or two where its mode says so of this item; `details` stand at
+    // the right, in grey.
     void AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
-                  bool selected);
+                  bool selected, const std::wstring& details = {});
+    // A line of its own below an item's text, in grey.
+    void AddDetail(const std::wstring& text);
     // Whether the items that follow stand indented below their group.
     void SetIndented(bool indented) { indented_ = indented; }
 

@@ -29,6 +29,7 @@ add_library(diary_models STATIC
   settings/device.cpp
   settings/diary_settings.cpp
   settings/install_path.cpp
+  settings/keyboard_layouts.cpp
   settings/registration.cpp
   settings/settings_key.cpp
 )

@@ -5,6 +5,8 @@ add_library(diary_pure STATIC
   app/language_file.cpp
   app/language_index.cpp
   app/page_rows.cpp
+  settings/contact_name.cpp
+  settings/date_picture.cpp
   appearance/bitmap_file.cpp
   appearance/bitmap_header.cpp
   appearance/category_color.cpp
@@ -20,6 +22,7 @@ add_library(diary_pure STATIC
   settings/date_picture.cpp
   settings/display_pattern.cpp
   settings/hidden_names.cpp
+  settings/keyboard_layout.cpp
   settings/settings_file.cpp
   settings/tab_layout.cpp
   settings/title_fields.cpp

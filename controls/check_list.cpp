@@ -13,11 +13,7 @@ void CheckList::Attach(HWND list, Order order) {
     list_ = list;
     order_ = order;
     SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
-    RECT area;
-    GetClientRect(list, &area);
     LVCOLUMNW column = {};
-    column.mask = LVCF_WIDTH;
-    column.cx = area.right - GetSystemMetrics(SM_CXVSCROLL);
     SendMessageW(list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
 }
 
@@ -31,6 +27,12 @@ void CheckList::Insert(int position, const std::wstring& text, LPARAM data, bool
     item.stateMask = LVIS_STATEIMAGEMASK;
     item.state = INDEXTOSTATEIMAGEMASK(checked ? kChecked : kUnchecked);
     SendMessageW(list_, LVM_SETITEMSTATE, position, reinterpret_cast<LPARAM>(&item));
+}
+
+void CheckList::FitColumn() {
+    RECT area;
+    GetClientRect(list_, &area);
+    SendMessageW(list_, LVM_SETCOLUMNWIDTH, 0, area.right);
 }
 
 void CheckList::Clear() { SendMessageW(list_, LVM_DELETEALLITEMS, 0, 0); }

@@ -10,7 +10,7 @@ class CheckList {
   public:
     enum class Order { kFixed, kMovable };
 
-    // Takes over a dialog's list view: one column as wide as the list.
+    // Takes over a dialog's list view: one column.
     void Attach(HWND list, Order order);
 
     void Insert(int position, const std::wstring& text, LPARAM data, bool checked);
@@ -25,6 +25,9 @@ class CheckList {
 
     // Whether LVN_ITEMCHANGED says that a row was selected.
     static bool IsSelected(const NMHDR& header);
+    // Makes the column as wide as the list, once its rows are there.
+    void FitColumn();
+
     // LVN_KEYDOWN. Left and right move the row where the order is movable. Up in the first row and
     // down in the last leave the list, so that a device without a Tab key reaches what is around.
     void OnKeyDown(const NMHDR& header);

@@ -68,3 +68,7 @@ void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 TasksIconsPage::TasksIconsPage()
     : FlagIconsPage(IDD_TASKS_ICONS, L"tasks_icons", &TitleDraft::task, ItemIcon::kTaskOpen,
                     IDS_SAMPLE_TASK) {}
+
+ContactsIconsPage::ContactsIconsPage()
+    : FlagIconsPage(IDD_CONTACTS_ICONS, L"contacts_icons", &TitleDraft::contact, ItemIcon::kContact,
+                    IDS_SAMPLE_CONTACT) {}

@@ -28,3 +28,8 @@ class TasksIconsPage : public FlagIconsPage {
   public:
     TasksIconsPage();
 };
+
+class ContactsIconsPage : public FlagIconsPage {
+  public:
+    ContactsIconsPage();
+};

@@ -31,6 +31,7 @@ void GeneralTabsPage::OnLoad(PageValues& values) {
         list_.Insert(i, GetLanguageTable().LoadString(Tab(tab).label), tab,
                      (layout.shown & Tab(tab).bit) != 0);
     }
+    list_.FitColumn();
     list_.Select(0);
 
     // Once the tab host holds the diary's tabs, it is the host that arranges them.

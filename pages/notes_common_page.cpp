@@ -24,6 +24,8 @@ constexpr Row kRows[] = {
     rows::Check(IDC_NOTES_TYPE_FIRST + 6, &CDiarySettings::noteType6),
     rows::Check(IDC_NOTES_PHATNOTES, &CDiarySettings::phatNotes),
 };
+// The plug-in's codes of groupings.
+constexpr std::int32_t kGroupByLetter = 501, kGroupByCategory = 551, kGroupByFolder = 559;
 constexpr int kPhatPadType = IDC_NOTES_TYPE_FIRST + 6;
 constexpr std::uint32_t kSampleBytes = 1536;
 constexpr std::uint32_t kSampleMilliseconds = 59999;
@@ -44,11 +46,20 @@ std::wstring SampleTime() {
 }  // namespace
 
 NotesCommonPage::NotesCommonPage()
-    : OptionsPage(IDD_NOTES_COMMON, L"notes_common", {std::begin(kRows), std::end(kRows)}) {}
+    : OptionsPage(IDD_NOTES_COMMON, L"notes_common", {std::begin(kRows), std::end(kRows)}),
+      layouts_(IDC_NOTES_LAYOUT, L"Notes") {}
 
 void NotesCommonPage::OnLoad(PageValues&) {
+    layouts_.Load(hwnd());
     Enable(IDC_NOTES_PHATNOTES, PhatNotesVersion() != 0);
     Enable(kPhatPadType, IsPhatPadPresent());
+}
+
+void NotesCommonPage::OnSave(PageValues&) { layouts_.Save(); }
+
+bool NotesCommonPage::OnCommand(int id, int code) {
+    layouts_.OnCommand(id, code);
+    return OptionsPage::OnCommand(id, code);
 }
 
 void NotesCommonPage::OnUpdate() { InvalidateRect(Item(IDC_NOTES_PREVIEW), nullptr, TRUE); }
@@ -61,14 +72,20 @@ void NotesCommonPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     };
     const std::wstring separator = DecimalSeparator();
     SampleList list(item.hDC, item.rcItem, 3);
-    if (Selection(IDC_NOTES_GROUP_BY) != 0) {
-        const bool byFolder = Selection(IDC_NOTES_GROUP_BY) == 1;
-        const unsigned title = byFolder ? IDS_SAMPLE_FOLDER : IDS_SAMPLE_CATEGORY;
-        list.AddGroup(GetLanguageTable().LoadString(title), 2);
-        list.SetIndented(IsChecked(IDC_NOTES_INDENT));
+    const LanguageTable& texts = GetLanguageTable();
+    const std::wstring note = texts.LoadString(IDS_SAMPLE_NOTE);
+    const std::wstring recording = texts.LoadString(IDS_SAMPLE_RECORDING);
+    list.SetIndented(IsChecked(IDC_NOTES_INDENT));
+    switch (ChosenValue(*this, IDC_NOTES_GROUP_BY, 0)) {
+        case kGroupByFolder: list.AddGroup(texts.LoadString(IDS_SAMPLE_FOLDER), 2); break;
+        case kGroupByCategory: list.AddGroup(texts.LoadString(IDS_SAMPLE_CATEGORY), 2); break;
+        default: list.AddGroup(recording.substr(0, 1), 1); break;
     }
-    list.AddItem(ItemIcon::kNote, GetLanguageTable().LoadString(IDS_SAMPLE_NOTE),
-                 details(NoteSizeLabel(kSampleBytes, separator)));
-    list.AddItem(ItemIcon::kNoteVoice, GetLanguageTable().LoadString(IDS_SAMPLE_RECORDING),
+    list.AddItem(ItemIcon::kNoteVoice, recording,
                  details(RecordingLabel(kSampleMilliseconds, separator)));
+    if (ChosenValue(*this, IDC_NOTES_GROUP_BY, 0) == kGroupByLetter) {
+        list.AddGroup(note.substr(0, 1), 1);
+    } else {
+        list.AddItem(ItemIcon::kNote, note, details(NoteSizeLabel(kSampleBytes, separator)));
+    }
 }

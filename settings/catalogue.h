@@ -83,6 +83,16 @@ inline constexpr NumberSetting NoteSortOrder{L"NoteSortOrder", 1};
 inline constexpr NumberSetting NotesOneTap{L"NotesOneTap", 2};
 inline constexpr const wchar_t HiddenFolders[] = L"HiddenFolders";
 
+// Contacts. The grouping is a code.
+inline constexpr NumberSetting ContactsGroupBy{L"ContactsGroupBy", 551};
+inline constexpr NumberSetting ContactsShowPhotoContacts{L"ContactsShowPhotoContacts", 0};
+
+// Keyboard layouts of a tab, whose name comes before: those it offers, by name, and the position
+// of the active one (-1: none).
+inline constexpr const wchar_t LayoutsSuffix[] = L"_layouts";
+inline constexpr const wchar_t LayoutsDefault[] = L"Latin";
+inline constexpr const wchar_t LayoutActiveSuffix[] = L"_layout_active";
+
 // Special events. Transactions default to what the device can show.
 inline constexpr NumberSetting SpecialShowBirthdays{L"SpecialShowBirthdays", 1};
 constexpr NumberSetting SpecialShowTransactions(bool financeProgramPresent) {

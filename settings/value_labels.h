@@ -52,9 +52,17 @@ inline constexpr ValueLabel kKeyboardSupport[] = {
 };
 
 inline constexpr ValueLabel kNoteGroupings[] = {
-    {501, IDS_NOTES_UNGROUPED},
-    {559, IDS_NOTES_BY_FOLDER},
-    {551, IDS_NOTES_BY_CATEGORY},
+    {501, IDS_BY_LETTER},
+    {559, IDS_BY_FOLDER},
+    {551, IDS_BY_CATEGORY},
+    {0, 0},
+};
+
+// The codes are the plug-in's own.
+inline constexpr ValueLabel kContactGroups[] = {
+    {501, IDS_BY_LETTER},
+    {558, IDS_BY_COMPANY},
+    {551, IDS_BY_CATEGORY},
     {0, 0},
 };
 

@@ -102,19 +102,21 @@ run_demo() { # OUTPUT
     say "Pictures of each step are in ${1#"$ROOT"/}"
 }
 
-# Entry, page and name of every page there is; and how many tabs to go on where a sheet always opens its first.
+# Entry, page and name of every page and dialog there is, and the keys that lead there from the page.
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks" "1:3 calendar_titles"
     "2:0 tasks_common" "2:1 tasks_view_style" "2:2 tasks_icons"
-    "4:0 notes_common" "4:0 notes_filter 1"
+    "3:0 contacts_common" "3:0 contacts_view_style ctrl+Tab" "3:0 contacts_icons ctrl+Tab ctrl+Tab"
+    "3:0 layouts_select Tab Tab Tab Tab s"
+    "4:0 notes_common" "4:0 notes_filter ctrl+Tab"
     "6:0 special_events_common"
 )
 
 run_gallery() { # OUTPUT
     rm -rf "$1"
-    local screen page
+    local screen name dpi size page opened keys
     for screen in "portrait 96 240x320" "landscape 96 320x240" "double 192 480x640"; do
         read -r name dpi size <<<"$screen"
         say "Taking pictures of every page at $size pixels"
@@ -128,11 +130,15 @@ run_gallery() { # OUTPUT
         close_program
         local place picture further
         for page in "${GALLERY_PAGES[@]}"; do
-            read -r place picture further <<<"$page"
-            start_program "$STAGE" "-P$place"
+            read -r opened page keys <<<"$page"
+            start_program "$STAGE" "-P$opened"
             await_window '.* options'
-            for _ in $(seq "${further:-0}"); do xdotool key ctrl+Tab; done
-            take_picture "$1/$name/$picture.png"
+            take_picture "$1/$name/$page.png"
+            if [ -n "$keys" ]; then
+                # shellcheck disable=SC2086  # Each word is a key.
+                xdotool key --delay 100 $keys
+                take_picture "$1/$name/$page.png"
+            fi
             close_program
         done
         close_stage

@@ -55,8 +55,8 @@ bool IsChecked(HWND page, int control);
 bool IsEnabled(HWND page, int control);
 void Click(HWND page, int control);
 void Select(HWND page, int control, int index);
-// With the keys alone: goes on to a control by Tab, from wherever the focus is, and clicks its box or
-// chooses an entry of its list. False when the focus does not come there or nothing changes.
+// With the keys alone: goes on to a control by Tab, from wherever the focus is, and clicks its box
+// or chooses an entry of its list. False when the focus does not come there or nothing changes.
 bool ClickByKeys(HWND page, int control);
 bool SelectByKeys(HWND page, int control, int index);
 // As F1 does while the window has the focus.

@@ -165,6 +165,23 @@ const std::vector<Tab> kTabs = {
       {IDC_NOTES_INDENT, kClick, L"NoteMakeIndent", 1, 0},
       {IDC_NOTES_TYPE_FIRST, kClick, L"NotesType0Enabled", 1, 0},
       {IDC_NOTES_TYPE_FIRST + 5, kClick, L"NotesType5Enabled", 1, 0}}},
+    {3,
+     0,
+     L"Contact options",
+     {{IDC_CONTACT_GROUPS, 1, L"ContactsGroupBy", 551, 558},
+      {IDC_CONTACT_PHOTOS, kClick, L"ContactsShowPhotoContacts", 0, 1},
+      {IDC_CONTACT_PHOTO_TEXT, kClick, L"ContactShowTextForPhotos", 0, 1},
+      {IDC_CONTACT_ONE_TAP, 0, L"ContactsOneTap", 3, 0},
+      {IDC_CONTACTS_ALL_CATEGORIES, kClick, L"ShowContactsInAllCategories", 0, 1},
+      {IDC_CONTACT_LAYOUT, 1, L"Contacts_layout_active", 0, 0xFFFFFFFF}}},
+    {3,
+     1,
+     L"Contact options",
+     {{IDC_CONTACT_DISPLAY, 3, L"ContDisplay", 1, 3},
+      {IDC_CONTACT_INDENT, kClick, L"ContLeftIdent", 1, 0},
+      {IDC_CONTACT_SEARCH_COMPANY, kClick, L"ContSearchCompany", 0, 1},
+      {IDC_CONTACT_COMPANY_NO_CASE, kClick, L"ContactGroupCompanyNoCase", 1, 0},
+      {IDC_CONTACT_ADDRESS, 2, L"ContPreview_ShowAddressMode", 0, 2}}},
     {6,
      0,
      L"Special event options",
@@ -181,6 +198,7 @@ TEST_F(Pages, EveryControlIsStored) {
     for (const Tab& tab : kTabs) {
         program.Open(tab.entry, tab.page);
         const HWND sheet = program.Sheet(tab.sheet);
+        TurnTo(sheet, tab.page);  // Not every sheet opens at any page.
         const HWND page = Page(sheet, tab.rows.front().control);
         ASSERT_TRUE(page) << tab.entry << ":" << tab.page;
         for (const Row& row : tab.rows) {
@@ -284,6 +302,7 @@ TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
         for (const Tab& tab : kTabs) {
             program.Open(tab.entry, tab.page);
             const HWND sheet = program.Sheet(tab.sheet);
+            TurnTo(sheet, tab.page);
             ASSERT_TRUE(Page(sheet, tab.rows.front().control)) << tab.entry << ":" << tab.page;
             ASSERT_TRUE(Ok(sheet));
         }

@@ -1,0 +1,119 @@
+#include "settings/keyboard_layouts.h"
+
+#include "settings/catalogue.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+// The key with a value for each layout: its name and its text.
+CSettingsKey OpenLayouts() {
+    return CSettingsKey(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\Layouts").c_str(),
+                        true, true);
+}
+
+struct BuiltInLayout {
+    const wchar_t* name;
+    const char* text;  // UTF-8
+};
+
+// What the plug-in's users know, irregularities included: not every letter of a label matches.
+constexpr BuiltInLayout kBuiltInLayouts[] = {
+    {L"Latin",
+     "labc(abcàáâãäåæçč) def(defèéêë) ghi(ghiìíîï) jkl(jkl) mno(mnoñòóôõöø) pqrs(pqrsßř) "
+     "tuv(tuvùúûü) wxyz(wxyzýÿ)"},
+    {L"Cyrillic",
+     "lабвг(абвг) дежз(деёжз) ийкл(икл) мноп(мноп) рсту(рсту) фхцч(фхцч) шыь(шщыьъ) эюя(эюя)"},
+    {L"Hebrew", "rרשת(רשת) צק(צץק) סעפ(סעפף) מנ(מםנן) יכל(יכךל) זחט(זחט) דהו(דהו) אבג(אבג)"},
+    {L"Greek",
+     "lαβγ(αβγά) δεζ(δεζέ) ηθι(ηθιήίϊΐ) κλμ(κλμ) νξο(νξοό) πρσς(πρσς) τυφ(τυφύϋΰ) χψω(χψωώ)"},
+};
+
+std::wstring FromUtf8(const char* text) {
+    constexpr int kLength = 512;
+    wchar_t converted[kLength] = {};
+    if (!MultiByteToWideChar(CP_UTF8, 0, text, -1, converted, kLength)) return {};
+    return converted;
+}
+
+std::unique_ptr<KeyboardLayout> Read(CSettingsKey& key, const std::wstring& name) {
+    std::optional<KeyboardLayout> layout = KeyboardLayout::Parse(key.ReadString(name.c_str()));
+    return layout ? std::make_unique<KeyboardLayout>(std::move(*layout)) : nullptr;
+}
+
+}  // namespace
+
+KeyboardLayouts::KeyboardLayouts() {
+    CSettingsKey key = OpenLayouts();
+    std::wstring name;
+    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
+        if (std::unique_ptr<KeyboardLayout> layout = Read(key, name)) {
+            entries_.push_back({name, std::move(layout)});
+        }
+    }
+    for (const BuiltInLayout& builtIn : kBuiltInLayouts) {
+        if (PositionOf(builtIn.name) >= 0) continue;
+        const std::wstring text = FromUtf8(builtIn.text);
+        if (text.empty()) continue;
+        key.WriteString(builtIn.name, text.c_str());
+        entries_.push_back({builtIn.name, nullptr});
+    }
+}
+
+const std::wstring& KeyboardLayouts::NameAt(int position) const {
+    return entries_[static_cast<std::size_t>(position)].name;
+}
+
+const KeyboardLayout* KeyboardLayouts::At(int position) {
+    Entry& entry = entries_[static_cast<std::size_t>(position)];
+    if (!entry.layout) {
+        CSettingsKey key = OpenLayouts();
+        entry.layout = Read(key, entry.name);
+    }
+    return entry.layout.get();
+}
+
+const KeyboardLayout* KeyboardLayouts::Find(const std::wstring& name) {
+    const int position = PositionOf(name);
+    return position < 0 ? nullptr : At(position);
+}
+
+int KeyboardLayouts::PositionOf(const std::wstring& name) const {
+    for (int i = 0; i < Count(); ++i) {
+        if (_wcsicmp(NameAt(i).c_str(), name.c_str()) == 0) return i;
+    }
+    return -1;
+}
+
+std::wstring KeyboardLayouts::NameOf(const KeyboardLayout* layout) const {
+    for (const Entry& entry : entries_) {
+        if (layout && entry.layout.get() == layout) return entry.name;
+    }
+    return {};
+}
+
+OfferedLayouts KeyboardLayouts::LoadOffered(const std::wstring& tab) {
+    CSettingsKey key = OpenProductKey();
+    const std::wstring names =
+        key.ReadString((tab + settings::LayoutsSuffix).c_str(), settings::LayoutsDefault);
+    const auto active =
+        static_cast<std::int32_t>(key.ReadDword((tab + settings::LayoutActiveSuffix).c_str(), 0));
+    return OfferedLayouts::Parse(names, active,
+                                 [this](const std::wstring& name) { return Find(name); });
+}
+
+void KeyboardLayouts::SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const {
+    std::wstring names;
+    for (const KeyboardLayout* const layout : offered.layouts) {
+        if (!names.empty()) names += L',';
+        names += NameOf(layout);
+    }
+    CSettingsKey key = OpenProductKey();
+    key.WriteString((tab + settings::LayoutsSuffix).c_str(), names.c_str());
+    key.WriteDword((tab + settings::LayoutActiveSuffix).c_str(),
+                   static_cast<std::uint32_t>(offered.active));
+}
+
+KeyboardLayouts& GetKeyboardLayouts() {
+    static KeyboardLayouts layouts;
+    return layouts;
+}

@@ -1,0 +1,81 @@
+// The contacts' page and its keyboard layouts.
+#include "resources/ids.h"
+#include "tests/ui/device.h"
+
+namespace {
+
+using namespace ui;
+
+class Contacts : public DeviceTest {
+  protected:
+    HWND OpenPage() {
+        program_.Open(3, 0);
+        sheet_ = program_.Sheet(L"Contact options");
+        return Page(sheet_, IDC_CONTACT_LAYOUT);
+    }
+    static std::wstring Layout(HWND page) { return Selected(page, IDC_CONTACT_LAYOUT); }
+    HWND OpenDialog(HWND page, int entry) {
+        Select(page, IDC_CONTACT_LAYOUT, entry);
+        return program_.Sheet(L"Keyboard layouts");
+    }
+    static void Tick(HWND dialog, int row) {
+        const HWND list = GetDlgItem(dialog, IDC_LAYOUTS_LIST);
+        SendMessageW(list, WM_KEYDOWN, VK_HOME, 0);
+        for (int i = 0; i < row; ++i) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
+        SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);
+    }
+
+    Program program_;
+    HWND sheet_ = nullptr;
+};
+
+TEST_F(Contacts, LayoutsAreChosenInTheirDialog) {
+    const std::wstring language =
+        L"\xFEFF"
+        L"Greek|Griechisch\r\n";
+    ASSERT_TRUE(WriteBytes(kLanguageFile, language.data(), language.size() * 2));
+    OpenProductKey().WriteString(L"Contacts_layouts", L"Greek,Foo,Latin");
+    Put(L"Contacts_layout_active", 2);
+    Put(L"ContactsGroupBy", 549);
+    HWND page = OpenPage();
+    ASSERT_TRUE(page);
+    EXPECT_FALSE(IsEnabled(page, IDC_CONTACT_PHOTO_TEXT));
+    EXPECT_EQ(Layout(page), L"Latin");
+    EXPECT_EQ(SendDlgItemMessageW(page, IDC_CONTACT_LAYOUT, CB_GETCOUNT, 0, 0), 5);
+
+    HWND dialog = OpenDialog(page, 3);
+    ASSERT_TRUE(dialog);
+    Click(dialog, IDC_LAYOUTS_SWITCH);
+    Tick(dialog, 0);  // Latin, in use so far.
+    EXPECT_FALSE(IsEnabled(dialog, IDC_LAYOUTS_SWITCH)) << "there is but one";
+    ASSERT_TRUE(Cancel(dialog));
+
+    dialog = OpenDialog(page, 3);
+    EXPECT_FALSE(IsChecked(dialog, IDC_LAYOUTS_SWITCH)) << "taken though cancelled";
+    Tick(dialog, 0);
+    Tick(dialog, 1);
+    Click(dialog, IDC_LAYOUTS_SWITCH);
+    ASSERT_TRUE(Ok(dialog));
+    EXPECT_EQ(Layout(page), L"Cyrillic");
+    EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Greek,Foo,Latin") << "stored before ok";
+    Select(page, IDC_CONTACT_LAYOUT, 1);
+    EXPECT_EQ(Layout(page), L"Griechisch");
+    // The other page takes the shared settings from the registry.
+    TurnTo(sheet_, 1);
+    ASSERT_TRUE(Page(sheet_, IDC_CONTACT_PREVIEW));
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Cyrillic,Greek");
+    EXPECT_EQ(Stored(L"Contacts_layout_active"), 1u);
+    EXPECT_EQ(Stored(L"PhoneKeyb_DisableLangSwitch"), 0u);
+    EXPECT_EQ(Stored(L"ContactsGroupBy"), 501u);
+
+    page = OpenPage();
+    Select(page, IDC_CONTACT_LAYOUT, 4);  // The empty entry.
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Stored(L"Contacts_layout_active"), 0xFFFFFFFFu);
+
+    ASSERT_TRUE(OpenDialog(OpenPage(), 3));
+    EXPECT_EQ(program_.CloseAndWait(), 0u) << "stays open below the dialog";
+}
+
+}  // namespace
