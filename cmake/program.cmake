@@ -23,6 +23,9 @@ add_library(diary_models STATIC
   pages/stores/database_record.cpp
   pages/stores/mail2.cpp
   pages/stores/mail2_storage.cpp
+  pages/stores/mail_folder_tree.cpp
+  pages/stores/mail_folders_filters.cpp
+  pages/stores/mapi_session.cpp
   pages/stores/read_settings_ini.cpp
   settings/device.cpp
   settings/diary_settings.cpp
@@ -65,6 +68,6 @@ add_executable(DiarySettings WIN32
 )
 target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
 target_link_libraries(DiarySettings PRIVATE
-  diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
-  inkx)
+  diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell cemapi commctrl
+  richink inkx)
 add_dependencies(DiarySettings DiaryRes)

@@ -108,6 +108,7 @@ GALLERY_PAGES=(
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
     "2:0 tasks_common"
+    "5:0 messages_common" "5:1 messages_filter"
     "6:0 special_events_common"
 )
 
