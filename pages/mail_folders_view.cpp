@@ -88,7 +88,14 @@ void MailFoldersView::ShowTicks(const Ticked& ticked) {
     SendMessageW(tree_, WM_SETREDRAW, FALSE, 0);
     HTREEITEM firstTicked = nullptr;
     ShowTicks(TreeView_GetRoot(tree_), ticked, firstTicked);
-    if (firstTicked) TreeView_SelectItem(tree_, firstTicked);
+    if (firstTicked) {
+        TreeView_SelectItem(tree_, firstTicked);
+        // With what it lies in, as far as there is room for both.
+        if (const HTREEITEM parent = Next(firstTicked, TVGN_PARENT)) {
+            TreeView_EnsureVisible(tree_, parent);
+        }
+        TreeView_EnsureVisible(tree_, firstTicked);
+    }
     SendMessageW(tree_, WM_SETREDRAW, TRUE, 0);
 }
 
