@@ -127,8 +127,11 @@ std::optional<LRESULT> MailFoldersView::OnNotification(const NMHDR& header, HWND
             ScreenToClient(tree_, &hit.pt);
             const HTREEITEM item = TreeView_HitTest(tree_, &hit);
             if (!item || !(hit.flags & TVHT_ONITEMSTATEICON)) return std::nullopt;
+            TreeView_SelectItem(tree_, item);
             ToggleItem(item);
-            return 1;  // A double tap on a box shall not open the folder.
+            // A double tap on a box shall not open the folder.
+            if (header.code == NM_DBLCLK) return 1;
+            break;
         }
         case TVN_KEYDOWN: {
             const HTREEITEM item = TreeView_GetSelection(tree_);

@@ -63,7 +63,8 @@ void MessagesFilterPage::LoadFilters() {
     if (mail2.IsInstalled()) mail2.Load();
     const MapiSession session;
     view_ = std::make_unique<MailFoldersView>(
-        Item(IDC_MAIL_FOLDERS), ReadMailFolderTree(session, mail2),
+        Item(IDC_MAIL_FOLDERS),
+        ReadMailFolderTree(session, mail2, GetLanguageTable().LoadString(IDS_MESSAGES)),
         [this](const MailFolderNode& folder) { OnToggled(folder); });
     filters.Load(true);
     CMailFoldersFilters::BuiltInNames names;
@@ -163,17 +164,24 @@ std::optional<INT_PTR> MessagesFilterPage::OnControlNotification(const NMHDR& he
     return answer ? std::optional(Answer(*answer)) : std::nullopt;
 }
 
-bool MessagesFilterPage::AddNewFilter() {
-    if (new_.entries.empty()) return true;
+void MessagesFilterPage::AddNewFilter() {
+    if (new_.entries.empty()) return;
     const std::wstring typed = TypedName();
     new_.name = typed.empty() ? AutomaticName() : typed;
-    if (IsNameTaken(new_.name)) {
-        return RefuseFilter(IDS_MAIL_FILTER_NAME_TAKEN, IDC_MAIL_FILTER_NAME, new_.name);
-    }
     std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
-    filters.push_back(std::exchange(new_, {}));
-    Choose(static_cast<int>(filters.size()) - 1);
-    return true;
+    // In the registry names differ by more than the case of their letters.
+    const auto known = std::find_if(filters.begin(), filters.end(), [this](const MailFilter& one) {
+        return _wcsicmp(one.name.c_str(), new_.name.c_str()) == 0;
+    });
+    const int place = static_cast<int>(known - filters.begin());
+    if (known == filters.end()) {
+        filters.push_back(new_);
+    } else {
+        // Nobody shall lose a filter by giving its name again: it gets the folders in addition.
+        for (const auto& [folder, name] : new_.entries) known->Add(folder, name);
+    }
+    new_ = {};
+    Choose(place);
 }
 
 void MessagesFilterPage::DeleteFilter() {
@@ -189,8 +197,7 @@ std::wstring MessagesFilterPage::AutomaticName() const {
     const NewMailFilterNames names = {texts.LoadString(IDS_MAIL_FILTER_DEFAULT_NAME),
                                       texts.LoadString(IDS_MAIL_FILTER_BASE_NAME)};
     const std::size_t count = new_.entries.size();
-    const MailFolderNames one =
-        count == 1 ? NamesOf(new_.entries.front().folder) : MailFolderNames();
+    const std::wstring one = count == 1 ? NamesOf(new_.entries.front().folder).folder : L"";
     return AutomaticFilterName(names, count, one, FilterNames()).substr(0, kLongestName);
 }
 
@@ -204,14 +211,6 @@ std::wstring MessagesFilterPage::TypedName() const {
     wchar_t text[kLongestName + 1] = {};
     GetWindowTextW(Item(IDC_MAIL_FILTER_NAME), text, static_cast<int>(std::size(text)));
     return Trimmed(text);
-}
-
-// In the registry names differ by more than the case of their letters.
-bool MessagesFilterPage::IsNameTaken(const std::wstring& name) const {
-    const std::vector<std::wstring> names = FilterNames();
-    return std::any_of(names.begin(), names.end(), [&](const std::wstring& other) {
-        return _wcsicmp(other.c_str(), name.c_str()) == 0;
-    });
 }
 
 void MessagesFilterPage::ListSuggestedNames() {
@@ -243,20 +242,15 @@ MailFolderNames MessagesFilterPage::NamesOf(const MailFolderRef& folder) const {
     return {};
 }
 
-bool MessagesFilterPage::RefuseFilter(unsigned reason, int control, const std::wstring& name) {
-    std::wstring text = GetLanguageTable().LoadString(reason);
-    const std::size_t place = text.find(L"%s");
-    if (place != std::wstring::npos) text.replace(place, 2, name);
-    return Refuse(control, text);
-}
-
 bool MessagesFilterPage::OnApply() {
-    if (chosen_ < 0 && !AddNewFilter()) return false;
+    if (chosen_ < 0) AddNewFilter();
     for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
         const auto bytes = MailFilterBytes(filter.entries);
-        if (bytes && bytes->size() > kLargestFilter) {
-            return RefuseFilter(IDS_MAIL_FILTER_TOO_LARGE, IDC_MAIL_FOLDERS, filter.name);
-        }
+        if (!bytes || bytes->size() <= kLargestFilter) continue;
+        std::wstring reason = GetLanguageTable().LoadString(IDS_MAIL_FILTER_TOO_LARGE);
+        const std::size_t place = reason.find(L"%s");
+        if (place != std::wstring::npos) reason.replace(place, 2, filter.name);
+        return Refuse(IDC_MAIL_FOLDERS, reason);
     }
     return OptionsPage::OnApply();
 }

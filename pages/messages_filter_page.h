@@ -33,19 +33,16 @@ class MessagesFilterPage : public OptionsPage {
     void OnToggled(const MailFolderNode& folder);
     bool IsBuiltIn(int filter) const;
 
-    // Makes the new filter one of the list. False when another one has its name; what has no
-    // folders is no filter, and stays.
-    bool AddNewFilter();
+    // Makes the new filter, if it has folders, one of the list and chooses it.
+    void AddNewFilter();
     void DeleteFilter();
 
     void ShowAutomaticName();
     std::wstring AutomaticName() const;
     std::wstring TypedName() const;
-    bool IsNameTaken(const std::wstring& name) const;
     void ListSuggestedNames();
     // Of a folder that may no longer be there.
     MailFolderNames NamesOf(const MailFolderRef& folder) const;
-    bool RefuseFilter(unsigned reason, int control, const std::wstring& name);
 
     std::unique_ptr<MailFoldersView> view_;
     std::vector<std::wstring> builtInNames_;

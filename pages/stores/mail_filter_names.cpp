@@ -34,18 +34,11 @@ std::wstring NumberedName(const std::wstring& base, const std::vector<std::wstri
 
 }  // namespace
 
-std::wstring JoinedNames(const MailFolderNames& names) {
-    if (names.account == names.folder) return names.folder;
-    return names.account + std::wstring(kBetween) + names.folder;
-}
-
 std::wstring AutomaticFilterName(const NewMailFilterNames& texts, std::size_t ticked,
-                                 const MailFolderNames& one,
+                                 const std::wstring& one,
                                  const std::vector<std::wstring>& filters) {
     if (ticked == 0) return texts.none;
-    if (ticked > 1) return NumberedName(texts.base, filters);
-    const bool taken = std::find(filters.begin(), filters.end(), one.folder) != filters.end();
-    return taken ? JoinedNames(one) : one.folder;
+    return ticked == 1 ? one : NumberedName(texts.base, filters);
 }
 
 std::vector<std::wstring> SuggestedFilterNames(const MailFolderNames& names,

@@ -10,20 +10,16 @@ struct MailFolderNames {
     std::wstring folder;
 };
 
-// "Account - Folder", or the one name when they are the same.
-std::wstring JoinedNames(const MailFolderNames& names);
-
 // What a new filter is called by itself.
 struct NewMailFilterNames {
     std::wstring none;  // while no folder is ticked
     std::wstring base;  // with a number, while several are
 };
 
-// The name that follows the ticked folders: `ticked` of them, of which `one` is the only one when
-// there is one. When a filter already has a single folder's name, the account stands before it.
+// The name that follows the ticked folders: `ticked` of them, of which `one` is the name of the
+// only one when there is one.
 std::wstring AutomaticFilterName(const NewMailFilterNames& texts, std::size_t ticked,
-                                 const MailFolderNames& one,
-                                 const std::vector<std::wstring>& filters);
+                                 const std::wstring& one, const std::vector<std::wstring>& filters);
 
 // Whether one name stands before another one, in the user's alphabet and without regard to case.
 using NameStandsBefore = bool (*)(std::wstring_view left, std::wstring_view right);

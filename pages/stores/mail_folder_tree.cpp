@@ -103,12 +103,14 @@ MailFolderNode MakeAccount(MailFolderRef folder, const std::wstring& name) {
 
 }  // namespace
 
-std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const Mail2& mail2) {
+std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const Mail2& mail2,
+                                               const std::wstring& unnamed) {
     std::vector<MailFolderNode> tree;
+    const auto nameOf = [&](const std::wstring& name) { return name.empty() ? unnamed : name; };
     session.ForEachAccount([&](const MapiAccount& account) {
         const MapiPointer<IMsgStore> store = session.OpenStore(account);
         if (!store) return true;
-        MailFolderNode node = MakeAccount({account.identifier, false}, account.name);
+        MailFolderNode node = MakeAccount({account.identifier, false}, nameOf(account.name));
         Walker(*store.get()).Walk(node);
         tree.push_back(std::move(node));
         return true;
@@ -116,7 +118,7 @@ std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const
     for (const auto& account : mail2.accounts()) {
         // The account itself is what no record is.
         MailFolderNode node =
-            MakeAccount({account->FolderIdentifier(Mail2Folder()), true}, account->name());
+            MakeAccount({account->FolderIdentifier(Mail2Folder()), true}, nameOf(account->name()));
         for (const Mail2Folder& folder : account->folders()) {
             if (folder.name.empty()) continue;
             node.children.push_back(MakeChild(node, {account->FolderIdentifier(folder), true},

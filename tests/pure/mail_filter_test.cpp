@@ -70,8 +70,7 @@ TEST(MailFilter, NamesNewOnes) {
         EXPECT_EQ(AutomaticFilterName(texts, 2, {}, c.filters), c.name);
     }
     EXPECT_EQ(AutomaticFilterName(texts, 0, {}, {}), L"None");
-    EXPECT_EQ(AutomaticFilterName(texts, 1, {L"Home", L"Inbox"}, {L"Set"}), L"Inbox");
-    EXPECT_EQ(AutomaticFilterName(texts, 1, {L"Home", L"Inbox"}, {L"Inbox"}), L"Home - Inbox");
+    EXPECT_EQ(AutomaticFilterName(texts, 1, L"Inbox", {L"Set"}), L"Inbox");
 }
 
 TEST(MailFilter, SuggestsNames) {

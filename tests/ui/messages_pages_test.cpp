@@ -82,7 +82,7 @@ TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
     Press(kOutlook, kInbox);
     EXPECT_EQ(name(), L"Mail filter 1");
     Press(kOutlook, kArchive);
-    EXPECT_EQ(name(), L"Outlook E-mail - Inbox");
+    EXPECT_EQ(name(), L"Inbox");
     SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"");
     Press(kHomeMail, 0);
     ASSERT_TRUE(Ok(sheet_));
@@ -115,22 +115,32 @@ TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
-TEST_F(MessagesPages, ATakenNameIsRefused) {
+TEST_F(MessagesPages, WhatCannotBeStoredKeepsTheSheetOpen) {
+    {
+        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\MailFilters").c_str(),
+                         true, true);
+        std::string bytes;  // 17 records of 240 bytes, which leave no room for another one
+        for (char i = 'a'; i < 'a' + 17; ++i) {
+            bytes += std::string("M\xEB", 2) + std::string(235, i) + std::string("\1n\0", 3);
+        }
+        ASSERT_TRUE(key.WriteBinary(L"Large", bytes.data(), static_cast<DWORD>(bytes.size())));
+    }
     Program program;
     Open(program);
     Press(kOutlook, kArchive);
-    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"iNBOX");
+    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"lARGE");
     PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
     const HWND box = program.Sheet(L"Lum Diary Options");
     ASSERT_TRUE(box);
     PostMessageW(box, WM_COMMAND, IDOK, 0);
     ASSERT_TRUE(Until([&] { return !IsWindow(box); }));
     EXPECT_TRUE(IsWindow(sheet_));
+    EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"Large");
     EXPECT_EQ(Kinds(L"Inbox"), "-");
-    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"Mine");
+    Press(kOutlook, kArchive);
     ASSERT_TRUE(Ok(sheet_));
-    EXPECT_EQ(Kinds(L"Mine"), "M");
-    EXPECT_EQ(StoredText(L"EmailFilter"), L"Mine");
+    EXPECT_EQ(Kinds(L"Large"), std::string(17, 'M'));
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Large");
 }
 
 }  // namespace
