@@ -24,4 +24,6 @@ struct MailFolderNode {
 // Every account of the messaging system with its folders, and then those of the second mail
 // program. Stores and folders that cannot be opened are left out; a folder that a store shows more
 // than once, even within itself, is there once.
-std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const Mail2& mail2);
+// An account without a name is called `unnamed`.
+std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const Mail2& mail2,
+                                               const std::wstring& unnamed);
