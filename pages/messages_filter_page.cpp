@@ -143,6 +143,8 @@ bool MessagesFilterPage::OnCommand(int id, int code) {
             }
             break;
         case IDC_MAIL_FILTER_NAME:
+            // The focus is with the edit control within it.
+            if (code == CBN_SETFOCUS) ScrollIntoView(Item(id));
             if (code == CBN_DROPDOWN) ListSuggestedNames();
             if (code == CBN_SELCHANGE) nameTyped_ = true;
             if (code == CBN_EDITCHANGE) nameTyped_ = !TypedName().empty();

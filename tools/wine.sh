@@ -112,7 +112,7 @@ furnish_device() { # DEVICE BIN DPI
     cp -u "$2/icons.dat" "$install/"
     rm -rf "$install/IconSet"
     cp -r "$2/iconset/$3" "$install/IconSet"
-    cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$2/outres.dll" "$2/outres.192.dll" "$1/Windows/"
+    cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$2"/outres/*.dll "$1/Windows/"
     [ -f "$1/device.ini" ] ||
         printf '[device]\r\nhive=Default\r\nversion=%s\r\nplatform=PocketPC\r\n' \
             "${DEVICE_VERSION:-5.2.19208}" >"$1/device.ini"
