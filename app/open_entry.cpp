@@ -21,6 +21,8 @@
 #include "pages/general_short_date_page.h"
 #include "pages/general_skins_page.h"
 #include "pages/general_tabs_page.h"
+#include "pages/messages_common_page.h"
+#include "pages/messages_filter_page.h"
 #include "pages/notes_common_page.h"
 #include "pages/notes_filter_page.h"
 #include "pages/special_events_common_page.h"
@@ -58,6 +60,10 @@ constexpr MainEntry::PageFactory kContactsPages[] = {
     Make<ContactsIconsPage>,
 };
 constexpr MainEntry::PageFactory kNotesPages[] = {Make<NotesCommonPage>, Make<NotesFilterPage>};
+constexpr MainEntry::PageFactory kMessagesPages[] = {
+    Make<MessagesCommonPage>,
+    Make<MessagesFilterPage>,
+};
 constexpr MainEntry::PageFactory kSpecialEventsPages[] = {Make<SpecialEventsCommonPage>};
 
 constexpr MainEntry kEntries[] = {
@@ -66,7 +72,7 @@ constexpr MainEntry kEntries[] = {
     {IDS_TASKS, IDI_TASKS, IDS_TASKS_CAPTION, kTasksPages, true},
     {IDS_CONTACTS, IDI_CONTACTS, IDS_CONTACTS_CAPTION, kContactsPages, false},
     {IDS_NOTES, IDI_NOTES, IDS_NOTES_CAPTION, kNotesPages, false},
-    {IDS_MESSAGES, IDI_MESSAGES, IDS_MESSAGES_CAPTION, {}, true},
+    {IDS_MESSAGES, IDI_MESSAGES, IDS_MESSAGES_CAPTION, kMessagesPages, true},
     {IDS_SPECIAL_EVENTS, IDI_SPECIAL_EVENTS, IDS_SPECIAL_EVENTS_CAPTION, kSpecialEventsPages,
      false},
     {IDS_CATEGORY_ICONS, IDI_CATEGORY_ICONS, IDS_CATEGORY_ICONS, {}, false},

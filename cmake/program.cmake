@@ -24,6 +24,9 @@ add_library(diary_models STATIC
   pages/stores/handwriting.cpp
   pages/stores/mail2.cpp
   pages/stores/mail2_storage.cpp
+  pages/stores/mail_folder_tree.cpp
+  pages/stores/mail_folders_filters.cpp
+  pages/stores/mapi_session.cpp
   pages/stores/note_folders.cpp
   pages/stores/read_settings_ini.cpp
   settings/device.cpp
@@ -71,6 +74,6 @@ add_executable(DiarySettings WIN32
 )
 target_link_options(DiarySettings PRIVATE -municode $<$<CONFIG:MinSizeRel,Release>:-s>)
 target_link_libraries(DiarySettings PRIVATE
-  diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell commctrl richink
-  inkx)
+  diary_art diary_controls diary_models diary_warnings pocketpc_headers coredll aygshell cemapi commctrl
+  richink inkx)
 add_dependencies(DiarySettings DiaryRes note_prj)

@@ -18,6 +18,8 @@ add_library(diary_pure STATIC
   appearance/note_label.cpp
   appearance/skin_list.cpp
   appearance/strip.cpp
+  pages/stores/mail_filter.cpp
+  pages/stores/mail_filter_names.cpp
   pages/stores/settings_ini.cpp
   settings/date_picture.cpp
   settings/display_pattern.cpp

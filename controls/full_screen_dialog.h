@@ -31,6 +31,10 @@ class FullScreenDialog : public Dialog {
     virtual int BandHeight() const;
     virtual std::wstring BandTitle() const;
 
+    // Scrolls until a control shows. Controls that say in WM_COMMAND that they have the focus are
+    // scrolled to anyway.
+    void ScrollIntoView(HWND control);
+
     bool OnInitDialog() override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -41,7 +45,6 @@ class FullScreenDialog : public Dialog {
     void UpdateScrollRange();
     void OnVerticalScroll(int request);
     void ScrollTo(int position);
-    void ScrollIntoView(HWND control);
     int ScrollPosition() const;
 
     unsigned templateId_;

@@ -99,6 +99,14 @@ constexpr NumberSetting SpecialShowTransactions(bool financeProgramPresent) {
     return {L"SpecialShowTransactions", financeProgramPresent ? 1u : 0u};
 }
 
+// Messages.
+inline constexpr NumberSetting EmailSorting{L"EmailSorting", 0};
+inline constexpr NumberSetting EmailsOneTap{L"EmailsOneTap", 2};
+inline constexpr NumberSetting MessagesSetAsReadedPreview{L"Messages_SetAsReadedPreview", 1};
+inline constexpr NumberSetting MessagesInCalendar{L"Calendar_ShowEmails", 1};
+// The name of the active filter of mail folders; none is active without it.
+inline constexpr const wchar_t EmailFilter[] = L"EmailFilter";
+
 // Colours of appointments by how busy they make, as 0x00BBGGRR. The plug-in knows two of them under
 // these very spellings.
 inline constexpr NumberSetting ApptStatusBackground{L"clrApptStatusBkg", 0xCCCCCC};

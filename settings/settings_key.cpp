@@ -91,6 +91,12 @@ bool CSettingsKey::WriteBinary(const wchar_t* name, const void* data, DWORD size
            ERROR_SUCCESS;
 }
 
+bool CSettingsKey::DeleteValue(const wchar_t* name) {
+    if (!IsReadableText(name) || RegDeleteValueW(handle_, name) != ERROR_SUCCESS) return false;
+    dirty_ = true;
+    return true;
+}
+
 bool CSettingsKey::FirstValueName(std::wstring& name) {
     enumerationIndex_ = 0;
     return ValueNameAtIndex(name);

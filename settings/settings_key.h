@@ -42,6 +42,9 @@ class CSettingsKey {
     bool ReadBinary(const wchar_t* name, void* buffer, DWORD* size);
     bool WriteBinary(const wchar_t* name, const void* data, DWORD size);
 
+    // False as well when there is no such value.
+    bool DeleteValue(const wchar_t* name);
+
     // Walk the names of the key's values; false at the end.
     bool FirstValueName(std::wstring& name);
     bool NextValueName(std::wstring& name);

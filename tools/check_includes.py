@@ -28,7 +28,7 @@ ALLOWED = {
     "language": {"language", "handles"},
     "pages": BELOW | {"pages", "options", "appearance", "stores"},
     "appearance": BELOW | {"appearance", "stores"},
-    "stores": {"stores", "settings"},
+    "stores": {"stores", "settings", "handles"},
     "fonts and scale": {"fonts and scale", "handles", "settings"},
     "controls": {"controls", "handles", "language", "fonts and scale"},
     "handles": set(),

@@ -111,6 +111,7 @@ GALLERY_PAGES=(
     "3:0 contacts_common" "3:0 contacts_view_style ctrl+Tab" "3:0 contacts_icons ctrl+Tab ctrl+Tab"
     "3:0 layouts_select Tab Tab Tab Tab s"
     "4:0 notes_common" "4:0 notes_filter ctrl+Tab"
+    "5:0 messages_common" "5:1 messages_filter"
     "6:0 special_events_common"
 )
 

@@ -76,13 +76,19 @@ start_session() { # NAME DPI DEVICE: a clone of its own with the device as drive
     quietly wineserver -p
     reg_add 'HKCU\Software\PocketPC Devices\Default\HKEY_LOCAL_MACHINE\SOFTWARE\Apps\Lum Diary' \
         InstallDir REG_SZ '\Program Files\Lum Diary'
+    reg_add 'HKCU\Software\PocketPC Devices\Default\HKEY_LOCAL_MACHINE\Drivers\Display\GPE' \
+        LogicalPixelsX REG_DWORD "$2"
     furnish_owner "$3"
 }
 
-# What the device's owner keeps on it, as far as it is not there yet. Needs BIN.
+# What the device's owner keeps on it, as far as it is not there yet. With MUCH_MAIL the owner has many mail
+# folders besides. Needs BIN.
 furnish_owner() { # DEVICE
-    (cd "$1" && wine "$BIN/devicectl.exe" furnish - <"$ROOT/pocketpc/furnishing/owner.txt") ||
-        fail "The device could not be furnished"
+    local script
+    for script in owner ${MUCH_MAIL:+much_mail}; do
+        (cd "$1" && wine "$BIN/devicectl.exe" furnish - <"$ROOT/pocketpc/furnishing/$script.txt") ||
+            fail "The device could not be furnished"
+    done
 }
 
 end_session() {
@@ -106,7 +112,7 @@ furnish_device() { # DEVICE BIN DPI
     cp -u "$2/icons.dat" "$install/"
     rm -rf "$install/IconSet"
     cp -r "$2/iconset/$3" "$install/IconSet"
-    cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$1/Windows/"
+    cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$2"/outres/*.dll "$1/Windows/"
     [ -f "$1/device.ini" ] ||
         printf '[device]\r\nhive=Default\r\nversion=%s\r\nplatform=PocketPC\r\n' \
             "${DEVICE_VERSION:-5.2.19208}" >"$1/device.ini"

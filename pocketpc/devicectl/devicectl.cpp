@@ -10,6 +10,7 @@
 #include "pocketpc/devicectl/databases.h"
 #include "pocketpc/devicectl/furnish.h"
 #include "pocketpc/devicectl/keys.h"
+#include "pocketpc/devicectl/mail.h"
 #include "pocketpc/devicectl/text.h"
 
 namespace {
@@ -29,10 +30,15 @@ constexpr char kUsage[] =
   devicectl set KEY NAME TYPE DATA             types: string dword binary
   devicectl unset KEY NAME
   devicectl delete-key KEY                     with all below it
+  devicectl mail                               the mail accounts and folders, each with its number and kind
+  devicectl mail-account NAME SERVICE          a new account; prints its number
+  devicectl mail-folder N NAME [KIND]          a new folder in account or folder N; prints its number
+  devicectl mail-remove N                      account or folder N with all below it
 
 A VOLUME is a file such as \pim.vol, or "store" for the object store itself. A KEY begins with HKCU or HKLM.
 A VALUE is NUMBER:TYPE=DATA, as in 2:string=Business. Types: i2 ui2 i4 ui4 r8 bool string time blob recid;
-blobs are hexadecimal digits; 1:recid is the record's own number and has no data.
+blobs are hexadecimal digits; 1:recid is the record's own number and has no data. A mail folder's KIND is inbox,
+outbox, sent, deleted, drafts or folder.
 
 A script adds what a device lacks and leaves the rest as it is. It is UTF-8 text; lines that are indented by
 four blanks belong to the statement above them, and # begins a comment:
@@ -44,6 +50,9 @@ four blanks belong to the statement above them, and # begins a comment:
       record VALUE...
   key KEY
       value NAME TYPE DATA
+  account NAME SERVICE                         a mail account of the messaging system
+      folder PATH [KIND]                       folders within each other are separated by \
+  many-accounts COUNT FOLDERS                  so many accounts, each with so many folders
   newer, older, any                            what kind of device the lines from here on are for
 )";
 
@@ -147,6 +156,30 @@ int EditKeys(const Words& words) {
     return done ? 0 : Fail(L"no such value");
 }
 
+int EditMail(const Words& words) {
+    const std::wstring& verb = words[1];
+    if (verb == L"mail") {
+        for (const std::wstring& line : ListMail()) Print(line);
+        return 0;
+    }
+    MailStore mail = MailStore::Load();
+    DWORD number = 0;
+    if (verb == L"mail-account") {
+        number = mail.Add(0, MailKind::kAccount, words[2], words[3]);
+    } else if (verb == L"mail-folder") {
+        const auto kind = ParseMailKind(words.size() > 4 ? words[4] : L"folder");
+        if (!kind || *kind == MailKind::kAccount) return Fail(L"no kind of folder: " + words[4]);
+        number = RecordNumber(words[2]);
+        if (number) number = mail.Add(number, *kind, words[3]);
+        if (!number) return Fail(L"no account or folder " + words[2]);
+    } else if (!mail.Remove(RecordNumber(words[2]))) {
+        return Fail(L"no account or folder " + words[2]);
+    }
+    if (!mail.Save()) return Fail(SystemProblem());
+    if (number) Print(std::to_wstring(number));
+    return 0;
+}
+
 struct Command {
     const wchar_t* verb;
     std::size_t fewestWords;
@@ -165,6 +198,10 @@ constexpr Command kCommands[] = {
     {L"set", 6, EditKeys},
     {L"unset", 4, EditKeys},
     {L"delete-key", 3, EditKeys},
+    {L"mail", 2, EditMail},
+    {L"mail-account", 4, EditMail},
+    {L"mail-folder", 4, EditMail},
+    {L"mail-remove", 3, EditMail},
 };
 
 }  // namespace

@@ -3,10 +3,12 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "pocketpc/devicectl/databases.h"
 #include "pocketpc/devicectl/keys.h"
+#include "pocketpc/devicectl/mail.h"
 #include "pocketpc/devicectl/text.h"
 
 namespace {
@@ -65,12 +67,15 @@ class Furnisher {
     std::wstring Finish() {
         std::wstring problem;
         if (!file_.empty() && !MakeFile(file_, fileText_)) problem = SystemProblem();
+        if (mail_ && !mail_->Save()) problem = SystemProblem();
+        mail_.reset();
         file_.clear();
         fileText_.clear();
         database_.reset();
         volume_.reset();
         key_.reset();
         skipping_ = false;
+        account_ = 0;
         return problem;
     }
 
@@ -91,7 +96,8 @@ class Furnisher {
         }
         skipping_ = !meant_;
         const bool known = verb == L"folder" || verb == L"file" || verb == L"volume" ||
-                           verb == L"database" || verb == L"key";
+                           verb == L"database" || verb == L"key" || verb == L"account" ||
+                           verb == L"many-accounts";
         if (!known) return L"unknown statement " + verb;
         if (words.size() < 2) return verb + L" needs a name";
         if (skipping_) return {};
@@ -109,7 +115,25 @@ class Furnisher {
             key_ = std::make_unique<DeviceKey>(name, true);
             return *key_ ? L"" : L"no such key can be made";
         }
+        if (verb == L"account" || verb == L"many-accounts") {
+            if (words.size() < 3) return verb + L" needs two words";
+            mail_ = MailStore::Load();
+            if (verb == L"account") return StartAccount(name, words[2]);
+            AddManyAccounts(*mail_, wcstoul(name.c_str(), nullptr, 10),
+                            wcstoul(words[2].c_str(), nullptr, 10));
+            return {};
+        }
         return StartDatabase(words);
+    }
+
+    std::wstring StartAccount(const std::wstring& name, const std::wstring& service) {
+        skipping_ = HasAccount(*mail_, name);
+        if (skipping_) {
+            mail_.reset();
+        } else {
+            account_ = mail_->Add(0, MailKind::kAccount, name, service);
+        }
+        return {};
     }
 
     std::wstring StartDatabase(const std::vector<std::wstring>& words) {
@@ -147,6 +171,12 @@ class Furnisher {
             if (key_->Has(words[1])) return {};
             return key_->Set(words[1], words[2], words[3]) ? L"" : L"no value: " + words[3];
         }
+        if (mail_ && account_ && words[0] == L"folder" && words.size() >= 2) {
+            const auto kind = ParseMailKind(words.size() > 2 ? words[2] : L"folder");
+            if (!kind) return L"no kind of folder: " + words[2];
+            return AddMailFolder(*mail_, account_, words[1], *kind) ? L""
+                                                                    : L"no such parent folder";
+        }
         return L"unknown statement " + words[0] + L" here";
     }
 
@@ -156,6 +186,8 @@ class Furnisher {
     std::unique_ptr<MountedVolume> volume_;
     std::unique_ptr<OpenedDatabase> database_;
     std::unique_ptr<DeviceKey> key_;
+    std::optional<MailStore> mail_;
+    DWORD account_ = 0;
 };
 
 }  // namespace

@@ -200,7 +200,10 @@ TEST_F(General, SettingsTravelInAFile) {
     EXPECT_EQ(Stored(L"CalendarPeriod"), 1u);
     import(IDYES);
     EXPECT_TRUE(Until([] { return Stored(L"CalendarPeriod") == 30u; }));
-    WriteBytes(kFile, exported.data(), static_cast<DWORD>(exported.size() - 4));
+    // The program may still have the file open.
+    ASSERT_TRUE(Until([&] {
+        return WriteBytes(kFile, exported.data(), static_cast<DWORD>(exported.size() - 4));
+    }));
     import(IDYES);
     const HWND failed = program_.Sheet(L"Lum Diary Options");
     ASSERT_TRUE(failed);

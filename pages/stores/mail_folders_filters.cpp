@@ -1,0 +1,148 @@
+#include "pages/stores/mail_folders_filters.h"
+
+#include <algorithm>
+
+#include "settings/catalogue.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+std::wstring FiltersPath() { return std::wstring(kProductKey) + L"\\MailFilters"; }
+
+std::optional<std::vector<std::uint8_t>> ReadBytes(CSettingsKey& key, const std::wstring& name) {
+    DWORD size = 0;
+    if (!key.ReadBinary(name.c_str(), nullptr, &size)) return std::nullopt;
+    std::vector<std::uint8_t> bytes(size);
+    if (size && !key.ReadBinary(name.c_str(), bytes.data(), &size)) return std::nullopt;
+    bytes.resize(size);
+    return bytes;
+}
+
+// The filter that a folder of the second mail program belongs to by its type; -1 for none.
+int BuiltInOf(std::int32_t folderType) {
+    switch (folderType) {
+        case 1: return 2;  // inbox
+        case 2: return 3;  // outbox
+        case 3: return 4;  // sent items
+        case 4: return 0;  // deleted items
+        case 5: return 1;  // drafts
+    }
+    return -1;
+}
+
+}  // namespace
+
+bool CMailFoldersFilters::Load(bool force) {
+    if (loaded_ && !force) return true;
+    filters_.clear();
+    CSettingsKey key(HKEY_LOCAL_MACHINE, FiltersPath().c_str(), false, false);
+    if (!key.IsOpen()) return false;
+    std::wstring name;
+    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
+        const auto bytes = ReadBytes(key, name);
+        auto entries = bytes ? ParseMailFilter(*bytes) : std::nullopt;
+        if (entries) filters_.push_back({name, std::move(*entries)});
+    }
+    loaded_ = true;
+    return true;
+}
+
+void CMailFoldersFilters::Save() const {
+    CSettingsKey key(HKEY_LOCAL_MACHINE, FiltersPath().c_str(), true, true);
+    std::wstring name;
+    while (key.FirstValueName(name)) {
+        if (!key.DeleteValue(name.c_str())) break;
+    }
+    for (const MailFilter& filter : filters_) {
+        const auto bytes = MailFilterBytes(filter.entries);
+        if (!bytes) continue;
+        // A filter without folders has no bytes, but still a place for them.
+        const std::uint8_t none = 0;
+        key.WriteBinary(filter.name.c_str(), bytes->empty() ? &none : bytes->data(),
+                        static_cast<DWORD>(bytes->size()));
+    }
+}
+
+std::wstring CMailFoldersFilters::ActiveName() {
+    return OpenProductKey().ReadString(settings::EmailFilter);
+}
+
+void CMailFoldersFilters::SetActive(int index) const {
+    CSettingsKey key = OpenProductKey();
+    if (index < 0) {
+        key.DeleteValue(settings::EmailFilter);
+    } else {
+        key.WriteString(settings::EmailFilter, filters_.at(index).name.c_str());
+    }
+}
+
+std::vector<int> CMailFoldersFilters::SortedIndices() const {
+    std::vector<int> sorted;
+    for (std::size_t i = 0; i < filters_.size(); ++i) {
+        if (!filters_[i].entries.empty()) sorted.push_back(static_cast<int>(i));
+    }
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        for (std::size_t j = i + 1; j < sorted.size(); ++j) {
+            if (StandsAfter(filters_[sorted[i]].name, filters_[sorted[j]].name)) {
+                std::swap(sorted[i], sorted[j]);
+            }
+        }
+    }
+    return sorted;
+}
+
+int CMailFoldersFilters::FindByName(const std::wstring& name) const {
+    const auto found = std::find_if(filters_.begin(), filters_.end(),
+                                    [&](const MailFilter& filter) { return filter.name == name; });
+    return found == filters_.end() ? -1 : static_cast<int>(found - filters_.begin());
+}
+
+CMailFoldersFilters::BuiltIns CMailFoldersFilters::FindBuiltIns(const BuiltInNames& names) {
+    for (const std::wstring& name : names) {
+        if (FindByName(name) < 0) filters_.push_back({name, {}});
+    }
+    BuiltIns found;
+    for (std::size_t i = 0; i < names.size(); ++i) found[i] = FindByName(names[i]);
+    return found;
+}
+
+// An account without a name is called as the filter, as a record without a name could not be read.
+void CMailFoldersFilters::AddTo(int index, const MailFolderRef& folder,
+                                const std::wstring& account) {
+    if (folder.identifier.size() > kLongestMailIdentifier) return;
+    MailFilter& filter = filters_.at(index);
+    const std::wstring& name = account.empty() ? filter.name : account;
+    filter.Add(folder, name.substr(0, kLongestMailFolderName));
+}
+
+bool CMailFoldersFilters::AddMAPIFolders(const MapiSession& session, const BuiltIns& builtIns) {
+    return session.ForEachAccount([&](const MapiAccount& account) {
+        const MapiPointer<IMsgStore> store = session.OpenStore(account);
+        return store && ForEachSpecialFolder(
+                            *store.get(), [&](std::size_t i, const std::vector<std::uint8_t>& id) {
+                                AddTo(builtIns.at(i), {id, false}, account.name);
+                            });
+    });
+}
+
+void CMailFoldersFilters::AddMail2Folders(const Mail2& mail2, const BuiltIns& builtIns) {
+    for (const auto& account : mail2.accounts()) {
+        for (const Mail2Folder& folder : account->folders()) {
+            const int place = BuiltInOf(folder.type);
+            if (place < 0) continue;
+            AddTo(builtIns.at(place), {account->FolderIdentifier(folder), true}, account->name());
+        }
+    }
+}
+
+CMailFoldersFilters& GetMailFoldersFilters() {
+    static CMailFoldersFilters filters;
+    return filters;
+}
+
+bool StandsAfter(const std::wstring& left, const std::wstring& right) {
+    return CompareStringW(LOCALE_USER_DEFAULT,
+                          NORM_IGNORECASE | NORM_IGNOREKANATYPE | NORM_IGNOREWIDTH, left.c_str(),
+                          static_cast<int>(left.size()), right.c_str(),
+                          static_cast<int>(right.size())) == CSTR_GREATER_THAN;
+}

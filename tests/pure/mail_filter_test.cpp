@@ -1,0 +1,85 @@
+// How filters of mail folders are stored and named.
+#include "pages/stores/mail_filter.h"
+
+#include <gtest/gtest.h>
+
+#include "pages/stores/mail_filter_names.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+using Entries = std::vector<MailFilter::Entry>;
+
+// Three records, byte by byte: identifiers of two, no and one byte.
+const Bytes kBytes = {'F',  2, 0xAB, 0xCD, 1,   'I', 0,    'M', 0,   2,
+                      0xFC, 0, 0x3A, 0x04, 'M', 1,   0x07, 1,   'x', 0};
+const Entries kEntries = {
+    {{{0xAB, 0xCD}, true}, L"I"}, {{{}, false}, L"\xFC\x43A"}, {{{7}, false}, L"x"}};
+
+TEST(MailFilter, StoresItsFoldersAsRecords) {
+    EXPECT_EQ(MailFilterBytes(kEntries), kBytes);
+    EXPECT_EQ(ParseMailFilter(kBytes), kEntries);
+    EXPECT_EQ(ParseMailFilter({}), Entries());
+    Bytes twice = kBytes;
+    twice.insert(twice.end(), {'F', 2, 0xAB, 0xCD, 1, 'J', 0});
+    EXPECT_EQ(ParseMailFilter(twice), kEntries) << "of two names the first counts";
+    for (const std::size_t size : {0, 255, 256}) {
+        for (const std::size_t length : {1, 255, 256, 300}) {
+            const Entries entries = {{{Bytes(size, 9), false}, std::wstring(length, L'n')}};
+            const auto bytes = MailFilterBytes(entries);
+            ASSERT_EQ(bytes.has_value(), size <= 255);
+            if (!bytes) continue;
+            EXPECT_EQ(bytes->size(), 3 + size + (length <= 255 ? 2 * length : 0));
+            EXPECT_EQ(ParseMailFilter(*bytes),
+                      length <= 255 ? std::optional(entries) : std::nullopt);
+        }
+    }
+}
+
+TEST(MailFilter, DropsWhatIsDamaged) {
+    for (std::size_t i = 0; i < kBytes.size(); ++i) {
+        const bool whole = i == 0 || i == 7 || i == 14;
+        EXPECT_EQ(ParseMailFilter(std::span(kBytes).first(i)).has_value(), whole) << i;
+        for (int value = 0; value < 256; ++value) {
+            Bytes changed = kBytes;
+            changed[i] = static_cast<std::uint8_t>(value);
+            const auto read = ParseMailFilter(changed);
+            if (i == 0 || i == 7 || i == 14) {
+                EXPECT_EQ(read.has_value(), value == 'F' || value == 'M');
+            }
+            if (read && read->size() == 3) {
+                EXPECT_EQ(MailFilterBytes(*read), changed);
+            }
+        }
+    }
+}
+
+TEST(MailFilter, NamesNewOnes) {
+    const NewMailFilterNames texts = {L"None", L"Set"};
+    struct Case {
+        std::vector<std::wstring> filters;
+        const wchar_t* name;
+    };
+    for (const Case& c : {
+             Case{{}, L"Set 1"},
+             Case{{L"Set"}, L"Set 1"},
+             Case{{L"Set 3", L"Set 1"}, L"Set 4"},
+             Case{{L"Sets", L"A Set 9", L"set 8", L"Set x", L"Set -3"}, L"Set 1"},
+             Case{{L"Set7", L"Set 99999999999"}, L"Set 8"},
+         }) {
+        EXPECT_EQ(AutomaticFilterName(texts, 2, {}, c.filters), c.name);
+    }
+    EXPECT_EQ(AutomaticFilterName(texts, 0, {}, {}), L"None");
+    EXPECT_EQ(AutomaticFilterName(texts, 1, L"Inbox", {L"Set"}), L"Inbox");
+}
+
+TEST(MailFilter, SuggestsNames) {
+    const auto before = [](std::wstring_view left, std::wstring_view right) {
+        return towlower(left.front()) < towlower(right.front());
+    };
+    EXPECT_EQ(
+        SuggestedFilterNames({L"home", L"Inbox"}, {L"Inbox", L"All"}, before),
+        (std::vector<std::wstring>{L"All", L"home", L"home - Inbox", L"Inbox", L"Inbox - home"}));
+}
+
+}  // namespace

@@ -1,0 +1,146 @@
+// The page of mail folder filters, from the first filter to its deletion.
+#include <commctrl.h>
+
+#include "resources/ids.h"
+#include "tests/ui/device.h"
+
+namespace {
+
+using namespace ui;
+
+// The folders as the tree sorts them: an account's place, and that of a folder within it.
+constexpr int kHomeMail = 1, kOutlook = 2;
+constexpr int kArchive = 0, kInbox = 3;
+
+class MessagesPages : public DeviceTest {
+  protected:
+    void Open(Program& program) {
+        program.Open(5, 1);
+        sheet_ = program.Sheet(L"Message options");
+        page_ = Page(sheet_, IDC_MAIL_FOLDERS);
+        ASSERT_TRUE(page_);
+    }
+    LPARAM Next(LPARAM item, WPARAM relation) const {
+        return SendDlgItemMessageW(page_, IDC_MAIL_FOLDERS, TVM_GETNEXTITEM, relation, item);
+    }
+    LPARAM Folder(int account, int folder) const {
+        LPARAM item = Next(0, TVGN_ROOT);
+        while (account-- > 0) item = Next(item, TVGN_NEXT);
+        item = Next(item, TVGN_CHILD);
+        while (folder-- > 0) item = Next(item, TVGN_NEXT);
+        return item;
+    }
+    bool IsTicked(int account, int folder) const {
+        const LRESULT state = SendDlgItemMessageW(page_, IDC_MAIL_FOLDERS, TVM_GETITEMSTATE,
+                                                  Folder(account, folder), TVIS_STATEIMAGEMASK);
+        return state == INDEXTOSTATEIMAGEMASK(2);
+    }
+    void Press(int account, int folder) const {
+        const HWND tree = GetDlgItem(page_, IDC_MAIL_FOLDERS);
+        SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, Folder(account, folder));
+        SendMessageW(tree, WM_KEYDOWN, VK_SPACE, 0);
+    }
+    void ChooseFilter(const wchar_t* name) const {
+        Select(page_, IDC_MAIL_FILTER,
+               static_cast<int>(SendDlgItemMessageW(page_, IDC_MAIL_FILTER, CB_FINDSTRINGEXACT, -1,
+                                                    reinterpret_cast<LPARAM>(name))));
+    }
+    // The kinds of a filter's records: "MMF"; "-" when there is no such filter.
+    static std::string Kinds(const wchar_t* filter) {
+        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\MailFilters").c_str(),
+                         false, false);
+        unsigned char bytes[4096];
+        DWORD size = sizeof bytes;
+        if (!key.ReadBinary(filter, bytes, &size)) return "-";
+        std::string kinds;
+        for (DWORD i = 0; i < size;) {
+            kinds += static_cast<char>(bytes[i]);
+            i += 2 + bytes[i + 1];
+            i += 1 + 2 * bytes[i];
+        }
+        return kinds;
+    }
+
+    HWND sheet_ = nullptr;
+    HWND page_ = nullptr;
+};
+
+TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
+    const auto name = [this] { return Text(page_, IDC_MAIL_FILTER_NAME); };
+    OpenProductKey().WriteString(L"EmailFilter", L"Elsewhere");
+    Program program;
+    Open(program);
+    EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"(new filter)");
+    EXPECT_EQ(name(), L"New filter");
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Elsewhere");
+    EXPECT_EQ(Kinds(L"Inbox") + Kinds(L"Drafts"), "MMFFMMF");
+
+    Open(program);
+    Press(kOutlook, kArchive);
+    EXPECT_EQ(name(), L"Archive");
+    Press(kOutlook, kInbox);
+    EXPECT_EQ(name(), L"Mail filter 1");
+    Press(kOutlook, kArchive);
+    EXPECT_EQ(name(), L"Inbox");
+    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"");
+    Press(kHomeMail, 0);
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Mail filter 1");
+    EXPECT_EQ(Kinds(L"Mail filter 1"), "MF");
+
+    Open(program);
+    EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"Mail filter 1");
+    EXPECT_TRUE(IsTicked(kOutlook, kInbox) && IsTicked(kHomeMail, 0));
+    EXPECT_FALSE(IsTicked(kOutlook, kArchive) || IsEnabled(page_, IDC_MAIL_FILTER_NAME));
+    Press(kOutlook, kArchive);
+    Press(kOutlook, kInbox);
+    Press(kHomeMail, 1);
+    ChooseFilter(L"Inbox");
+    EXPECT_FALSE(IsTicked(kOutlook, kArchive) || IsEnabled(page_, IDC_MAIL_FILTER_DELETE));
+    EXPECT_TRUE(IsTicked(kOutlook, kInbox));
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Inbox");
+    EXPECT_EQ(Kinds(L"Mail filter 1"), "FMF");
+
+    for (const bool confirm : {false, true}) {
+        OpenProductKey().WriteString(L"EmailFilter", L"Mail filter 1");
+        Open(program);
+        Click(page_, IDC_MAIL_FILTER_DELETE);
+        EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"(new filter)");
+        ASSERT_TRUE(confirm ? Ok(sheet_) : Cancel(sheet_));
+        EXPECT_EQ(Kinds(L"Mail filter 1"), confirm ? "-" : "FMF");
+        EXPECT_EQ(StoredText(L"EmailFilter"), confirm ? L"" : L"Mail filter 1");
+    }
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(MessagesPages, WhatCannotBeStoredKeepsTheSheetOpen) {
+    {
+        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\MailFilters").c_str(),
+                         true, true);
+        std::string bytes;  // 17 records of 240 bytes, which leave no room for another one
+        for (char i = 'a'; i < 'a' + 17; ++i) {
+            bytes += std::string("M\xEB", 2) + std::string(235, i) + std::string("\1n\0", 3);
+        }
+        ASSERT_TRUE(key.WriteBinary(L"Large", bytes.data(), static_cast<DWORD>(bytes.size())));
+    }
+    Program program;
+    Open(program);
+    Press(kOutlook, kArchive);
+    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"lARGE");
+    PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
+    const HWND box = program.Sheet(L"Lum Diary Options");
+    ASSERT_TRUE(box);
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    ASSERT_TRUE(Until([&] { return !IsWindow(box); }));
+    EXPECT_TRUE(IsWindow(sheet_));
+    EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"Large");
+    EXPECT_EQ(Kinds(L"Inbox"), "-");
+    Press(kOutlook, kArchive);
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Kinds(L"Large"), std::string(17, 'M'));
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Large");
+}
+
+}  // namespace
