@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/module.h"
+#include "appearance/category_icons.h"
 #include "appearance/scale.h"
 #include "resources/ids.h"
 #include "settings/catalogue.h"
@@ -113,6 +114,7 @@ bool SkinArt::IsValid() {
 
 void SkinArt::Reset() {
     for (OwnedIcon& icon : iconHandles_) icon.Reset();
+    GetCategoryIcons().Drop();
     path_.clear();
     icons_.reset();
     scrollBar_.reset();

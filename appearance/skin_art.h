@@ -36,7 +36,7 @@ class SkinArt {
     LoadResult LoadTabIcons();
     // Whether the skin, which is loaded anew, opens and has all it needs.
     bool IsValid();
-    // Forgets what is loaded, so that the skin chosen then is opened next.
+    // Forgets what is loaded, category icons included, so that the skin chosen then is opened next.
     void Reset();
 
     // The strips and tab icons once loaded; null before.

@@ -60,7 +60,8 @@ void FullScreenDialog::InitFullScreenDialog() {
     SHMENUBARINFO bar = {};
     bar.cbSize = sizeof bar;
     bar.hwndParent = hwnd();
-    bar.dwFlags = SHCMBF_EMPTYBAR;
+    bar.dwFlags = MenuBarId() ? SHCMBF_HMENU : SHCMBF_EMPTYBAR;
+    bar.nToolBarId = MenuBarId();
     bar.hInstRes = ResourceLibrary();
     SHCreateMenuBar(&bar);
 
