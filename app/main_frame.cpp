@@ -215,7 +215,7 @@ void MainFrame::OnClose() {
     }
     if (!IsWindowEnabled(modal)) return;  // A message box wants its answer first.
     closing_ = true;
-    PostMessageW(modal, WM_CLOSE, 0, 0);
+    ModalWindow::CancelAll();
 }
 
 void MainFrame::OnDestroy() {

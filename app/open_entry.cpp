@@ -9,6 +9,7 @@
 #include "pages/calendar_common_page.h"
 #include "pages/calendar_show_page.h"
 #include "pages/calendar_tasks_page.h"
+#include "pages/category_dialog.h"
 #include "pages/general_auto_return_page.h"
 #include "pages/general_common_page.h"
 #include "pages/general_font_page.h"
@@ -55,12 +56,18 @@ constexpr MainEntry kEntries[] = {
 
 // Its pages change what the cached fonts were made from.
 constexpr WPARAM kGeneralEntry = 0;
+// A dialog, not a sheet.
+constexpr WPARAM kCategoryEntry = 7;
 
 }  // namespace
 
 std::span<const MainEntry> MainEntries() { return kEntries; }
 
 bool OpenEntry(WPARAM entry, LPARAM page) {
+    if (entry == kCategoryEntry) {
+        CategoryDialog dialog;
+        return dialog.DoModal(GetActiveWindow()) > 0;
+    }
     if (entry >= std::size(kEntries) || kEntries[entry].pages.empty()) return false;
     const MainEntry& row = kEntries[entry];
     std::vector<std::unique_ptr<OptionsPage>> pages;  // Outlive the sheet.

@@ -13,6 +13,7 @@ add_library(diary_pure STATIC
   appearance/icon_catalogue.cpp
   appearance/icon_grid.cpp
   appearance/icon_sources.cpp
+  appearance/short_path.cpp
   appearance/skin_list.cpp
   appearance/strip.cpp
   pages/stores/settings_ini.cpp

@@ -23,8 +23,8 @@ await_window() { # TITLE
     done
 }
 
-# A picture of the screen once it has stopped changing.
-take_picture() { # FILE
+# Waits until the screen has stopped changing.
+settle() {
     local previous='' current=''
     for _ in $(seq 40); do
         sleep 0.15
@@ -32,6 +32,10 @@ take_picture() { # FILE
         [ "$current" != "$previous" ] || break
         previous=$current
     done
+}
+
+take_picture() { # FILE
+    settle
     mkdir -p "$(dirname "$1")"
     import-im6.q16 -display "$DISPLAY" -window root "$1"
 }
@@ -102,14 +106,33 @@ run_demo() { # OUTPUT
     say "Pictures of each step are in ${1#"$ROOT"/}"
 }
 
-# Entry, page and name of every page there is.
+# Entry and page, and name, of every page and dialog there is. A dialog that is reached from there follows as the
+# keys that lead to it, each with the title it brings up: KEY=TITLE, with "_" for a blank.
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks"
     "2:0 tasks_common"
     "6:0 special_events_common"
+    "7:0 category_icons_main" "7:0 category_icons_chooser Return=Choose_icon"
+    "7:0 category_icons_sources Return=Choose_icon F10=" "7:0 category_icons_colors Tab= Tab= space="
+    "7:0 category_icons_folders Return=Choose_icon F10= Up= Return=Choose_folder"
 )
+
+picture_page() { # FOLDER PAGE NAME KEYS...
+    local folder=$1 page=$2 name=$3 key
+    shift 3
+    start_program "$STAGE" "-P$page"
+    await_window '(.* options|Category Icons)'
+    for key in "$@"; do
+        settle
+        xdotool key "${key%%=*}"
+        key=${key#*=}
+        [ -z "$key" ] || await_window "${key//_/ }"
+    done
+    take_picture "$folder/$name.png"
+    close_program
+}
 
 run_gallery() { # OUTPUT
     rm -rf "$1"
@@ -126,10 +149,7 @@ run_gallery() { # OUTPUT
         take_picture "$1/$name/about.png"
         close_program
         for page in "${GALLERY_PAGES[@]}"; do
-            start_program "$STAGE" "-P${page%% *}"
-            await_window '.* options'
-            take_picture "$1/$name/${page#* }.png"
-            close_program
+            picture_page "$1/$name" $page
         done
         close_stage
     done
