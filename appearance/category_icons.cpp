@@ -7,7 +7,7 @@ void CategoryIcons::Load(const std::wstring& folder, const std::vector<std::wstr
     bitmaps_.clear();
     bitmaps_.resize(categories.size());
     for (std::size_t i = 0; i < categories.size(); ++i) {
-        if (categories[i].empty()) continue;
+        if (folder.empty() || categories[i].empty()) continue;
         bitmaps_[i] = LoadIconBitmap(CategoryIconPath(folder, categories[i]));
     }
     loaded_ = true;

@@ -12,7 +12,7 @@ class CategoryIcons {
   public:
     bool IsLoaded() const { return loaded_; }
     // Loads each category's icon from the folder; one without a name, or without an icon that can
-    // be loaded, has none.
+    // be loaded, has none. Without a folder there are no icons.
     void Load(const std::wstring& folder, const std::vector<std::wstring>& categories);
     // Null for none.
     HBITMAP Get(int index) const;

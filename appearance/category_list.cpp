@@ -164,7 +164,7 @@ bool CategoryList::SetIcon(int index, const std::wstring& source) {
 }
 
 void CategoryList::RemoveIcon(int index) {
-    if (!HasName(index)) return;
+    if (!HasName(index) || Folder().empty()) return;
     DeleteCategoryIcon(Folder(), At(index).name);
     for (int i = 0; i < Count(); ++i) {
         if (_wcsicmp(At(i).name.c_str(), At(index).name.c_str()) == 0) GetCategoryIcons().Remove(i);

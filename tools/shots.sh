@@ -45,11 +45,21 @@ close_program() {
     wait "$PROGRAM_PID" || true
 }
 
+# Some of the owner's categories have icons.
+give_icons() { # INSTALLATION
+    mkdir -p "$1/Icons"
+    local category
+    for category in Business=briefcase Personal=heart Holiday=suitcase Birthday=birthday Work%CHome=house; do
+        cp "$1/IconSet/${category#*=}.bmp" "$1/Icons/${category%=*}.bmp"
+    done
+}
+
 # A fresh device on a display of its own, for the length of one picture-taking.
 open_stage() { # NAME DPI SIZE
     STAGE=$ROOT/build/stage/$1
     rm -rf "$STAGE" "${WINE_DIR:?}/$1"
     furnish_device "$STAGE" "$BIN" "$2"
+    give_icons "$STAGE/Program Files/Lum Diary"
     start_display "$3"
     start_session "$1" "$2" "$STAGE"
     trap 'end_session; end_display' EXIT
@@ -115,7 +125,7 @@ GALLERY_PAGES=(
     "2:0 tasks_common"
     "6:0 special_events_common"
     "7:0 category_icons_main" "7:0 category_icons_chooser Return=Choose_icon"
-    "7:0 category_icons_sources Return=Choose_icon F10=" "7:0 category_icons_colors Tab= Tab= space="
+    "7:0 category_icons_sources Return=Choose_icon F10=" "7:0 category_icons_colors Tab= Tab= Tab= space="
     "7:0 category_icons_folders Return=Choose_icon F10= Up= Return=Choose_folder"
 )
 
