@@ -29,6 +29,9 @@ class FullScreenDialog : public Dialog {
     virtual unsigned MenuBarId() const { return 0; }
     // Paints a preview, or an entry of a list that the dialog draws itself.
     virtual void OnDrawItem(const DRAWITEMSTRUCT&) {}
+    // A control that takes all below the title band and scrolls by itself; null where the dialog
+    // scrolls.
+    virtual HWND FillingControl() const { return nullptr; }
     // Height in pixels of the title band; 0 for a dialog without one.
     virtual int BandHeight() const;
     virtual std::wstring BandTitle() const;

@@ -76,7 +76,9 @@ void CategoryDialog::OnHelp() { LaunchHelp(L"options_category_icons_main"); }
 void CategoryDialog::FitListToScreen() {
     const HWND list = Item(IDC_CATEGORY_LIST);
     RECT client, area;
-    GetClientRect(hwnd(), &client);
+    // Without the scroll bar, which is there only until it is known that nothing needs it.
+    GetWindowRect(hwnd(), &client);
+    MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&client), 2);
     const auto areaOf = [this](HWND control) {
         RECT rect;
         GetWindowRect(control, &rect);
@@ -173,7 +175,8 @@ void CategoryDialog::UpdateControls() {
     EnableWindow(slider, color != kNoColor);
     // The keys must not stay with a control that can no longer be used.
     if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
-        SetFocus(Item(IDC_CATEGORY_LIST));
+        SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_CATEGORY_LIST)),
+                     TRUE);
     }
 }
 

@@ -9,7 +9,6 @@
 #include "appearance/short_path.h"
 #include "appearance/skin_art.h"
 #include "controls/owned_handle.h"
-#include "controls/title_band.h"
 #include "controls/wait_cursor.h"
 #include "pages/icon_folder_dialog.h"
 #include "resources/ids.h"
@@ -48,38 +47,22 @@ std::wstring IconChooser::BandTitle() const {
 
 bool IconChooser::OnInit() {
     sources_ = std::make_unique<IconSources>(FindFixedIconSources(), ReadRememberedFolders());
+    list_.Create(hwnd(), IDC_ICON_LIST, RECT{}, PaintMark);
     return false;
 }
 
 bool IconChooser::OnInitDialog() {
     FullScreenDialog::OnInitDialog();
-    // Now that the dialog knows of nothing to scroll: the list scrolls by itself.
-    list_.Create(hwnd(), IDC_ICON_LIST, ListArea(), PaintMark);
     SetFocus(list_.hwnd());
-    ShowWindow(hwnd(), SW_SHOW);
-    UpdateWindow(hwnd());
     const std::uint32_t source =
         OpenProductKey().ReadDword(settings::IconSetId.name, settings::IconSetId.defaultValue);
     if (const auto folders = sources_->Show(static_cast<std::int32_t>(source))) Load(*folders);
     return false;
 }
 
-// All below the title band and its line.
-RECT IconChooser::ListArea() const {
-    RECT area = {};
-    GetClientRect(hwnd(), &area);
-    area.top = TitleBandHeight() + ScaleY(1);
-    return area;
-}
-
 std::optional<INT_PTR> IconChooser::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     // A menu that is open goes with the dialog.
     if (message == WM_CLOSE) SendMessageW(hwnd(), WM_CANCELMODE, 0, 0);
-    if (message == WM_SIZE && list_.hwnd()) {
-        const RECT area = ListArea();
-        MoveWindow(list_.hwnd(), area.left, area.top, area.right - area.left,
-                   area.bottom - area.top, TRUE);
-    }
     return FullScreenDialog::OnMessage(message, wParam, lParam);
 }
 

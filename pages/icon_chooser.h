@@ -27,9 +27,9 @@ class IconChooser : public FullScreenDialog {
     void OnHelp() override;
     unsigned MenuBarId() const override;
     std::wstring BandTitle() const override;
+    HWND FillingControl() const override { return list_.hwnd(); }
 
   private:
-    RECT ListArea() const;
     // Loads folders in place of what the list shows.
     void Load(const std::vector<std::wstring>& folders);
     void ChooseSource();

@@ -1,8 +1,6 @@
 #include "pages/icon_folder_dialog.h"
 
 #include "app/launch_help.h"
-#include "appearance/scale.h"
-#include "controls/title_band.h"
 #include "controls/wait_cursor.h"
 #include "resources/ids.h"
 
@@ -55,16 +53,8 @@ bool IconFolderDialog::OnInit() {
 
 bool IconFolderDialog::OnInitDialog() {
     FullScreenDialog::OnInitDialog();
-    FitTree();
     SetFocus(Tree());
     return false;
-}
-
-void IconFolderDialog::FitTree() const {
-    RECT area = {};
-    GetClientRect(hwnd(), &area);
-    const int top = TitleBandHeight() + ScaleY(1);
-    MoveWindow(Tree(), 0, top, area.right, area.bottom - top, TRUE);
 }
 
 // From the root of the device, without a backslash at the end.
@@ -99,7 +89,6 @@ void IconFolderDialog::ListFolders(HTREEITEM parent) {
 }
 
 std::optional<INT_PTR> IconFolderDialog::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_SIZE && Tree()) FitTree();
     if (message != WM_NOTIFY) return FullScreenDialog::OnMessage(message, wParam, lParam);
     switch (reinterpret_cast<const NMHDR*>(lParam)->code) {
         case TVN_GETDISPINFOW: {

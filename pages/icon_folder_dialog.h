@@ -24,10 +24,10 @@ class IconFolderDialog : public FullScreenDialog {
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnHelp() override;
     std::wstring BandTitle() const override;
+    HWND FillingControl() const override { return Tree(); }
 
   private:
     HWND Tree() const;
-    void FitTree() const;
     std::wstring PathOf(HTREEITEM item) const;
     void ListFolders(HTREEITEM parent);
 
