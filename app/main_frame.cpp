@@ -215,7 +215,7 @@ void MainFrame::OnClose() {
     }
     if (!IsWindowEnabled(modal)) return;  // A message box wants its answer first.
     closing_ = true;
-    ModalWindow::CloseAll();
+    ModalWindow::CancelAll();
 }
 
 void MainFrame::OnDestroy() {

@@ -7,7 +7,8 @@ TabSettings TabSettings::Read() {
     CSettingsKey key = OpenProductKey();
     TabSettings tabs;
     tabs.showTabs = key.ReadDword(settings::ShowTabs.name, settings::ShowTabs.defaultValue);
-    tabs.sequence = key.ReadString(settings::ShowTabsSequence, L"");
+    tabs.sequence =
+        key.ReadString(settings::ShowTabsSequence.name, settings::ShowTabsSequence.defaultText);
     return tabs;
 }
 

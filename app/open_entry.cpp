@@ -10,6 +10,7 @@
 #include "pages/calendar_show_page.h"
 #include "pages/calendar_tasks_page.h"
 #include "pages/calendar_titles_page.h"
+#include "pages/category_dialog.h"
 #include "pages/contacts_common_page.h"
 #include "pages/contacts_view_style_page.h"
 #include "pages/flag_icons_page.h"
@@ -80,12 +81,18 @@ constexpr MainEntry kEntries[] = {
 
 // Its pages change what the cached fonts were made from.
 constexpr WPARAM kGeneralEntry = 0;
+// A dialog, not a sheet.
+constexpr WPARAM kCategoryEntry = 7;
 
 }  // namespace
 
 std::span<const MainEntry> MainEntries() { return kEntries; }
 
 bool OpenEntry(WPARAM entry, LPARAM page) {
+    if (entry == kCategoryEntry) {
+        CategoryDialog dialog;
+        return dialog.DoModal(GetActiveWindow()) > 0;
+    }
     if (entry >= std::size(kEntries) || kEntries[entry].pages.empty()) return false;
     const MainEntry& row = kEntries[entry];
     ForgetTitleDraft();

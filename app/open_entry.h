@@ -21,6 +21,6 @@ struct MainEntry {
 // In the order of the main screen.
 std::span<const MainEntry> MainEntries();
 
-// Opens an entry's sheet at a page, over the active window, until it is closed. True when it ended
-// with a change. An entry that does not exist, or has no pages, does nothing.
+// Opens an entry's sheet at a page, or its dialog, over the active window, until it is closed. True
+// when it ended with a change. An entry that does not exist, or has no pages, does nothing.
 bool OpenEntry(WPARAM entry, LPARAM page);

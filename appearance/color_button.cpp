@@ -69,9 +69,18 @@ bool ColorButton::OnCommand(int id, int code) {
         case BN_CLICKED: Choose(); return true;
         case BN_KILLFOCUS:
             list_.Dismiss();
+            SendMessageW(GetParent(hwnd_), DM_SETDEFID, static_cast<WPARAM>(defaultId_), 0);
             Repaint();
             return true;
-        case BN_SETFOCUS: Repaint(); return true;
+        case BN_SETFOCUS: {
+            // Enter presses the button that has the focus, which a dialog does not see to for
+            // one that draws itself.
+            const LRESULT usual = SendMessageW(GetParent(hwnd_), DM_GETDEFID, 0, 0);
+            defaultId_ = HIWORD(usual) == DC_HASDEFID ? LOWORD(usual) : 0;
+            SendMessageW(GetParent(hwnd_), DM_SETDEFID, static_cast<WPARAM>(id_), 0);
+            Repaint();
+            return true;
+        }
     }
     return false;
 }

@@ -40,6 +40,7 @@ class ColorButton {
     int id_ = 0;
     COLORREF color_ = kNoColor;
     bool pressed_ = false;
+    int defaultId_ = 0;  // the dialog's default button while another has the focus; 0 for none
     std::array<OwnedBitmap, 4> faces_;
     CColorsListWindow list_;
 };

@@ -61,7 +61,8 @@ bool CColorsListWindow::Run(const GridCell& selected) {
     selected_ = selected;
     state_ = State::kOpen;
     const GridPoint place = Place();
-    SetWindowPos(hwnd(), HWND_TOP, place.x, place.y, 0, 0,
+    // Above all else, the menu bar included, as a drop-down list is.
+    SetWindowPos(hwnd(), HWND_TOPMOST, place.x, place.y, 0, 0,
                  SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     SetCapture(hwnd());
 

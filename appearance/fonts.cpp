@@ -50,7 +50,7 @@ LOGFONTW Describe(const ListFontSettings& settings) {
 ListFontSettings Stored() {
     CSettingsKey key = OpenProductKey();
     ListFontSettings result;
-    result.face = key.ReadString(settings::FontName, kSystemFace);
+    result.face = key.ReadString(settings::FontName.name, settings::FontName.defaultText);
     result.height = static_cast<std::int32_t>(
         key.ReadDword(settings::FontHeight.name, settings::FontHeight.defaultValue));
     result.clearType = key.ReadDword(settings::ClearTypeWhenDrawing.name,

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/module.h"
+#include "appearance/category_icons.h"
 #include "appearance/scale.h"
 #include "resources/ids.h"
 #include "settings/catalogue.h"
@@ -57,8 +58,9 @@ OwnedImageList CutSquares(const BitmapView& view, int size) {
 
 std::wstring CurrentSkinName() {
     CSettingsKey key = OpenProductKey();
-    const std::wstring name = key.ReadString(settings::SkinName, kDefaultSkin);
-    return name.empty() ? kDefaultSkin : name;
+    const std::wstring name =
+        key.ReadString(settings::SkinName.name, settings::SkinName.defaultText);
+    return name.empty() ? settings::SkinName.defaultText : name;
 }
 
 std::wstring SkinsFolder() { return GetInstallPath(L"Skins\\"); }
@@ -113,6 +115,7 @@ bool SkinArt::IsValid() {
 
 void SkinArt::Reset() {
     for (OwnedIcon& icon : iconHandles_) icon.Reset();
+    GetCategoryIcons().Drop();
     path_.clear();
     icons_.reset();
     scrollBar_.reset();

@@ -9,10 +9,7 @@
 #include "appearance/skin_strip.h"
 #include "controls/owned_handle.h"
 
-// The skin that counts when the user has chosen none, or the value is empty.
-inline constexpr wchar_t kDefaultSkin[] = L"NewStyle";
-
-// The chosen skin's name.
+// The chosen skin's name; where it is empty, the default one's.
 std::wstring CurrentSkinName();
 // The folder that holds the skins, with a backslash at its end.
 std::wstring SkinsFolder();
@@ -36,7 +33,7 @@ class SkinArt {
     LoadResult LoadTabIcons();
     // Whether the skin, which is loaded anew, opens and has all it needs.
     bool IsValid();
-    // Forgets what is loaded, so that the skin chosen then is opened next.
+    // Forgets what is loaded, category icons included, so that the skin chosen then is opened next.
     void Reset();
 
     // The strips and tab icons once loaded; null before.

@@ -7,6 +7,7 @@ add_library(diary_models STATIC
   appearance/archive.cpp
   appearance/category_color_store.cpp
   appearance/category_icon_files.cpp
+  appearance/category_icons.cpp
   appearance/date_formats.cpp
   appearance/fonts.cpp
   appearance/icon_digest.cpp
@@ -38,8 +39,10 @@ add_library(diary_models STATIC
 )
 target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE diary_warnings minizip)
 
-# Controls that need no dialog of the program's; tests open them in dialogs of their own.
+# Controls that need no dialog of the program's, which tests open in dialogs of their own, and what has a
+# window to hear of changes.
 add_library(diary_controls STATIC
+  appearance/category_list.cpp
   appearance/color_button.cpp
   appearance/colors_list_window.cpp
   appearance/icons_list_control.cpp

@@ -16,6 +16,7 @@ add_library(diary_pure STATIC
   appearance/icon_grid.cpp
   appearance/icon_sources.cpp
   appearance/note_label.cpp
+  appearance/short_path.cpp
   appearance/skin_list.cpp
   appearance/strip.cpp
   pages/stores/mail_filter.cpp

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int kResourceTypeDialogInit = 240;
+constexpr int kBandLine = 1;       // under the title band
 constexpr int kBottomMargin = 8;   // below the last control
 constexpr int kScrollStep = 16;    // one line of the scroll bar
 constexpr int kFocusMargin = 4;    // around a control that is scrolled into view
@@ -60,7 +61,8 @@ void FullScreenDialog::InitFullScreenDialog() {
     SHMENUBARINFO bar = {};
     bar.cbSize = sizeof bar;
     bar.hwndParent = hwnd();
-    bar.dwFlags = SHCMBF_EMPTYBAR;
+    bar.dwFlags = MenuBarId() ? SHCMBF_HMENU : SHCMBF_EMPTYBAR;
+    bar.nToolBarId = MenuBarId();
     bar.hInstRes = ResourceLibrary();
     SHCreateMenuBar(&bar);
 
@@ -164,6 +166,13 @@ int FullScreenDialog::ScrollPosition() const { return VerticalScroll(hwnd(), SIF
 void FullScreenDialog::UpdateScrollRange() {
     if (!contentHeight_) return;
     const int height = ClientHeight(hwnd());
+    if (const HWND filling = FillingControl()) {
+        RECT client = {};
+        GetClientRect(hwnd(), &client);
+        const int top = BandHeight() + ScaleY(kBandLine);
+        MoveWindow(filling, 0, top, client.right, height - top, TRUE);
+        return;
+    }
     ScrollTo(ScrollPosition());
     SCROLLINFO info = {};
     info.cbSize = sizeof info;

@@ -6,7 +6,7 @@
 #include "controls/dialog.h"
 #include "controls/modal_windows.h"
 
-// What every options page and full-screen dialog shares: Done button, empty menu bar, title band,
+// What every options page and full-screen dialog shares: Done button, menu bar, title band,
 // lists filled from the resource library, translated texts, and scrolling where the screen is too
 // low.
 class FullScreenDialog : public Dialog {
@@ -25,8 +25,13 @@ class FullScreenDialog : public Dialog {
     // WM_COMMAND of a control or menu; true when handled.
     virtual bool OnCommand(int id, int code);
     virtual void OnHelp() = 0;
+    // The menu of the library that the menu bar shows; 0 leaves it empty.
+    virtual unsigned MenuBarId() const { return 0; }
     // Paints a preview, or an entry of a list that the dialog draws itself.
     virtual void OnDrawItem(const DRAWITEMSTRUCT&) {}
+    // A control that takes all below the title band and scrolls by itself; null where the dialog
+    // scrolls.
+    virtual HWND FillingControl() const { return nullptr; }
     // Height in pixels of the title band; 0 for a dialog without one.
     virtual int BandHeight() const;
     virtual std::wstring BandTitle() const;

@@ -38,7 +38,8 @@ void GeneralFontPage::OnLoad(PageValues& values) {
     FillFaces();
     current_.clearType = values.Read(settings::ClearTypeOnPage);
     current_.height = static_cast<std::int32_t>(values.Read(settings::FontHeight));
-    current_.face = OpenProductKey().ReadString(settings::FontName, L"Tahoma");
+    current_.face =
+        OpenProductKey().ReadString(settings::FontName.name, settings::FontName.defaultText);
     SetDlgItemTextW(hwnd(), IDC_FONT_EXPLANATION,
                     GetLanguageTable().LoadString(IDS_FONT_EXPLANATION).c_str());
     if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem();
@@ -102,7 +103,7 @@ void GeneralFontPage::OnSave(PageValues& values) {
     FollowSystem();
     values.Write(settings::ClearTypeOnPage, current_.clearType);
     values.Write(settings::FontHeight, static_cast<std::uint32_t>(current_.height));
-    OpenProductKey().WriteString(settings::FontName, current_.face.c_str());
+    OpenProductKey().WriteString(settings::FontName.name, current_.face.c_str());
     ResetListFonts();
 }
 

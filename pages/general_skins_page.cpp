@@ -64,10 +64,10 @@ bool GeneralSkinsPage::OnCommand(int id, int code) {
 void GeneralSkinsPage::OnSkinChosen() {
     const int chosen = Selection(IDC_SKIN);
     if (chosen < 0) return;
-    OpenProductKey().WriteString(settings::SkinName, ItemText(IDC_SKIN, chosen).c_str());
+    OpenProductKey().WriteString(settings::SkinName.name, ItemText(IDC_SKIN, chosen).c_str());
     const bool valid = GetSkinArt().IsValid();
     if (!valid) {
-        OpenProductKey().WriteString(settings::SkinName, startingSkin_.c_str());
+        OpenProductKey().WriteString(settings::SkinName.name, startingSkin_.c_str());
         GetSkinArt().Reset();
         SelectSkin(startingSkin_);
     }

@@ -25,7 +25,8 @@ void GeneralTabsPage::OnLoad(PageValues& values) {
     list_.Attach(Item(IDC_TABS_LIST), CheckList::Order::kMovable);
     const TabLayout layout =
         TabLayout::Parse(values.Read(settings::ShowTabs),
-                         OpenProductKey().ReadString(settings::ShowTabsSequence, L""));
+                         OpenProductKey().ReadString(settings::ShowTabsSequence.name,
+                                                     settings::ShowTabsSequence.defaultText));
     for (int i = 0; i <= kLastTab; ++i) {
         const int tab = layout.order[static_cast<std::size_t>(i)];
         list_.Insert(i, GetLanguageTable().LoadString(Tab(tab).label), tab,
@@ -82,7 +83,7 @@ void GeneralTabsPage::OnSave(PageValues& values) {
         if (!list_.IsChecked(i)) layout.shown &= ~Tab(tab).bit;
     }
     values.Write(settings::ShowTabs, layout.shown);
-    OpenProductKey().WriteString(settings::ShowTabsSequence, layout.Sequence().c_str());
+    OpenProductKey().WriteString(settings::ShowTabsSequence.name, layout.Sequence().c_str());
 
     const bool apart = Registration::Probe().state == Registration::kTabPerHostTab;
     const int smallest = SmallestHeight(layout.shown, apart);

@@ -33,7 +33,7 @@ void SaveHidden(const wchar_t* valueName, const std::vector<std::wstring>& names
 NotesFilterPage::NotesFilterPage() : OptionsPage(IDD_NOTES_FILTER, L"notes_filter", {}) {}
 
 void NotesFilterPage::OnLoad(PageValues&) {
-    const std::vector<std::wstring> hidden = LoadHidden(settings::HiddenFolders);
+    const std::vector<std::wstring> hidden = LoadHidden(settings::HiddenFolders.name);
     const HWND list = Item(IDC_NOTES_FOLDERS);
     list_.Attach(list, CheckList::Order::kFixed);
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
@@ -49,7 +49,7 @@ void NotesFilterPage::OnLoad(PageValues&) {
 
 void NotesFilterPage::OnSave(PageValues&) {
     // Read anew: names of folders that are not there now stay hidden.
-    std::vector<std::wstring> hidden = LoadHidden(settings::HiddenFolders);
+    std::vector<std::wstring> hidden = LoadHidden(settings::HiddenFolders.name);
     for (int i = 0; i < list_.Count(); ++i) {
         const std::wstring& name = folders_[static_cast<std::size_t>(i)];
         const auto found = std::ranges::find(hidden, name);
@@ -59,7 +59,7 @@ void NotesFilterPage::OnSave(PageValues&) {
             hidden.push_back(name);
         }
     }
-    SaveHidden(settings::HiddenFolders, hidden);
+    SaveHidden(settings::HiddenFolders.name, hidden);
 }
 
 std::optional<INT_PTR> NotesFilterPage::OnControlNotification(const NMHDR& header) {

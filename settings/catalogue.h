@@ -9,11 +9,17 @@ struct NumberSetting {
     std::uint32_t defaultValue = 0;
 };
 
+// A text, likewise; without a default a missing one is empty and is not created.
+struct TextSetting {
+    const wchar_t* name = nullptr;
+    const wchar_t* defaultText = nullptr;
+};
+
 namespace settings {
 
 // The main window and the plug-in's tabs: a bit for each tab, and their order.
 inline constexpr NumberSetting ShowTabs{L"ShowTabs", 0xFFFFFFFF};
-inline constexpr const wchar_t ShowTabsSequence[] = L"ShowTabsSequence";
+inline constexpr TextSetting ShowTabsSequence{L"ShowTabsSequence", L""};
 inline constexpr NumberSetting AllTabsInShell{L"AllTabsInShell", 1};
 
 // The plug-in's size in pixels, portrait and landscape, when nothing smaller is possible.
@@ -41,13 +47,13 @@ inline constexpr NumberSetting ShortDateShortYear{L"ShortDate_ShortYear", 1};
 // The font of the lists. The page that edits ClearType and whoever draws first differ in its
 // default.
 inline constexpr NumberSetting UseSystem{L"UseSystem", 1};
-inline constexpr const wchar_t FontName[] = L"FontName";
+inline constexpr TextSetting FontName{L"FontName", L"Tahoma"};
 inline constexpr NumberSetting FontHeight{L"FontHeight", 12};
 inline constexpr NumberSetting ClearTypeOnPage{L"ClearType", 2};
 inline constexpr NumberSetting ClearTypeWhenDrawing{L"ClearType", 0};
 
 // The skin's name; its default stands with the artwork, as an empty name means the same.
-inline constexpr const wchar_t SkinName[] = L"SkinName";
+inline constexpr TextSetting SkinName{L"SkinName", L"NewStyle"};
 
 // Return to a view after idle time (seconds, 0: never), keyboard.
 inline constexpr NumberSetting TimeoutTime{L"TimeoutTime", 900};
@@ -81,7 +87,7 @@ inline constexpr NumberSetting TasksShowCompletedTasks{L"TasksShowCompletedTasks
 inline constexpr NumberSetting NotesGroupBy{L"NotesGroupBy", 559};
 inline constexpr NumberSetting NoteSortOrder{L"NoteSortOrder", 1};
 inline constexpr NumberSetting NotesOneTap{L"NotesOneTap", 2};
-inline constexpr const wchar_t HiddenFolders[] = L"HiddenFolders";
+inline constexpr TextSetting HiddenFolders{L"HiddenFolders", L""};
 
 // Contacts. The grouping is a code.
 inline constexpr NumberSetting ContactsGroupBy{L"ContactsGroupBy", 551};
@@ -89,9 +95,8 @@ inline constexpr NumberSetting ContactsShowPhotoContacts{L"ContactsShowPhotoCont
 
 // Keyboard layouts of a tab, whose name comes before: those it offers, by name, and the position
 // of the active one (-1: none).
-inline constexpr const wchar_t LayoutsSuffix[] = L"_layouts";
-inline constexpr const wchar_t LayoutsDefault[] = L"Latin";
-inline constexpr const wchar_t LayoutActiveSuffix[] = L"_layout_active";
+inline constexpr TextSetting TabLayouts{L"_layouts", L"Latin"};
+inline constexpr NumberSetting TabLayoutActive{L"_layout_active", 0};
 
 // Special events. Transactions default to what the device can show.
 inline constexpr NumberSetting SpecialShowBirthdays{L"SpecialShowBirthdays", 1};
@@ -105,7 +110,7 @@ inline constexpr NumberSetting EmailsOneTap{L"EmailsOneTap", 2};
 inline constexpr NumberSetting MessagesSetAsReadedPreview{L"Messages_SetAsReadedPreview", 1};
 inline constexpr NumberSetting MessagesInCalendar{L"Calendar_ShowEmails", 1};
 // The name of the active filter of mail folders; none is active without it.
-inline constexpr const wchar_t EmailFilter[] = L"EmailFilter";
+inline constexpr TextSetting EmailFilter{L"EmailFilter", nullptr};
 
 // Colours of appointments by how busy they make, as 0x00BBGGRR. The plug-in knows two of them under
 // these very spellings.

@@ -94,9 +94,9 @@ std::wstring KeyboardLayouts::NameOf(const KeyboardLayout* layout) const {
 OfferedLayouts KeyboardLayouts::LoadOffered(const std::wstring& tab) {
     CSettingsKey key = OpenProductKey();
     const std::wstring names =
-        key.ReadString((tab + settings::LayoutsSuffix).c_str(), settings::LayoutsDefault);
-    const auto active =
-        static_cast<std::int32_t>(key.ReadDword((tab + settings::LayoutActiveSuffix).c_str(), 0));
+        key.ReadString((tab + settings::TabLayouts.name).c_str(), settings::TabLayouts.defaultText);
+    const auto active = static_cast<std::int32_t>(key.ReadDword(
+        (tab + settings::TabLayoutActive.name).c_str(), settings::TabLayoutActive.defaultValue));
     return OfferedLayouts::Parse(names, active,
                                  [this](const std::wstring& name) { return Find(name); });
 }
@@ -108,8 +108,8 @@ void KeyboardLayouts::SaveOffered(const std::wstring& tab, const OfferedLayouts&
         names += NameOf(layout);
     }
     CSettingsKey key = OpenProductKey();
-    key.WriteString((tab + settings::LayoutsSuffix).c_str(), names.c_str());
-    key.WriteDword((tab + settings::LayoutActiveSuffix).c_str(),
+    key.WriteString((tab + settings::TabLayouts.name).c_str(), names.c_str());
+    key.WriteDword((tab + settings::TabLayoutActive.name).c_str(),
                    static_cast<std::uint32_t>(offered.active));
 }
 

@@ -34,8 +34,8 @@ def catalogue(root):
     for code, name, default in re.findall(
             r'NumberSetting (\w+)\{\s*L"([^"]+)",\s*([^}]+)\};', text):
         yield Value(name, "number", default.strip(), f"settings::{code}\\b")
-    for code, name in re.findall(r'wchar_t (\w+)\[\] = L"([^"]+)"', text):
-        yield Value(name, "text", "", f"settings::{code}\\b")
+    for code, name, default in re.findall(r'TextSetting (\w+)\{L"([^"]+)", (?:L"([^"]*)"|nullptr)\};', text):
+        yield Value(name, "text", default, f"settings::{code}\\b")
     # A setting whose default depends on the device.
     for code, body in re.findall(r"constexpr NumberSetting (\w+)\([^)]*\) \{(.*?)\n\}", text, re.DOTALL):
         for name in re.findall(r'L"([^"]+)"', body):
@@ -47,14 +47,26 @@ def shared(root):
     for member, name, default in re.findall(
             r'\{&CDiarySettings::(\w+), L"([^"]+)", ([^,}]+)', text):
         kind = "text" if default.startswith("L") else "number"
-        yield Value(name, kind, default.strip('L"'), f"CDiarySettings::{member}\\b")
+        yield Value(name, kind, default.strip('L"'), f"(?:CDiarySettings::|GetDiarySettings\\(\\)\\.){member}\\b")
+
+
+def parts(root, file, seen):
+    """The sources of a page: its own, and those of what it includes of pages/ and the keyboard layouts."""
+    if file in seen or not file.exists():
+        return ""
+    seen.add(file)
+    text = file.read_text()
+    header = file.with_suffix(".h")
+    names = re.findall(r'#include "((?:pages/|settings/keyboard_layouts)[^"]*)\.h"',
+                       text + (header.read_text() if header.exists() else ""))
+    return text + "".join(parts(root, (root / name).with_suffix(".cpp"), seen) for name in names)
 
 
 def pages(root):
-    """Pairs of a page's anchor and its source."""
+    """Pairs of a page's anchor and its sources."""
     for file in sorted((root / "pages").glob("*_page.cpp")):
-        text = file.read_text()
-        for anchor in re.findall(r'IDD_\w+,\s*L"(\w+)"', text):
+        text = parts(root, file, set())
+        for anchor in re.findall(r'IDD_\w+,\s*L"(\w+)"', file.read_text()):
             yield anchor, text
     # The titles are edited through what all pages of a sheet share.
     draft = {"calendar_titles": "appointmentPattern taskPattern contactPattern",
@@ -81,7 +93,8 @@ def main():
     for value in sorted(values.values(), key=lambda v: v.name.lower()):
         if not value.pages and not ONLY_READ.fullmatch(value.name):
             homeless.append(value.name)
-        rows.append(f"| {value.name} | {value.kind} | {value.default} | {', '.join(value.pages) or 'no page'} |\n")
+        name = f"(tab){value.name}" if value.name.startswith("_") else value.name
+        rows.append(f"| {name} | {value.kind} | {value.default} | {', '.join(value.pages) or 'no page'} |\n")
     table = HEADING + "".join(rows)
     target = root / "docs/settings.md"
     if "--check" not in sys.argv:

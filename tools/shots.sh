@@ -23,8 +23,8 @@ await_window() { # TITLE
     done
 }
 
-# A picture of the screen once it has stopped changing.
-take_picture() { # FILE
+# Waits until the screen has stopped changing.
+settle() {
     local previous='' current=''
     for _ in $(seq 40); do
         sleep 0.15
@@ -32,6 +32,10 @@ take_picture() { # FILE
         [ "$current" != "$previous" ] || break
         previous=$current
     done
+}
+
+take_picture() { # FILE
+    settle
     mkdir -p "$(dirname "$1")"
     import-im6.q16 -display "$DISPLAY" -window root "$1"
 }
@@ -41,11 +45,21 @@ close_program() {
     wait "$PROGRAM_PID" || true
 }
 
+# Some of the owner's categories have icons.
+give_icons() { # INSTALLATION
+    mkdir -p "$1/Icons"
+    local category
+    for category in Business=briefcase Personal=heart Holiday=suitcase Birthday=birthday Work%CHome=house; do
+        cp "$1/IconSet/${category#*=}.bmp" "$1/Icons/${category%=*}.bmp"
+    done
+}
+
 # A fresh device on a display of its own, for the length of one picture-taking.
 open_stage() { # NAME DPI SIZE
     STAGE=$ROOT/build/stage/$1
     rm -rf "$STAGE" "${WINE_DIR:?}/$1"
     furnish_device "$STAGE" "$BIN" "$2"
+    give_icons "$STAGE/Program Files/Lum Diary"
     start_display "$3"
     start_session "$1" "$2" "$STAGE"
     trap 'end_session; end_display' EXIT
@@ -102,50 +116,92 @@ run_demo() { # OUTPUT
     say "Pictures of each step are in ${1#"$ROOT"/}"
 }
 
-# Entry, page and name of every page and dialog there is, and the keys that lead there from the page.
+# A text of the program in the language that pictures are taken in.
+translate() { # TEXT
+    local translation=
+    [ -z "${LANGUAGE:-}" ] ||
+        translation=$(iconv -f utf-16 -t utf-8 "$ROOT/translations/LumDiary_$LANGUAGE.txt" | tr -d '\r' |
+            sed -n "s/^$1|//p")
+    printf '%s' "${translation:-$1}"
+}
+
+# What any sheet or dialog of the main screen may be called, as a regular expression.
+sheet_titles() {
+    local titles= title
+    for title in General Calendar Task Contact Note Message 'Special event'; do
+        titles+="$(translate "$title options")|"
+    done
+    printf '(%s%s)' "$titles" "$(translate 'Category Icons')"
+}
+
+# Entry and page, and name, of every page and dialog there is. A dialog that is reached from there follows as the
+# keys that lead to it, each with the title it brings up: KEY=TITLE, with "_" for a blank.
 GALLERY_PAGES=(
     "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
     "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks" "1:3 calendar_titles"
     "2:0 tasks_common" "2:1 tasks_view_style" "2:2 tasks_icons"
-    "3:0 contacts_common" "3:0 contacts_view_style ctrl+Tab" "3:0 contacts_icons ctrl+Tab ctrl+Tab"
-    "3:0 layouts_select Tab Tab Tab Tab s"
-    "4:0 notes_common" "4:0 notes_filter ctrl+Tab"
+    "3:0 contacts_common" "3:0 contacts_view_style ctrl+Tab=" "3:0 contacts_icons ctrl+Tab= ctrl+Tab="
+    "3:0 layouts_select Tab= Tab= Tab= Tab= End=Keyboard_layouts"
+    "4:0 notes_common" "4:0 notes_filter ctrl+Tab="
     "5:0 messages_common" "5:1 messages_filter"
     "6:0 special_events_common"
+    "7:0 category_icons_main" "7:0 category_icons_chooser Return=Choose_icon"
+    "7:0 category_icons_sources Return=Choose_icon F10=" "7:0 category_icons_colors Tab= Tab= Tab= space="
+    "7:0 category_icons_folders Return=Choose_icon F10= Up= Return=Choose_folder"
 )
 
+picture_page() { # FOLDER PAGE NAME KEYS...
+    local folder=$1 page=$2 name=$3 key
+    shift 3
+    start_program "$STAGE" "-P$page"
+    await_window "$SHEETS"
+    for key in "$@"; do
+        settle
+        xdotool key "${key%%=*}"
+        key=${key#*=}
+        [ -z "$key" ] || await_window "$(translate "${key//_/ }")"
+    done
+    take_picture "$folder/$name.png"
+    close_program
+}
+
+# Every page on every screen, in English and in each language there is a translation for.
 run_gallery() { # OUTPUT
     rm -rf "$1"
-    local screen name dpi size page opened keys
-    for screen in "portrait 96 240x320" "landscape 96 320x240" "double 192 480x640"; do
-        read -r name dpi size <<<"$screen"
-        say "Taking pictures of every page at $size pixels"
-        open_stage "gallery-$name" "$dpi" "$size"
-        start_program "$STAGE"
-        await_window 'Lum Diary Options'
-        take_picture "$1/$name/main_screen.png"
-        quietly wine "$BIN/device_send.exe" command 57664
-        await_window About
-        take_picture "$1/$name/about.png"
-        close_program
-        local place picture further
-        for page in "${GALLERY_PAGES[@]}"; do
-            read -r opened page keys <<<"$page"
-            start_program "$STAGE" "-P$opened"
-            await_window '.* options'
-            take_picture "$1/$name/$page.png"
-            if [ -n "$keys" ]; then
-                # shellcheck disable=SC2086  # Each word is a key.
-                xdotool key --delay 100 $keys
-                take_picture "$1/$name/$page.png"
-            fi
-            close_program
-        done
-        close_stage
+    local file
+    LANGUAGE= take_gallery "$1"
+    for file in "$ROOT"/translations/LumDiary_*.txt; do
+        LANGUAGE=$(basename "$file" .txt)
+        LANGUAGE=${LANGUAGE#LumDiary_} take_gallery "$1"
     done
     write_gallery_index "$1"
     say "The pictures are in ${1#"$ROOT"/}"
+}
+
+take_gallery() { # OUTPUT
+    local screen name dpi size page folder
+    SHEETS=$(sheet_titles)
+    for screen in "portrait 96 240x320" "landscape 96 320x240" "double 192 480x640"; do
+        read -r name dpi size <<<"$screen"
+        folder=$1/$name${LANGUAGE:+-$LANGUAGE}
+        say "Taking pictures of every page at $size pixels${LANGUAGE:+ in the language $LANGUAGE}"
+        open_stage "gallery-$name" "$dpi" "$size"
+        [ -z "$LANGUAGE" ] ||
+            cp "$ROOT/translations/LumDiary_$LANGUAGE.txt" "$STAGE/Program Files/Lum Diary/LumDiary_en.txt"
+        start_program "$STAGE"
+        await_window "$(translate 'Lum Diary Options')"
+        take_picture "$folder/main_screen.png"
+        quietly wine "$BIN/device_send.exe" command 57664
+        await_window "$(translate About)"
+        take_picture "$folder/about.png"
+        close_program
+        for page in "${GALLERY_PAGES[@]}"; do
+            # shellcheck disable=SC2086  # Page, name and keys are words of it.
+            picture_page "$folder" $page
+        done
+        close_stage
+    done
 }
 
 write_gallery_index() { # OUTPUT
@@ -153,7 +209,8 @@ write_gallery_index() { # OUTPUT
         echo '<!DOCTYPE html><title>Every page</title>'
         echo '<style>body{font-family:sans-serif}figure{display:inline-block;margin:8px}img{border:1px solid #888}</style>'
         local screen picture
-        for screen in portrait landscape double; do
+        for screen in "$1"/*/; do
+            screen=$(basename "$screen")
             echo "<h1>$screen</h1>"
             for picture in "$1/$screen"/*.png; do
                 picture=$screen/$(basename "$picture")

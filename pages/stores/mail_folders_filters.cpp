@@ -64,15 +64,15 @@ void CMailFoldersFilters::Save() const {
 }
 
 std::wstring CMailFoldersFilters::ActiveName() {
-    return OpenProductKey().ReadString(settings::EmailFilter);
+    return OpenProductKey().ReadString(settings::EmailFilter.name);
 }
 
 void CMailFoldersFilters::SetActive(int index) const {
     CSettingsKey key = OpenProductKey();
     if (index < 0) {
-        key.DeleteValue(settings::EmailFilter);
+        key.DeleteValue(settings::EmailFilter.name);
     } else {
-        key.WriteString(settings::EmailFilter, filters_.at(index).name.c_str());
+        key.WriteString(settings::EmailFilter.name, filters_.at(index).name.c_str());
     }
 }
 

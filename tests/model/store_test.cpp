@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "tests/model/databases.h"
+#include "tests/model/devicectl.h"
 
 namespace {
 
@@ -233,24 +234,6 @@ TEST_F(Databases, KeepAPositionWhileRecordsGo) {
     EXPECT_EQ(record.Number(0), static_cast<std::uint32_t>(-7));
     ASSERT_TRUE(record.Read(reading.get(), {kNumber}));
     EXPECT_EQ(record.Number(0), 0u);
-}
-
-// Runs devicectl on the test's volume and waits until it has ended well.
-bool Control(std::wstring arguments) {
-    wchar_t path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    wcscpy(wcsrchr(path, L'\\') + 1, L"devicectl.exe");
-    PROCESS_INFORMATION process = {};
-    if (!CreateProcessW(path, arguments.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        nullptr, &process)) {
-        return false;
-    }
-    WaitForSingleObject(process.hProcess, 20'000);
-    DWORD code = 1;
-    GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return code == 0;
 }
 
 // The next message to a window from the databases; all zero when none comes.

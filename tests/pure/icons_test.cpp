@@ -7,6 +7,7 @@
 #include "appearance/icon_catalogue.h"
 #include "appearance/icon_grid.h"
 #include "appearance/icon_sources.h"
+#include "appearance/short_path.h"
 
 namespace {
 
@@ -162,6 +163,26 @@ TEST(IconSources, ShowsAnyOfThem) {
     EXPECT_EQ(sources.remembered().folders(), (Folders{L"b", L"a"}));
     EXPECT_EQ(sources.ShowFolder(L"c"), Folders{L"c"});
     EXPECT_EQ(sources.shown(), 3);
+}
+
+TEST(IconSources, AreShownAsShortPaths) {
+    struct Case {
+        std::wstring path;
+        std::size_t room;
+        std::wstring shown;
+    };
+    for (const Case& c : {
+             Case{L"\\My Documents\\Icons\\", 20, L"\\My Documents\\Icons\\"},
+             Case{L"\\My Documents\\Icons\\", 19, L"...\\Icons\\"},
+             Case{L"\\My Documents\\Icons", 8, L"...Icons"},
+             Case{L"\\My Documents\\Icons", 0, L"..."},
+             Case{std::wstring(260, L'a'), 6, L"...aaa"},
+             Case{L"\\", 0, L"..."},
+             Case{L"", 0, L""},
+         }) {
+        const auto fits = [&](const std::wstring& text) { return text.size() <= c.room; };
+        EXPECT_EQ(ShortenPath(c.path, fits), c.shown) << c.room;
+    }
 }
 
 }  // namespace
