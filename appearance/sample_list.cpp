@@ -21,6 +21,7 @@ constexpr int kGap = 2;  // beside the subject
 constexpr std::int32_t kWholeSubjectOfSelected = 1;
 constexpr std::int32_t kWholeSubject = 2;
 constexpr UINT kText = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX;
+constexpr UINT kMeasure = DT_SINGLELINE | DT_NOPREFIX | DT_CALCRECT;
 
 std::optional<ItemIcon> IconOf(wchar_t field) {
     switch (field) {
@@ -80,7 +81,7 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
     if (!details.empty()) {
         RECT measured = {};
         const int length = static_cast<int>(details.size());
-        DrawTextW(dc_, details.c_str(), length, &measured, kText | DT_CALCRECT);
+        DrawTextW(dc_, details.c_str(), length, &measured, kMeasure);
         DrawTextW(dc_, details.c_str(), length, &row, kText | DT_RIGHT);
         row.right -= measured.right + ScaleX(kRight);
     }
@@ -115,9 +116,9 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
         SetTextColor(dc_, GetSysColor(COLOR_GRAYTEXT));
         const int size = static_cast<int>(details.size());
         RECT measured = {};
-        DrawTextW(dc_, details.c_str(), size, &measured, kText | DT_CALCRECT);
+        DrawTextW(dc_, details.c_str(), size, &measured, kMeasure);
         DrawTextW(dc_, details.c_str(), size, &row, kText | DT_RIGHT);
-        text.right -= measured.right;
+        text.right -= measured.right + ScaleX(kGap);
     }
     SetTextColor(dc_, selected ? theme.GetColor(ThemeColor::kHighlightedText) : textColor_);
     const int length = static_cast<int>(subject.size());

@@ -42,8 +42,8 @@ void NotesFilterPage::OnLoad(PageValues&) {
         const bool shown = std::ranges::find(hidden, folders_.back()) == hidden.end();
         list_.Insert(list_.Count(), name, 0, shown);
     }
-    list_.FitColumn();
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    list_.FitColumn();
     list_.Select(0);
 }
 

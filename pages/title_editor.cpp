@@ -36,9 +36,9 @@ void TitleEditor::FillList(int selected) {
     for (const TitleRows::Row& row : rows.rows()) {
         list_.Insert(position++, LabelOf(row.letter), row.letter, row.shown);
     }
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
     list_.FitColumn();
     list_.Select(selected);
-    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
     filling_ = false;
     UpdateButtons();
 }

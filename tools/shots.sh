@@ -142,7 +142,7 @@ GALLERY_PAGES=(
     "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks" "1:3 calendar_titles"
     "2:0 tasks_common" "2:1 tasks_view_style" "2:2 tasks_icons"
     "3:0 contacts_common" "3:0 contacts_view_style ctrl+Tab=" "3:0 contacts_icons ctrl+Tab= ctrl+Tab="
-    "3:0 layouts_select Tab= Tab= Tab= Tab= End=Keyboard_layouts"
+    "3:0 layouts_select Tab= Tab= Tab= Tab= Down= Down=Keyboard_layouts"
     "4:0 notes_common" "4:0 notes_filter ctrl+Tab="
     "5:0 messages_common" "5:1 messages_filter"
     "6:0 special_events_common"
