@@ -21,6 +21,8 @@ namespace {
 // The version of the common controls that the program is written for, 2.12.
 constexpr WPARAM kCommonControlsVersion = 524;
 constexpr int kListFontHeight = 13;
+// Three entries in a row on a screen of 240 pixels, each with room for two lines of text.
+constexpr int kEntryWidth = 80, kEntryHeight = 76;
 // Without column headings. The extended window style means one-tap activation to the device's list
 // view; it is sent as a list view style as well.
 constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | LVS_ICON |
@@ -105,6 +107,8 @@ void MainFrame::CreateListView() {
                                 hwnd(), nullptr, ModuleInstance(), nullptr);
     SendMessageW(listView_, CCM_SETVERSION, kCommonControlsVersion, 0);
     SendMessageW(listView_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_ONECLICKACTIVATE);
+    SendMessageW(listView_, LVM_SETICONSPACING, 0,
+                 MAKELPARAM(ScaleX(kEntryWidth), ScaleY(kEntryHeight)));
 
     savedListFont_ = reinterpret_cast<HFONT>(SendMessageW(listView_, WM_GETFONT, 0, 0));
     const HGDIOBJ base = savedListFont_ ? savedListFont_ : GetStockObject(SYSTEM_FONT);
