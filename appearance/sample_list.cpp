@@ -5,6 +5,7 @@
 
 #include "appearance/fonts.h"
 #include "appearance/scale.h"
+#include "appearance/shell_colors.h"
 #include "appearance/skin_art.h"
 #include "appearance/theme_colors.h"
 #include "appearance/today_background.h"
@@ -16,6 +17,7 @@ constexpr int kIconLeft = 3;
 constexpr int kTextLeft = 22;
 constexpr int kIndent = 10;
 constexpr int kRight = 3;
+constexpr int kStatusBarWidth = 3;
 constexpr int kGap = 2;  // beside the subject
 // The modes of a title pattern that show more than one line.
 constexpr std::int32_t kWholeSubjectOfSelected = 1;
@@ -89,14 +91,24 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
 }
 
 void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
-                          bool selected, const std::wstring& details) {
+                          const TitleLook& look) {
     const bool whole =
-        pattern.mode == kWholeSubject || (pattern.mode == kWholeSubjectOfSelected && selected);
+        pattern.mode == kWholeSubject || (pattern.mode == kWholeSubjectOfSelected && look.selected);
     RECT row;
     if (!NextRow(row, whole ? 2 : 1)) return;
     ThemeColors& theme = GetThemeColors();
-    if (selected) FillRect(dc_, &row, theme.GetBrush(ThemeColor::kHighlight));
+    if (look.selected) {
+        FillRect(dc_, &row, theme.GetBrush(ThemeColor::kHighlight));
+    } else if (look.color) {
+        theme.SetOwnerColor(BlendCategoryColor(*look.color, GetSysColor(COLOR_WINDOW)));
+        FillRect(dc_, &row, theme.GetBrush(ThemeColor::kOwner));
+    }
     if (indented_) row.left += ScaleX(kIndent);
+    if (look.status) {
+        const OwnedBrush brush(CreateSolidBrush(GetApptStatusColor(*look.status)));
+        const RECT bar = {row.left, row.top, row.left + ScaleX(kStatusBarWidth), row.bottom};
+        FillRect(dc_, &bar, brush.get());
+    }
     DrawIcon(icon, row.left + ScaleX(kIconLeft), row);
     row.left += ScaleX(kTextLeft);
     row.right -= ScaleX(kRight);
@@ -111,16 +123,16 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
     RECT text = row;
     text.left += ScaleX(kGap);
     text.right -= icons * iconWidth + ScaleX(kGap);
-    const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
-    if (!details.empty()) {
+    const SelectedObject font(dc_, ListFont(FontStyle::kNormal, look.done));
+    if (!look.details.empty()) {
         SetTextColor(dc_, GetSysColor(COLOR_GRAYTEXT));
-        const int size = static_cast<int>(details.size());
+        const int size = static_cast<int>(look.details.size());
         RECT measured = {};
-        DrawTextW(dc_, details.c_str(), size, &measured, kMeasure);
-        DrawTextW(dc_, details.c_str(), size, &row, kText | DT_RIGHT);
+        DrawTextW(dc_, look.details.c_str(), size, &measured, kMeasure);
+        DrawTextW(dc_, look.details.c_str(), size, &row, kText | DT_RIGHT);
         text.right -= measured.right + ScaleX(kGap);
     }
-    SetTextColor(dc_, selected ? theme.GetColor(ThemeColor::kHighlightedText) : textColor_);
+    SetTextColor(dc_, look.selected ? theme.GetColor(ThemeColor::kHighlightedText) : textColor_);
     const int length = static_cast<int>(subject.size());
     RECT measured = text;
     DrawTextW(dc_, subject.c_str(), length, &measured, kText | DT_CALCRECT);

@@ -2,11 +2,22 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
+#include "appearance/category_color.h"
 #include "appearance/folding_stripe.h"
 #include "appearance/item_icons.h"
 #include "settings/title_fields.h"
+
+// How a sample item differs from the usual.
+struct TitleLook {
+    bool selected = false;
+    bool done = false;                   // struck out
+    std::optional<int> status;           // an appointment's, drawn as a bar in its colour
+    std::optional<CategoryColor> color;  // of its category: the line's background
+    std::wstring details;                // at the right, in grey
+};
 
 // Paints a few sample lines as the diary would show them on the Today screen: headings of groups,
 // and items with the skin's icons in the list's font. What does not fit is left out.
@@ -19,10 +30,9 @@ class SampleList {
     // `details` stand at the right.
     void AddItem(ItemIcon icon, const std::wstring& text, const std::wstring& details = {});
     // An item with the fields of its title: those before the subject, the subject, those behind.
-    // The subject takes one line, or two where its mode says so of this item; `details` stand at
-    // the right, in grey.
+    // The subject takes one line, or two where its mode says so of this item.
     void AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
-                  bool selected, const std::wstring& details = {});
+                  const TitleLook& look = {});
     // A line of its own below an item's text, in grey.
     void AddDetail(const std::wstring& text);
     // Whether the items that follow stand indented below their group.

@@ -28,6 +28,16 @@ constexpr TitledList kLists[] = {
     {IDS_VIEW_CONTACTS, ItemIcon::kContact, &TitleDraft::contact},
 };
 
+// The states of the sample appointments.
+constexpr int kTentative = 1, kBusy = 2;
+
+CategoryColor SampleColor() {
+    CategoryColor color;
+    color.SetColor(RGB(0xFF, 0xD7, 0x00));
+    color.SetIntensity(25);
+    return color;
+}
+
 }  // namespace
 
 CalendarTitlesPage::CalendarTitlesPage()
@@ -79,7 +89,7 @@ void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     list.SetIndented(shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_INDENT));
     const LanguageTable& texts = GetLanguageTable();
     if (shown.icon == ItemIcon::kContact) {
-        list.AddTitle(shown.icon, Edited(), texts.LoadString(IDS_SAMPLE_CONTACT), true);
+        list.AddTitle(shown.icon, Edited(), texts.LoadString(IDS_SAMPLE_CONTACT));
         return;
     }
     const bool place = shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_LOCATION);
@@ -87,6 +97,13 @@ void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         const std::wstring text = texts.LoadString(id);
         return place ? text + L" (" + texts.LoadString(IDS_SAMPLE_PLACE) + L")" : text;
     };
-    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_LONG_SUBJECT), true);
-    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_APPOINTMENT), false);
+    TitleLook first, second;
+    first.selected = true;
+    second.color = SampleColor();
+    if (shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_STATUS_BAR)) {
+        first.status = kBusy;
+        second.status = kTentative;
+    }
+    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_LONG_SUBJECT), first);
+    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_APPOINTMENT), second);
 }

@@ -91,8 +91,10 @@ void ContactsViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         const bool isCompany = i + 1 == samples_.size();
         const std::wstring& name = samples_[i].Name(mode);
         const std::wstring& other = samples_[i].AlternativeName(mode);
+        TitleLook look;
+        if (other != name) look.details = other;
         list.AddTitle(isCompany ? ItemIcon::kCompany : ItemIcon::kContact, GetTitleDraft().contact,
-                      name, false, other == name ? L"" : other);
+                      name, look);
         if (i > 0) continue;
         switch (static_cast<Address>(Selection(IDC_CONTACT_ADDRESS))) {
             case Address::kWhole:

@@ -50,7 +50,7 @@ void FlagIconsPage::OnSave(PageValues&) { StoreTitleDraft(); }
 void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     if (item.CtlID == IDC_TITLE_PREVIEW) {
         SampleList list(item.hDC, item.rcItem, 2);
-        list.AddTitle(icon_, Edited(), GetLanguageTable().LoadString(sample_), false);
+        list.AddTitle(icon_, Edited(), GetLanguageTable().LoadString(sample_));
         return;
     }
     SkinArt& art = GetSkinArt();

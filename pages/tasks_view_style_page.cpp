@@ -43,10 +43,14 @@ void TasksViewStylePage::OnSave(PageValues&) { StoreTitleDraft(); }
 
 void TasksViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     SampleList list(item.hDC, item.rcItem, 3);
-    const ItemIcon icon = IsChecked(IDC_TASK_CHECKBOX) ? ItemIcon::kTaskOpen : ItemIcon::kCategory;
+    const bool boxes = IsChecked(IDC_TASK_CHECKBOX);
+    const ItemIcon open = boxes ? ItemIcon::kTaskOpen : ItemIcon::kTaskOverdue;
+    const ItemIcon done = boxes ? ItemIcon::kTaskDone : ItemIcon::kTaskOverdue;
     const DisplayPattern& pattern = GetTitleDraft().task;
     list.AddGroup(GetLanguageTable().LoadString(IDS_SAMPLE_GROUP), 2);
     list.SetIndented(IsChecked(IDC_TASK_INDENT));
-    list.AddTitle(icon, pattern, GetLanguageTable().LoadString(IDS_SAMPLE_TASK), false);
-    list.AddTitle(icon, pattern, GetLanguageTable().LoadString(IDS_SAMPLE_APPOINTMENT), false);
+    TitleLook completed;
+    completed.done = true;
+    list.AddTitle(open, pattern, GetLanguageTable().LoadString(IDS_SAMPLE_TASK));
+    list.AddTitle(done, pattern, GetLanguageTable().LoadString(IDS_SAMPLE_APPOINTMENT), completed);
 }

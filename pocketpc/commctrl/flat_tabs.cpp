@@ -58,11 +58,28 @@ void Paint(HWND tabs) {
     EndPaint(tabs, &paint);
 }
 
+// Texts that became shorter may leave the arrows standing over tabs that now have room.
+void HideNeedlessArrows(HWND tabs) {
+    RECT area, last;
+    GetClientRect(tabs, &area);
+    const HWND arrows = FindWindowExW(tabs, nullptr, UPDOWN_CLASSW, nullptr);
+    if (arrows && TabCtrl_GetItemRect(tabs, TabCtrl_GetItemCount(tabs) - 1, &last) &&
+        last.right <= area.right) {
+        ShowWindow(arrows, SW_HIDE);
+    }
+    InvalidateRect(tabs, nullptr, FALSE);
+}
+
 LRESULT CALLBACK Procedure(HWND tabs, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                            DWORD_PTR) {
     switch (message) {
         case WM_PAINT: Paint(tabs); return 0;
         case WM_ERASEBKGND: return TRUE;
+        case TCM_SETITEMW: {
+            const LRESULT result = DefSubclassProc(tabs, message, wParam, lParam);
+            HideNeedlessArrows(tabs);
+            return result;
+        }
         case TCM_SETCURSEL:
         case WM_SETFOCUS:
         case WM_KILLFOCUS: InvalidateRect(tabs, nullptr, FALSE); break;
