@@ -60,10 +60,11 @@ void Paint(HWND tabs) {
 
 // Texts that became shorter may leave the arrows standing over tabs that now have room.
 void HideNeedlessArrows(HWND tabs) {
-    RECT area, last;
+    RECT area, first, last;
     GetClientRect(tabs, &area);
     const HWND arrows = FindWindowExW(tabs, nullptr, UPDOWN_CLASSW, nullptr);
-    if (arrows && TabCtrl_GetItemRect(tabs, TabCtrl_GetItemCount(tabs) - 1, &last) &&
+    if (arrows && TabCtrl_GetItemRect(tabs, 0, &first) && first.left >= 0 &&
+        TabCtrl_GetItemRect(tabs, TabCtrl_GetItemCount(tabs) - 1, &last) &&
         last.right <= area.right) {
         ShowWindow(arrows, SW_HIDE);
     }
