@@ -90,8 +90,8 @@ void SampleList::AddItem(ItemIcon icon, const std::wstring& text, const std::wst
     DrawTextW(dc_, text.c_str(), static_cast<int>(text.size()), &row, kText);
 }
 
-void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
-                          const TitleLook& look) {
+void SampleList::AddTitle(std::optional<ItemIcon> icon, const DisplayPattern& pattern,
+                          const std::wstring& subject, const TitleLook& look) {
     const bool whole =
         pattern.mode == kWholeSubject || (pattern.mode == kWholeSubjectOfSelected && look.selected);
     RECT row;
@@ -109,8 +109,8 @@ void SampleList::AddTitle(ItemIcon icon, const DisplayPattern& pattern, const st
         const RECT bar = {row.left, row.top, row.left + ScaleX(kStatusBarWidth), row.bottom};
         FillRect(dc_, &bar, brush.get());
     }
-    DrawIcon(icon, row.left + ScaleX(kIconLeft), row);
-    row.left += ScaleX(kTextLeft);
+    if (icon) DrawIcon(*icon, row.left + ScaleX(kIconLeft), row);
+    row.left += ScaleX(icon ? kTextLeft : kIconLeft);
     row.right -= ScaleX(kRight);
     for (const wchar_t letter : pattern.before) {
         if (const auto field = IconOf(letter)) row.left += DrawIcon(*field, row.left, row);

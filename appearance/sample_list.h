@@ -31,8 +31,8 @@ class SampleList {
     void AddItem(ItemIcon icon, const std::wstring& text, const std::wstring& details = {});
     // An item with the fields of its title: those before the subject, the subject, those behind.
     // The subject takes one line, or two where its mode says so of this item.
-    void AddTitle(ItemIcon icon, const DisplayPattern& pattern, const std::wstring& subject,
-                  const TitleLook& look = {});
+    void AddTitle(std::optional<ItemIcon> icon, const DisplayPattern& pattern,
+                  const std::wstring& subject, const TitleLook& look = {});
     // A line of its own below an item's text, in grey.
     void AddDetail(const std::wstring& text);
     // Whether the items that follow stand indented below their group.

@@ -41,14 +41,13 @@ CategoryColor SampleColor() {
 }  // namespace
 
 CalendarTitlesPage::CalendarTitlesPage()
-    : OptionsPage(IDD_CALENDAR_TITLES, L"calendar_titles", {std::begin(kRows), std::end(kRows)}) {}
+    : TitlePage(IDD_CALENDAR_TITLES, L"calendar_titles", {std::begin(kRows), std::end(kRows)}) {}
 
-void CalendarTitlesPage::OnLoad(PageValues&) {
+void CalendarTitlesPage::OnLoad(PageValues& values) {
     for (const TitledList& list : kLists) AddItem(IDC_TITLE_LIST, list.label, 0);
     SetSelection(IDC_TITLE_LIST, 0);
     FillChoices(*this, IDC_TITLE_MODE, kSubjectModes, Edited().mode);
-    editor_.Attach(hwnd());
-    ShowEdited();
+    TitlePage::OnLoad(values);
 }
 
 DisplayPattern& CalendarTitlesPage::Edited() const {
@@ -56,32 +55,21 @@ DisplayPattern& CalendarTitlesPage::Edited() const {
 }
 
 // An unknown mode shows as none, and stays unless another is chosen.
-void CalendarTitlesPage::ShowEdited() {
+bool CalendarTitlesPage::OnSetActive() {
     SetSelection(IDC_TITLE_MODE, -1);
     for (int i = 0; kSubjectModes[i].label; ++i) {
         if (kSubjectModes[i].value == Edited().mode) SetSelection(IDC_TITLE_MODE, i);
     }
-    editor_.Show(Edited());
-    OnUpdate();
+    return TitlePage::OnSetActive();
 }
 
 bool CalendarTitlesPage::OnCommand(int id, int code) {
-    if (code == CBN_SELCHANGE && id == IDC_TITLE_LIST) ShowEdited();
+    if (code == CBN_SELCHANGE && id == IDC_TITLE_LIST) OnSetActive();
     if (code == CBN_SELCHANGE && id == IDC_TITLE_MODE) {
         Edited().mode = ChosenValue(*this, IDC_TITLE_MODE, Edited().mode);
     }
-    editor_.OnCommand(id, code);
-    return OptionsPage::OnCommand(id, code);
+    return TitlePage::OnCommand(id, code);
 }
-
-std::optional<INT_PTR> CalendarTitlesPage::OnControlNotification(const NMHDR& header) {
-    if (editor_.OnNotify(header)) OnUpdate();
-    return std::nullopt;
-}
-
-void CalendarTitlesPage::OnUpdate() { InvalidateRect(Item(IDC_TITLE_PREVIEW), nullptr, TRUE); }
-
-void CalendarTitlesPage::OnSave(PageValues&) { StoreTitleDraft(); }
 
 void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     const TitledList& shown = kLists[Selection(IDC_TITLE_LIST)];

@@ -42,36 +42,19 @@ std::vector<PreviewedContact> SampleContacts() {
 }  // namespace
 
 ContactsViewStylePage::ContactsViewStylePage()
-    : OptionsPage(IDD_CONTACTS_VIEW_STYLE, L"contacts_view_style",
-                  {std::begin(kRows), std::end(kRows)}) {}
+    : TitlePage(IDD_CONTACTS_VIEW_STYLE, L"contacts_view_style",
+                {std::begin(kRows), std::end(kRows)}) {}
 
-void ContactsViewStylePage::OnLoad(PageValues&) {
+DisplayPattern& ContactsViewStylePage::Edited() const { return GetTitleDraft().contact; }
+
+void ContactsViewStylePage::OnLoad(PageValues& values) {
     samples_ = SampleContacts();
-    editor_.Attach(hwnd());
+    TitlePage::OnLoad(values);
 }
-
-// Another page of the sheet may have changed the pattern meanwhile.
-bool ContactsViewStylePage::OnSetActive() {
-    editor_.Show(GetTitleDraft().contact);
-    OnUpdate();
-    return true;
-}
-
-bool ContactsViewStylePage::OnCommand(int id, int code) {
-    editor_.OnCommand(id, code);
-    return OptionsPage::OnCommand(id, code);
-}
-
-std::optional<INT_PTR> ContactsViewStylePage::OnControlNotification(const NMHDR& header) {
-    if (editor_.OnNotify(header)) OnUpdate();
-    return std::nullopt;
-}
-
-void ContactsViewStylePage::OnSave(PageValues&) { StoreTitleDraft(); }
 
 void ContactsViewStylePage::OnUpdate() {
     for (PreviewedContact& sample : samples_) sample.Name(Selection(IDC_CONTACT_DISPLAY), true);
-    InvalidateRect(Item(IDC_CONTACT_PREVIEW), nullptr, TRUE);
+    TitlePage::OnUpdate();
 }
 
 // A group of contacts, the first with its address. Beside a name stands the other one, in grey.
@@ -93,8 +76,7 @@ void ContactsViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         const std::wstring& other = samples_[i].AlternativeName(mode);
         TitleLook look;
         if (other != name) look.details = other;
-        list.AddTitle(isCompany ? ItemIcon::kCompany : ItemIcon::kContact, GetTitleDraft().contact,
-                      name, look);
+        list.AddTitle(isCompany ? ItemIcon::kCompany : ItemIcon::kContact, Edited(), name, look);
         if (i > 0) continue;
         switch (static_cast<Address>(Selection(IDC_CONTACT_ADDRESS))) {
             case Address::kWhole:

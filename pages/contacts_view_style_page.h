@@ -2,25 +2,20 @@
 
 #include <vector>
 
-#include "app/options_page.h"
-#include "pages/title_editor.h"
+#include "pages/title_page.h"
 #include "settings/contact_name.h"
 
 // How contacts are named and shown.
-class ContactsViewStylePage : public OptionsPage {
+class ContactsViewStylePage : public TitlePage {
   public:
     ContactsViewStylePage();
 
   protected:
-    bool OnSetActive() override;
+    DisplayPattern& Edited() const override;
     void OnLoad(PageValues& values) override;
-    void OnSave(PageValues& values) override;
     void OnUpdate() override;
-    bool OnCommand(int id, int code) override;
-    std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
   private:
     std::vector<PreviewedContact> samples_;
-    TitleEditor editor_;
 };

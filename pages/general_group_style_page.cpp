@@ -1,6 +1,7 @@
 #include "pages/general_group_style_page.h"
 
 #include "app/language_table.h"
+#include "appearance/date_formats.h"
 #include "appearance/sample_list.h"
 
 namespace {
@@ -23,7 +24,7 @@ GeneralGroupStylePage::GeneralGroupStylePage()
 
 void GeneralGroupStylePage::OnUpdate() { InvalidateRect(Item(IDC_STRIPE_PREVIEW), nullptr, TRUE); }
 
-// A group of one item, and one of none below it.
+// A day with one item, and one of none below it.
 void GeneralGroupStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     FoldingStripe stripe;
     stripe.style = static_cast<StripeStyle>(Selection(IDC_STRIPE_STYLE));
@@ -31,7 +32,7 @@ void GeneralGroupStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     stripe.showCollapseIcon = IsChecked(IDC_STRIPE_COLLAPSE_ICON);
     SampleList list(item.hDC, item.rcItem, 3);
     const LanguageTable& texts = GetLanguageTable();
-    list.AddGroup(texts.LoadString(IDS_SAMPLE_GROUP), 1, stripe);
+    list.AddGroup(FormatToday(LongDatePicture()), 1, stripe);
     list.AddItem(ItemIcon::kAppointment, texts.LoadString(IDS_SAMPLE_APPOINTMENT));
     if (IsChecked(IDC_STRIPE_HIDE_EMPTY)) return;
     list.AddGroup(texts.LoadString(IDS_SAMPLE_EMPTY_GROUP), 0, stripe);

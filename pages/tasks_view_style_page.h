@@ -1,22 +1,13 @@
 #pragma once
 
-#include "app/options_page.h"
-#include "pages/title_editor.h"
+#include "pages/title_page.h"
 
 // What stands in the lines of tasks.
-class TasksViewStylePage : public OptionsPage {
+class TasksViewStylePage : public TitlePage {
   public:
     TasksViewStylePage();
 
   protected:
-    bool OnSetActive() override;
-    void OnLoad(PageValues& values) override;
-    void OnSave(PageValues& values) override;
-    void OnUpdate() override;
-    bool OnCommand(int id, int code) override;
-    std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
+    DisplayPattern& Edited() const override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
-
-  private:
-    TitleEditor editor_;
 };

@@ -62,7 +62,7 @@ TEST_F(Contacts, LayoutsAreChosenInTheirDialog) {
     EXPECT_EQ(Layout(page), L"Griechisch");
     // The other page takes the shared settings from the registry.
     TurnTo(sheet_, 1);
-    ASSERT_TRUE(Page(sheet_, IDC_CONTACT_PREVIEW));
+    ASSERT_TRUE(Page(sheet_, IDC_CONTACT_DISPLAY));
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Cyrillic,Greek");
     EXPECT_EQ(Stored(L"Contacts_layout_active"), 1u);
