@@ -1,7 +1,7 @@
 #include "app/about_dialog.h"
 
-#include "app/launch_help.h"
-#include "app/module.h"
+#include "app/language/module.h"
+#include "controls/launch_help.h"
 #include "resources/ids.h"
 
 AboutDialog::AboutDialog() : FullScreenDialog(IDD_ABOUT) {}

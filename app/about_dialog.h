@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/owned_handle.h"
 #include "controls/full_screen_dialog.h"
-#include "controls/owned_handle.h"
 
 // What the program is and which version of it runs.
 class AboutDialog : public FullScreenDialog {

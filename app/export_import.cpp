@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 
-#include "app/language_table.h"
+#include "app/language/language_table.h"
 #include "app/registry_exporter.h"
-#include "controls/wait_cursor.h"
+#include "base/wait_cursor.h"
 #include "resources/ids.h"
 #include "settings/settings_key.h"
 

@@ -10,9 +10,9 @@
 #include <memory>
 
 #include "app/command_line.h"
-#include "app/language_table.h"
+#include "app/language/language_table.h"
+#include "app/language/module.h"
 #include "app/main_frame.h"
-#include "app/module.h"
 #include "app/single_instance.h"
 #include "controls/preview_window.h"
 #include "settings/install_path.h"

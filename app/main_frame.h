@@ -5,7 +5,7 @@
 #include <aygshell.h>
 
 #include "app/notify_plugin.h"
-#include "controls/owned_handle.h"
+#include "base/owned_handle.h"
 #include "controls/window.h"
 
 // The window class of the main window; also the name of the mutex of the one running instance.

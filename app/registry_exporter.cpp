@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "controls/owned_handle.h"
+#include "base/owned_handle.h"
 #include "settings/settings_file.h"
 
 namespace {

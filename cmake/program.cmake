@@ -1,25 +1,25 @@
 # What uses the platform but no windows; the program and its tests link the same.
 add_library(diary_models STATIC
-  app/language_table.cpp
-  app/language_template.cpp
-  app/module.cpp
+  app/language/language_table.cpp
+  app/language/language_template.cpp
+  app/language/module.cpp
   app/registry_exporter.cpp
-  appearance/archive.cpp
-  appearance/category_color_store.cpp
-  appearance/category_icon_files.cpp
-  appearance/category_icons.cpp
-  appearance/date_formats.cpp
-  appearance/fonts.cpp
-  appearance/icon_digest.cpp
-  appearance/icon_files.cpp
-  appearance/icon_library.cpp
-  appearance/mapped_file.cpp
-  appearance/scale.cpp
-  appearance/shell_colors.cpp
-  appearance/skin_art.cpp
-  appearance/skin_source.cpp
-  appearance/skin_strip.cpp
-  appearance/theme_colors.cpp
+  appearance/skins/archive.cpp
+  appearance/categories/category_color_store.cpp
+  appearance/categories/category_icon_files.cpp
+  appearance/categories/category_icons.cpp
+  appearance/drawing/date_formats.cpp
+  appearance/drawing/fonts.cpp
+  appearance/categories/icon_digest.cpp
+  appearance/categories/icon_files.cpp
+  appearance/categories/icon_library.cpp
+  base/mapped_file.cpp
+  base/scale.cpp
+  appearance/drawing/shell_colors.cpp
+  appearance/skins/skin_art.cpp
+  appearance/skins/skin_source.cpp
+  appearance/skins/skin_strip.cpp
+  appearance/drawing/theme_colors.cpp
   pages/stores/database_layer.cpp
   pages/stores/database_record.cpp
   pages/stores/handwriting.cpp
@@ -42,10 +42,10 @@ target_link_libraries(diary_models PUBLIC diary_pure pocketpc_headers PRIVATE di
 # Controls that need no dialog of the program's, which tests open in dialogs of their own, and what has a
 # window to hear of changes.
 add_library(diary_controls STATIC
-  appearance/category_list.cpp
-  appearance/color_button.cpp
-  appearance/colors_list_window.cpp
-  appearance/icons_list_control.cpp
+  appearance/categories/category_list.cpp
+  appearance/categories/color_button.cpp
+  appearance/categories/colors_list_window.cpp
+  appearance/categories/icons_list_control.cpp
   controls/dialog.cpp
   controls/window.cpp
 )
@@ -58,17 +58,17 @@ add_executable(DiarySettings WIN32
   app/about_dialog.cpp
   app/diary_settings.rc
   app/export_import.cpp
-  app/launch_help.cpp
+  controls/launch_help.cpp
   app/main.cpp
   app/main_frame.cpp
   app/notify_plugin.cpp
   app/open_entry.cpp
-  app/options_page.cpp
-  app/options_sheet.cpp
+  app/sheets/options_page.cpp
+  app/sheets/options_sheet.cpp
   app/single_instance.cpp
-  appearance/folding_stripe.cpp
-  appearance/sample_list.cpp
-  appearance/today_background.cpp
+  appearance/drawing/folding_stripe.cpp
+  appearance/drawing/sample_list.cpp
+  appearance/drawing/today_background.cpp
   controls/check_list.cpp
   controls/full_screen_dialog.cpp
   controls/preview_window.cpp

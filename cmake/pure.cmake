@@ -1,24 +1,24 @@
 # The pure parts: no <windows.h>, so that they are also compiled natively, with sanitizers, and fuzzed.
 add_library(diary_pure STATIC
   app/command_line.cpp
-  app/dialog_init.cpp
-  app/language_file.cpp
-  app/language_index.cpp
-  app/page_rows.cpp
+  app/language/dialog_init.cpp
+  app/language/language_file.cpp
+  app/language/language_index.cpp
+  app/sheets/page_rows.cpp
   settings/contact_name.cpp
   settings/date_picture.cpp
-  appearance/bitmap_file.cpp
-  appearance/bitmap_header.cpp
-  appearance/category_color.cpp
-  appearance/color_grid.cpp
-  appearance/file_name_escape.cpp
-  appearance/icon_catalogue.cpp
-  appearance/icon_grid.cpp
-  appearance/icon_sources.cpp
-  appearance/note_label.cpp
-  appearance/short_path.cpp
-  appearance/skin_list.cpp
-  appearance/strip.cpp
+  appearance/skins/bitmap_file.cpp
+  appearance/categories/bitmap_header.cpp
+  appearance/drawing/category_color.cpp
+  appearance/categories/color_grid.cpp
+  appearance/categories/file_name_escape.cpp
+  appearance/categories/icon_catalogue.cpp
+  appearance/categories/icon_grid.cpp
+  appearance/categories/icon_sources.cpp
+  appearance/drawing/note_label.cpp
+  appearance/categories/short_path.cpp
+  appearance/skins/skin_list.cpp
+  appearance/skins/strip.cpp
   pages/stores/mail_filter.cpp
   pages/stores/mail_filter_names.cpp
   pages/stores/settings_ini.cpp

@@ -4,11 +4,11 @@
 
 #include <algorithm>
 
-#include "app/dialog_init.h"
-#include "app/language_table.h"
-#include "app/module.h"
-#include "appearance/fonts.h"
-#include "appearance/scale.h"
+#include "app/language/dialog_init.h"
+#include "app/language/language_table.h"
+#include "app/language/module.h"
+#include "appearance/drawing/fonts.h"
+#include "base/scale.h"
 #include "controls/title_band.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "controls/preview_window.h"
 
-#include "app/module.h"
-#include "controls/owned_handle.h"
+#include "app/language/module.h"
+#include "base/owned_handle.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "appearance/scale.h"
-#include "controls/owned_handle.h"
+#include "base/owned_handle.h"
+#include "base/scale.h"
 
 namespace {
 

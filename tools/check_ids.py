@@ -26,7 +26,7 @@ def main():
         if kind == "IDS" and number in FRAMEWORK_STRINGS:
             errors.append(f"{name} lies among the framework's strings")
     known = {name for name, _ in defines}
-    for folder in ("app", "settings", "appearance", "pages", "controls", "resources", "tests"):
+    for folder in ("app", "settings", "appearance", "pages", "controls", "base", "resources", "tests"):
         for file in (root / folder).rglob("*"):
             if file.suffix not in (".cpp", ".h", ".rc"):
                 continue

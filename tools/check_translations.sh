@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks every file of translations/ against the texts of the program, which it starts to write them down.
+# Checks every file of shipped/translations/ against the texts of the program, which it starts to write them down.
 #
 # usage: check_translations.sh BIN
 set -euo pipefail
@@ -18,7 +18,7 @@ mv "$STAGE/Program Files/Lum Diary/LumDiary_en.txt" "$template"
 close_stage
 [ "${2:-}" != --template ] || exit 0
 wrong=0
-for file in "$ROOT"/translations/*.txt; do
+for file in "$ROOT"/shipped/translations/*.txt; do
     python3 "$ROOT/tools/check_language.py" "$template" "$file" || wrong=1
 done
 exit $wrong

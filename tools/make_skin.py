@@ -4,7 +4,7 @@
 usage: make_skin.py SKIN OUTPUT
 
 SKIN is a folder with style.svg, which says what the drawings' classes look like, and, where the skin has
-drawings of its own, icons.svg and scroll_bar.svg; without them it takes those of skins/shapes. OUTPUT is the
+drawings of its own, icons.svg and scroll_bar.svg; without them it takes those of shipped/skins/shapes. OUTPUT is the
 skin: an archive when it ends in .zip, else a folder. See docs/skins.md. Needs rsvg-convert.
 """
 import pathlib
@@ -28,7 +28,7 @@ MAGENTA = (255, 0, 255)
 
 def icon_names():
     """The drawings of the item icon strip, in the program's own order."""
-    header = (ROOT / "appearance/item_icons.h").read_text()
+    header = (ROOT / "appearance/skins/item_icons.h").read_text()
     listed = re.search(r"enum class ItemIcon \{(.*?)\};", header, re.DOTALL)[1]
     names = re.findall(r"^\s*k(\w+),", listed, re.MULTILINE)
     return [re.sub(r"(?<=.)([A-Z])", r"_\1", name).lower() for name in names]
@@ -38,7 +38,7 @@ class Sheet:
     """The drawings of an SVG file, by name."""
 
     def __init__(self, skin, name):
-        path = skin / name if (skin / name).exists() else ROOT / "skins/shapes" / name
+        path = skin / name if (skin / name).exists() else ROOT / "shipped/skins/shapes" / name
         root = xml.parse(path).getroot()
         self.path = path
         self.width, self.height = int(root.get("data-width")), int(root.get("data-height"))

@@ -120,7 +120,7 @@ run_demo() { # OUTPUT
 translate() { # TEXT
     local translation=
     [ -z "${LANGUAGE:-}" ] ||
-        translation=$(iconv -f utf-16 -t utf-8 "$ROOT/translations/LumDiary_$LANGUAGE.txt" | tr -d '\r' |
+        translation=$(iconv -f utf-16 -t utf-8 "$ROOT/shipped/translations/LumDiary_$LANGUAGE.txt" | tr -d '\r' |
             sed -n "s/^$1|//p")
     printf '%s' "${translation:-$1}"
 }
@@ -171,7 +171,7 @@ run_gallery() { # OUTPUT
     rm -rf "$1"
     local file
     LANGUAGE= take_gallery "$1"
-    for file in "$ROOT"/translations/LumDiary_*.txt; do
+    for file in "$ROOT"/shipped/translations/LumDiary_*.txt; do
         LANGUAGE=$(basename "$file" .txt)
         LANGUAGE=${LANGUAGE#LumDiary_} take_gallery "$1"
     done
@@ -188,7 +188,7 @@ take_gallery() { # OUTPUT
         say "Taking pictures of every page at $size pixels${LANGUAGE:+ in the language $LANGUAGE}"
         open_stage "gallery-$name" "$dpi" "$size"
         [ -z "$LANGUAGE" ] ||
-            cp "$ROOT/translations/LumDiary_$LANGUAGE.txt" "$STAGE/Program Files/Lum Diary/LumDiary_en.txt"
+            cp "$ROOT/shipped/translations/LumDiary_$LANGUAGE.txt" "$STAGE/Program Files/Lum Diary/LumDiary_en.txt"
         start_program "$STAGE"
         await_window "$(translate 'Lum Diary Options')"
         take_picture "$folder/main_screen.png"

@@ -106,8 +106,8 @@ end_display() {
 furnish_device() { # DEVICE BIN DPI
     local install="$1/Program Files/Lum Diary"
     mkdir -p "$install" "$1/Windows" "$1/My Documents"
-    cp -u "$2/DiaryRes.Dll" "$ROOT/help/LumDiary.htm" "$install/"
-    cp -ru "$ROOT/help/pictures" "$install/"
+    cp -u "$2/DiaryRes.Dll" "$ROOT/shipped/help/LumDiary.htm" "$install/"
+    cp -ru "$ROOT/shipped/help/pictures" "$install/"
     cp -ru "$2/Skins" "$install/"
     # The icons are bitmaps, of the screen's density.
     cp -u "$2/icons.dat" "$install/"

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "controls/owned_handle.h"
+#include "base/owned_handle.h"
 
 struct MapiRelease {
     void operator()(IUnknown* object) const { object->Release(); }

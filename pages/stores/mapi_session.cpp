@@ -3,7 +3,7 @@
 #include <iterator>
 #include <optional>
 
-#include "controls/owned_handle.h"
+#include "base/owned_handle.h"
 #include "settings/device.h"
 
 namespace {

@@ -2,8 +2,8 @@
 #include <windows.h>
 
 #include "pocketpc/aygshell/navigation_bar.h"
+#include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/aygshell.h"
-#include "pocketpc/shell_windows.h"
 
 namespace {
 

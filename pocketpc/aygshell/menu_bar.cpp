@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "pocketpc/aygshell/navigation_bar.h"
+#include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/aygshell.h"
-#include "pocketpc/shell_windows.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The shell's measures.
+#include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/aygshell.h"
-#include "pocketpc/shell_windows.h"
 
 namespace {
 

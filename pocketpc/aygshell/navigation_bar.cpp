@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "pocketpc/aygshell/menu_bar.h"
-#include "pocketpc/shell_windows.h"
+#include "pocketpc/common/shell_windows.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "pocketpc/cemapi/mail_store.h"
 #include "pocketpc/cemapi/trials.h"
+#include "pocketpc/common/mail_store.h"
 #include "pocketpc/include/cemapi.h"
 
 // The store as it was when the session began; every object of the session holds it.

@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "pocketpc/shell_windows.h"
+#include "pocketpc/common/shell_windows.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "pocketpc/commctrl/flat_tabs.h"
-#include "pocketpc/shell_windows.h"
+#include "pocketpc/common/shell_windows.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "pocketpc/shell_windows.h"
+#include "pocketpc/common/shell_windows.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "pocketpc/shell_windows.h"
+#include "pocketpc/common/shell_windows.h"
 
 namespace {
 

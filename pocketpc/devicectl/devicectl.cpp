@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "pocketpc/common/text.h"
 #include "pocketpc/devicectl/databases.h"
 #include "pocketpc/devicectl/furnish.h"
 #include "pocketpc/devicectl/keys.h"
 #include "pocketpc/devicectl/mail.h"
-#include "pocketpc/devicectl/text.h"
 
 namespace {
 

@@ -6,10 +6,10 @@
 #include <optional>
 #include <vector>
 
+#include "pocketpc/common/text.h"
 #include "pocketpc/devicectl/databases.h"
 #include "pocketpc/devicectl/keys.h"
 #include "pocketpc/devicectl/mail.h"
-#include "pocketpc/devicectl/text.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "pocketpc/cemapi/mail_store.h"
+#include "pocketpc/common/mail_store.h"
 
 // A line for each account and folder: its number, its kind, and its name with its path.
 std::vector<std::wstring> ListMail();

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/todaycmn.h"
-#include "pocketpc/shell_windows.h"
 
 namespace {
 

@@ -11,13 +11,13 @@
 #include <string>
 #include <vector>
 
-#include "appearance/archive.h"
-#include "appearance/icon_digest.h"
-#include "appearance/icon_library.h"
-#include "appearance/mapped_file.h"
-#include "appearance/skin_art.h"
+#include "appearance/categories/icon_digest.h"
+#include "appearance/categories/icon_library.h"
+#include "appearance/skins/archive.h"
+#include "appearance/skins/skin_art.h"
+#include "base/mapped_file.h"
 #include "pages/stores/mail_folder_tree.h"
-#include "pocketpc/cemapi/mail_store.h"
+#include "pocketpc/common/mail_store.h"
 #include "settings/keyboard_layouts.h"
 #include "settings/settings_key.h"
 

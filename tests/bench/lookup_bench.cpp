@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/language_file.h"
-#include "app/language_index.h"
+#include "app/language/language_file.h"
+#include "app/language/language_index.h"
 
 namespace {
 

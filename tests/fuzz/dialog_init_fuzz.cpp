@@ -1,5 +1,5 @@
 // Any bytes are a dialog-initialisation resource; cutting it off loses records at its end alone.
-#include "app/dialog_init.h"
+#include "app/language/dialog_init.h"
 
 #include <algorithm>
 

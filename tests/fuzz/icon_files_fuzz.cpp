@@ -2,8 +2,8 @@
 // Any bytes are a bitmap whose pixels lie within them, or none.
 #include <cstring>
 
-#include "appearance/bitmap_header.h"
-#include "appearance/icon_catalogue.h"
+#include "appearance/categories/bitmap_header.h"
+#include "appearance/categories/icon_catalogue.h"
 #include "tests/fuzz/fuzz.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // Any bytes are a language file. Any text comes back from the field it is written to.
-#include "app/language_file.h"
+#include "app/language/language_file.h"
 
 #include "tests/fuzz/fuzz.h"
 

@@ -1,5 +1,5 @@
 // Any bytes are a bitmap file or none; its pieces lie in it, one below the other.
-#include "appearance/strip.h"
+#include "appearance/skins/strip.h"
 
 #include <vector>
 

@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "appearance/category_color_store.h"
-#include "appearance/category_icon_files.h"
-#include "appearance/icon_files.h"
-#include "appearance/icon_library.h"
-#include "appearance/shell_colors.h"
-#include "appearance/theme_colors.h"
+#include "appearance/categories/category_color_store.h"
+#include "appearance/categories/category_icon_files.h"
+#include "appearance/categories/icon_files.h"
+#include "appearance/categories/icon_library.h"
+#include "appearance/drawing/shell_colors.h"
+#include "appearance/drawing/theme_colors.h"
 #include "settings/settings_key.h"
 
 namespace {

@@ -3,9 +3,9 @@
 
 #include <utility>
 
-#include "appearance/category_icons.h"
-#include "appearance/category_list.h"
-#include "appearance/skin_art.h"
+#include "appearance/categories/category_icons.h"
+#include "appearance/categories/category_list.h"
+#include "appearance/skins/skin_art.h"
 #include "settings/device.h"
 #include "settings/install_path.h"
 #include "settings/settings_key.h"

@@ -7,12 +7,12 @@
 #include <utility>
 #include <vector>
 
-#include "app/module.h"
-#include "appearance/color_button.h"
-#include "appearance/icon_library.h"
-#include "appearance/icons_list_control.h"
-#include "appearance/scale.h"
-#include "appearance/theme_colors.h"
+#include "app/language/module.h"
+#include "appearance/categories/color_button.h"
+#include "appearance/categories/icon_library.h"
+#include "appearance/categories/icons_list_control.h"
+#include "appearance/drawing/theme_colors.h"
+#include "base/scale.h"
 #include "controls/dialog.h"
 #include "settings/install_path.h"
 

@@ -1,4 +1,4 @@
-#include "appearance/fonts.h"
+#include "appearance/drawing/fonts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The texts of the program on the device, with the program's own resource library.
-#include "app/language_table.h"
+#include "app/language/language_table.h"
 
 #include <commctrl.h>
 
@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "app/module.h"
-#include "controls/owned_handle.h"
+#include "app/language/module.h"
+#include "base/owned_handle.h"
 #include "resources/ids.h"
 
 namespace {

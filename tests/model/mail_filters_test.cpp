@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "pages/stores/mail_folder_tree.h"
-#include "pocketpc/cemapi/mail_store.h"
+#include "pocketpc/common/mail_store.h"
 #include "settings/settings_key.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "app/module.h"
-#include "appearance/scale.h"
-#include "appearance/skin_art.h"
+#include "app/language/module.h"
+#include "appearance/skins/skin_art.h"
+#include "base/scale.h"
 #include "settings/settings_key.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <random>
 #include <string>
 
-#include "appearance/category_color.h"
-#include "appearance/color_grid.h"
-#include "appearance/file_name_escape.h"
+#include "appearance/categories/color_grid.h"
+#include "appearance/categories/file_name_escape.h"
+#include "appearance/drawing/category_color.h"
 
 namespace {
 

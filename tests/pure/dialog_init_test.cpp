@@ -1,4 +1,4 @@
-#include "app/dialog_init.h"
+#include "app/language/dialog_init.h"
 
 #include <gtest/gtest.h>
 

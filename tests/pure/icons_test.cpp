@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "appearance/bitmap_header.h"
-#include "appearance/icon_catalogue.h"
-#include "appearance/icon_grid.h"
-#include "appearance/icon_sources.h"
-#include "appearance/short_path.h"
+#include "appearance/categories/bitmap_header.h"
+#include "appearance/categories/icon_catalogue.h"
+#include "appearance/categories/icon_grid.h"
+#include "appearance/categories/icon_sources.h"
+#include "appearance/categories/short_path.h"
 
 namespace {
 

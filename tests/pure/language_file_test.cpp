@@ -1,4 +1,4 @@
-#include "app/language_file.h"
+#include "app/language/language_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "app/language_index.h"
+#include "app/language/language_index.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "appearance/note_label.h"
+#include "appearance/drawing/note_label.h"
 #include "settings/hidden_names.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "app/page_rows.h"
+#include "app/sheets/page_rows.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "appearance/skin_list.h"
-#include "appearance/strip.h"
+#include "appearance/skins/skin_list.h"
+#include "appearance/skins/strip.h"
 
 namespace {
 

@@ -1,0 +1,158 @@
+#include "app/sheets/options_page.h"
+
+#include <commctrl.h>
+
+#include <utility>
+
+#include "app/language/language_table.h"
+#include "app/language/module.h"
+#include "controls/launch_help.h"
+#include "resources/ids.h"
+#include "settings/diary_settings.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+class ProductKeyValues : public PageValues {
+  public:
+    std::uint32_t Read(const NumberSetting& setting) override {
+        return key_.ReadDword(setting.name, setting.defaultValue);
+    }
+    void Write(const NumberSetting& setting, std::uint32_t value) override {
+        key_.WriteDword(setting.name, value);
+    }
+
+  private:
+    CSettingsKey key_ = OpenProductKey();
+};
+
+}  // namespace
+
+OptionsPage::OptionsPage(unsigned templateId, const wchar_t* anchor, std::vector<Row> rows)
+    : FullScreenDialog(templateId), anchor_(anchor), rows_(std::move(rows)) {}
+
+HPROPSHEETPAGE OptionsPage::CreateHandle() {
+    // The system would accept a page without a template and fail to show it later.
+    if (!FindResourceW(ResourceLibrary(), MAKEINTRESOURCEW(templateId()), RT_DIALOG))
+        return nullptr;
+    PROPSHEETPAGEW page = {};
+    page.dwSize = sizeof page;
+    page.hInstance = ResourceLibrary();
+    page.pszTemplate = MAKEINTRESOURCEW(templateId());
+    page.pfnDlgProc = DialogProcedure;
+    page.lParam = reinterpret_cast<LPARAM>(static_cast<Dialog*>(this));
+    return CreatePropertySheetPageW(&page);
+}
+
+bool OptionsPage::OnInit() {
+    CDiarySettings& shared = GetDiarySettings();
+    if (EditsShared()) shared.Load();  // Another page may have changed it.
+    ProductKeyValues values;
+    rows_.Load(*this, values, shared);
+    OnLoad(values);
+    rows_.UpdateEnabled(*this);
+    OnUpdate();
+    return false;
+}
+
+bool OptionsPage::OnApply() {
+    CDiarySettings& shared = GetDiarySettings();
+    {
+        ProductKeyValues values;
+        rows_.Save(*this, values, shared);
+        OnSave(values);
+    }
+    if (EditsShared()) shared.Save();
+    return true;
+}
+
+bool OptionsPage::OnCommand(int, int code) {
+    if (code == BN_CLICKED || code == CBN_SELCHANGE) {
+        rows_.UpdateEnabled(*this);
+        OnUpdate();
+    }
+    return false;
+}
+
+void OptionsPage::OnHelp() { LaunchHelp((std::wstring(L"options_") + anchor_).c_str()); }
+
+std::optional<INT_PTR> OptionsPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NOTIFY) {
+        const NMHDR& header = *reinterpret_cast<const NMHDR*>(lParam);
+        if (header.hwndFrom == hwnd() || header.hwndFrom == GetParent(hwnd())) {
+            return OnPageNotification(header);
+        }
+        return OnControlNotification(header);
+    }
+    // The sheet hears of help first and passes it to its current page as a notification.
+    if (message == WM_HELP) return std::nullopt;
+    return FullScreenDialog::OnMessage(message, wParam, lParam);
+}
+
+bool OptionsPage::Refuse(int control, const std::wstring& reason) {
+    MessageBoxW(GetParent(hwnd()), reason.c_str(),
+                GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), MB_ICONHAND);
+    SetFocus(Item(control));
+    return false;
+}
+
+std::optional<INT_PTR> OptionsPage::OnPageNotification(const NMHDR& header) {
+    switch (header.code) {
+        case PSN_SETACTIVE: return Answer(OnSetActive() ? 0 : -1);
+        case PSN_APPLY: return Answer(OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE);
+        case PSN_HELP: OnHelp(); return Answer(0);
+        case PSN_KILLACTIVE:
+        case PSN_RESET:
+        case PSN_WIZBACK:
+        case PSN_WIZNEXT:
+        case PSN_WIZFINISH:
+        case PSN_QUERYCANCEL: return Answer(0);
+    }
+    return std::nullopt;
+}
+
+bool OptionsPage::IsChecked(int control) const {
+    return SendDlgItemMessageW(hwnd(), control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+void OptionsPage::SetChecked(int control, bool checked) {
+    SendDlgItemMessageW(hwnd(), control, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void OptionsPage::Enable(int control, bool enabled) { EnableWindow(Item(control), enabled); }
+
+void OptionsPage::AddItem(int control, unsigned label, std::int32_t value) {
+    AddItem(control, GetLanguageTable().LoadString(label), value);
+}
+
+void OptionsPage::AddItem(int control, const std::wstring& text, std::int32_t value) {
+    const LRESULT index = SendDlgItemMessageW(hwnd(), control, CB_ADDSTRING, 0,
+                                              reinterpret_cast<LPARAM>(text.c_str()));
+    SendDlgItemMessageW(hwnd(), control, CB_SETITEMDATA, index, value);
+}
+
+int OptionsPage::Selection(int control) const {
+    return static_cast<int>(SendDlgItemMessageW(hwnd(), control, CB_GETCURSEL, 0, 0));
+}
+
+void OptionsPage::SetSelection(int control, int index) {
+    SendDlgItemMessageW(hwnd(), control, CB_SETCURSEL, index, 0);
+}
+
+int OptionsPage::ItemCount(int control) const {
+    return static_cast<int>(SendDlgItemMessageW(hwnd(), control, CB_GETCOUNT, 0, 0));
+}
+
+std::int32_t OptionsPage::ItemValue(int control, int index) const {
+    return static_cast<std::int32_t>(
+        SendDlgItemMessageW(hwnd(), control, CB_GETITEMDATA, index, 0));
+}
+
+std::wstring OptionsPage::ItemText(int control, int index) const {
+    const LRESULT length = SendDlgItemMessageW(hwnd(), control, CB_GETLBTEXTLEN, index, 0);
+    if (length <= 0) return {};
+    std::wstring text(length, L'\0');
+    SendDlgItemMessageW(hwnd(), control, CB_GETLBTEXT, index,
+                        reinterpret_cast<LPARAM>(text.data()));
+    return text;
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <prsht.h>
+
+#include <optional>
+#include <vector>
+
+#include "app/sheets/page_rows.h"
+#include "controls/full_screen_dialog.h"
+
+// One page of an options sheet. A page names its template, its help anchor and its rows; what does
+// not fit a row it adds by overriding OnLoad, OnSave and OnUpdate.
+class OptionsPage : public FullScreenDialog, protected PageControls {
+  public:
+    // The record by which a property sheet creates the page, which must outlive the sheet; null
+    // when the resource library lacks its template.
+    HPROPSHEETPAGE CreateHandle();
+
+  protected:
+    // `anchor` without the "options_" that all pages' anchors begin with.
+    OptionsPage(unsigned templateId, const wchar_t* anchor, std::vector<Row> rows);
+
+    virtual bool OnSetActive() { return true; }
+    // Validates and stores; false keeps the sheet open on this page.
+    virtual bool OnApply();
+    // Called after the rows are loaded, and after they are stored but before the shared settings
+    // are.
+    virtual void OnLoad(PageValues&) {}
+    virtual void OnSave(PageValues&) {}
+    // Called when all is loaded and after each click and choice, when the rows are enabled anew.
+    virtual void OnUpdate() {}
+    // WM_NOTIFY of a control.
+    virtual std::optional<INT_PTR> OnControlNotification(const NMHDR&) { return std::nullopt; }
+    // What OnApply answers when a control holds what cannot be stored: says why and goes there.
+    bool Refuse(int control, const std::wstring& reason);
+    // Whether OnSave changes members of the shared settings that no row names.
+    virtual bool EditsShared() const { return rows_.HasSharedRows(); }
+
+    bool OnInit() override;
+    bool OnCommand(int id, int code) override;
+    void OnHelp() override;
+    std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    bool IsChecked(int control) const override;
+    void SetChecked(int control, bool checked) override;
+    void Enable(int control, bool enabled) override;
+    void AddItem(int control, unsigned label, std::int32_t value) override;
+    void AddItem(int control, const std::wstring& text, std::int32_t value);
+    int Selection(int control) const override;
+    void SetSelection(int control, int index) override;
+    int ItemCount(int control) const override;
+    std::int32_t ItemValue(int control, int index) const override;
+    std::wstring ItemText(int control, int index) const override;
+
+  private:
+    std::optional<INT_PTR> OnPageNotification(const NMHDR& header);
+
+    const wchar_t* anchor_;
+    PageRows rows_;
+};

@@ -1,0 +1,131 @@
+#include "app/sheets/page_rows.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// A whole decimal number; `stored` for any other text.
+std::int32_t NumberOf(const std::wstring& text, std::int32_t stored) {
+    constexpr std::size_t kMostDigits = 9;
+    if (text.empty() || text.size() > kMostDigits) return stored;
+    std::int32_t number = 0;
+    for (const wchar_t c : text) {
+        if (c < L'0' || c > L'9') return stored;
+        number = number * 10 + (c - L'0');
+    }
+    return number;
+}
+
+int IndexOfText(const PageControls& controls, int control, const std::wstring& text) {
+    const int count = controls.ItemCount(control);
+    for (int i = 0; i < count; ++i) {
+        if (controls.ItemText(control, i) == text) return i;
+    }
+    return -1;
+}
+
+void Show(PageControls& controls, const Row& row, std::int32_t number) {
+    switch (row.kind) {
+        case Row::Kind::kCheck: controls.SetChecked(row.control, number != 0); break;
+        case Row::Kind::kInvertedCheck: controls.SetChecked(row.control, number == 0); break;
+        case Row::Kind::kIndex: {
+            const bool listed = number >= 0 && number < controls.ItemCount(row.control);
+            controls.SetSelection(row.control, listed ? number : -1);
+            break;
+        }
+        case Row::Kind::kNumberText:
+            controls.SetSelection(row.control,
+                                  IndexOfText(controls, row.control, std::to_wstring(number)));
+            break;
+        case Row::Kind::kChoice: FillChoices(controls, row.control, row.choices, number); break;
+        case Row::Kind::kNoValue: break;
+    }
+}
+
+}  // namespace
+
+void FillChoices(PageControls& controls, int control, const ValueLabel* choices,
+                 std::int32_t value) {
+    int selected = 0;
+    for (int i = 0; choices[i].label; ++i) {
+        controls.AddItem(control, choices[i].label, choices[i].value);
+        if (choices[i].value == value) selected = i;
+    }
+    controls.SetSelection(control, selected);
+}
+
+std::int32_t ChosenValue(const PageControls& controls, int control, std::int32_t stored) {
+    const int index = controls.Selection(control);
+    return index < 0 ? stored : controls.ItemValue(control, index);
+}
+
+PageRows::PageRows(std::vector<Row> rows) : rows_(std::move(rows)), states_(rows_.size()) {}
+
+void PageRows::Load(PageControls& controls, PageValues& values, const CDiarySettings& shared) {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const Row& row = rows_[i];
+        State& state = states_[i];
+        if (row.kind == Row::Kind::kNoValue) continue;
+        state.loaded =
+            row.shared ? shared.*row.shared : static_cast<std::int32_t>(values.Read(row.setting));
+        Show(controls, row, state.loaded);
+    }
+}
+
+std::int32_t PageRows::Edited(const PageControls& controls, std::size_t index) const {
+    const Row& row = rows_[index];
+    const State& state = states_[index];
+    switch (row.kind) {
+        case Row::Kind::kCheck:
+            if (row.whileOff != Row::WhileOff::kShown && !state.enabled) return state.loaded;
+            return controls.IsChecked(row.control) ? 1 : 0;
+        case Row::Kind::kInvertedCheck: return controls.IsChecked(row.control) ? 0 : 1;
+        case Row::Kind::kIndex: {
+            const int selection = controls.Selection(row.control);
+            return selection < 0 ? state.loaded : selection;
+        }
+        case Row::Kind::kNumberText: {
+            const int selection = controls.Selection(row.control);
+            if (selection < 0) return state.loaded;
+            return NumberOf(controls.ItemText(row.control, selection), state.loaded);
+        }
+        case Row::Kind::kChoice: return ChosenValue(controls, row.control, state.loaded);
+        case Row::Kind::kNoValue: break;
+    }
+    return state.loaded;
+}
+
+void PageRows::Save(const PageControls& controls, PageValues& values,
+                    CDiarySettings& shared) const {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const Row& row = rows_[i];
+        if (row.kind == Row::Kind::kNoValue) continue;
+        if (row.whileOff == Row::WhileOff::kKeptAndNotStored && !states_[i].enabled) continue;
+        const std::int32_t number = Edited(controls, i);
+        if (row.shared) {
+            shared.*row.shared = number;
+        } else {
+            values.Write(row.setting, static_cast<std::uint32_t>(number));
+        }
+    }
+}
+
+void PageRows::UpdateEnabled(PageControls& controls) {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const Row& row = rows_[i];
+        State& state = states_[i];
+        if (!row.enabledBy) continue;
+        const bool enabled = controls.IsChecked(row.enabledBy) == row.enablingState;
+        if (row.whileOff != Row::WhileOff::kShown && enabled != state.enabled) {
+            if (!enabled) state.keptChecked = controls.IsChecked(row.control);
+            controls.SetChecked(row.control, enabled && state.keptChecked);
+        }
+        state.enabled = enabled;
+        controls.Enable(row.control, enabled);
+    }
+}
+
+bool PageRows::HasSharedRows() const {
+    return std::any_of(rows_.begin(), rows_.end(), [](const Row& row) { return row.shared; });
+}

@@ -1,0 +1,102 @@
+#include "appearance/categories/icon_files.h"
+
+#include <array>
+#include <utility>
+
+#include "appearance/categories/bitmap_header.h"
+#include "base/mapped_file.h"
+#include "base/scale.h"
+#include "settings/install_path.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+// Where Pocket Informant notes the folder last used for icons, and before it for pictures.
+constexpr std::array kPocketInformantKeys = {
+    L"\\Software\\WebIS\\PocketInformant\\Menus\\IconChooser\\MRU",
+    L"\\Software\\WebIS\\PocketInformant\\Menus\\PictureChooser\\MRU",
+};
+
+std::wstring RememberedKey() { return std::wstring(kProductKey) + L"\\IconSets"; }
+
+std::wstring PocketInformantFolder() {
+    for (const wchar_t* const path : kPocketInformantKeys) {
+        const std::wstring folder = ReadText(HKEY_CURRENT_USER, path, L"0");
+        if (!folder.empty()) return folder;
+    }
+    return {};
+}
+
+}  // namespace
+
+std::wstring ReadText(HKEY root, const wchar_t* path, const wchar_t* name) {
+    CSettingsKey key(root, path, false, false);
+    return key.IsOpen() ? key.ReadString(name) : std::wstring();
+}
+
+std::wstring JoinPath(const std::wstring& folder, const std::wstring& name) {
+    return folder.ends_with(L'\\') ? folder + name : folder + L'\\' + name;
+}
+
+std::vector<std::wstring> FindBitmapFiles(const std::wstring& folder) {
+    std::vector<std::wstring> names;
+    if (folder.empty()) return names;
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(JoinPath(folder, L"*.bmp").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (!isFolder && found.cFileName[0] != L'.') names.push_back(found.cFileName);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return names;
+}
+
+OwnedBitmap LoadIconBitmap(const std::wstring& path) {
+    if (!ReadBitmapSize(MappedFile(path).bytes())) return {};
+    return OwnedBitmap(SHLoadDIBitmap(path.c_str()));
+}
+
+bool HasIcons(const std::wstring& folder) {
+    const int largest = ScaleY(kLargestIcon);
+    for (const std::wstring& name : FindBitmapFiles(folder)) {
+        const std::wstring path = JoinPath(folder, name);
+        const std::optional<BitmapSize> size = ReadBitmapSize(MappedFile(path).bytes());
+        if (size && size->width <= largest && size->height <= largest && LoadIconBitmap(path))
+            return true;
+    }
+    return false;
+}
+
+std::vector<std::wstring> FindFixedIconSources() {
+    std::vector<std::wstring> sources;
+    for (std::wstring folder :
+         {GetInstallPath(L"IconSet\\"),
+          ReadText(HKEY_LOCAL_MACHINE, kAgendaFusionKey, L"SourceIconLocation"),
+          PocketInformantFolder()}) {
+        if (HasIcons(folder)) sources.push_back(std::move(folder));
+    }
+    return sources;
+}
+
+RememberedFolders ReadRememberedFolders() {
+    CSettingsKey key(HKEY_LOCAL_MACHINE, RememberedKey().c_str(), true, true);
+    std::vector<std::wstring> names;
+    std::wstring name;
+    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
+        names.push_back(name);
+    }
+    std::vector<std::pair<std::wstring, std::wstring>> values;
+    for (std::wstring& each : names) {
+        std::wstring folder = key.ReadString(each.c_str());
+        values.emplace_back(std::move(each), std::move(folder));
+    }
+    return RememberedFolders(std::move(values));
+}
+
+void WriteRememberedFolders(const RememberedFolders& remembered) {
+    CSettingsKey key(HKEY_LOCAL_MACHINE, RememberedKey().c_str(), true, true);
+    for (std::size_t i = 0; i < remembered.folders().size(); ++i) {
+        key.WriteString(std::to_wstring(i + 1).c_str(), remembered.folders()[i].c_str());
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "appearance/categories/icon_catalogue.h"
+#include "base/owned_handle.h"
+
+// The colour of an icon's bitmap that is not painted.
+inline constexpr COLORREF kIconTransparentColor = 0x00FF00;
+
+// The icons of the folders that were loaded, in groups. The group for icons that the catalogue
+// does not know is always there, and first.
+class IconLibrary {
+  public:
+    struct Icon {
+        std::wstring path;
+        OwnedBitmap bitmap;
+        int width = 0;  // pixels
+        int height = 0;
+    };
+    struct Group {
+        std::wstring title;  // translated
+        std::vector<Icon> icons;
+    };
+
+    // With the catalogue of the installation folder, if it has one.
+    IconLibrary();
+
+    const std::vector<Group>& groups() const { return groups_; }
+
+    // Adds the bitmaps of a folder, which are at most 30 design pixels wide and high; any other
+    // file is passed over. Does nothing for a folder that was loaded since the last Clear.
+    void LoadFolder(const std::wstring& folder);
+    void Clear();
+
+  private:
+    Group& GroupOf(const IconDigest& digest);
+
+    IconCatalogue catalogue_;
+    std::vector<std::size_t> positions_;  // of the catalogue's groups in groups_; 0 for not there
+    std::vector<Group> groups_;
+    std::vector<std::wstring> loadedFolders_;
+};

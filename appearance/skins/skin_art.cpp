@@ -1,0 +1,145 @@
+#include "appearance/skins/skin_art.h"
+
+#include <utility>
+
+#include "app/language/module.h"
+#include "appearance/categories/category_icons.h"
+#include "base/scale.h"
+#include "resources/ids.h"
+#include "settings/catalogue.h"
+#include "settings/install_path.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+constexpr COLORREF kTransparent = RGB(255, 0, 255);
+constexpr int kTabIconSize = 16;  // at 96 dots per inch
+
+// The piece that each SkinIcon comes from. What the skin's strip lacks, the built-in one has.
+constexpr ItemIcon kIconPieces[kSkinIconCount] = {
+    ItemIcon::kExpanded,    // SkinIcon::kExpanded
+    ItemIcon::kCollapsed,   // SkinIcon::kCollapsed
+    ItemIcon::kReminder,    // SkinIcon::kReminder
+    ItemIcon::kRecurrence,  // SkinIcon::kRecurrence
+    ItemIcon::kPrivate,     // SkinIcon::kPrivate
+    ItemIcon::kNote,        // SkinIcon::kNote
+};
+
+bool IsHighResolution() { return ScaleX(1) >= 2; }
+
+// Cuts a bitmap into squares, row by row from its upper left corner.
+OwnedImageList CutSquares(const BitmapView& view, int size) {
+    OwnedImageList list(ImageList_Create(size, size, ILC_COLOR | ILC_MASK, kTabIconCount, 1));
+    if (!list) return {};
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size;
+    info.bmiHeader.biHeight = -size;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 24;
+    const std::size_t stride = (3 * static_cast<std::size_t>(size) + 3) / 4 * 4;
+    for (int top = 0; top + size <= view.height; top += size) {
+        for (int left = 0; left + size <= view.width; left += size) {
+            void* pixels = nullptr;
+            const OwnedBitmap square(
+                CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+            if (!square) return {};
+            for (int row = 0; row < size; ++row) {
+                memcpy(static_cast<std::uint8_t*>(pixels) + stride * row,
+                       view.Pixel(left, top + row), 3 * static_cast<std::size_t>(size));
+            }
+            if (ImageList_AddMasked(list.get(), square.get(), kTransparent) < 0) return {};
+        }
+    }
+    return list;
+}
+
+}  // namespace
+
+std::wstring CurrentSkinName() {
+    CSettingsKey key = OpenProductKey();
+    const std::wstring name =
+        key.ReadString(settings::SkinName.name, settings::SkinName.defaultText);
+    return name.empty() ? settings::SkinName.defaultText : name;
+}
+
+std::wstring SkinsFolder() { return GetInstallPath(L"Skins\\"); }
+
+bool SkinArt::OpenSkin() {
+    if (source_.IsOpen()) return true;
+    if (path_.empty()) path_ = SkinsFolder() + CurrentSkinName();
+    return source_.Open(path_ + L".zip") || source_.Open(path_);
+}
+
+SkinArt::LoadResult SkinArt::LoadStrip(std::optional<SkinStrip>& strip, const char* member,
+                                       unsigned builtIn) {
+    const bool open = OpenSkin();
+    if (!strip && open) {
+        if (std::optional<std::vector<std::uint8_t>> file = source_.ReadMember(member)) {
+            strip = SkinStrip::FromFile(std::move(*file));
+        }
+    }
+    if (!strip) strip = SkinStrip::FromResource(ResourceLibrary(), builtIn);
+    if (!strip) return kFailed;
+    return open ? kFromSkin : kBuiltIn;
+}
+
+SkinArt::LoadResult SkinArt::LoadIcons() {
+    return IsHighResolution() ? LoadStrip(icons_, "icons_vga.bmp", IDB_ICONS_HIGH)
+                              : LoadStrip(icons_, "icons.bmp", IDB_ICONS);
+}
+
+SkinArt::LoadResult SkinArt::LoadScrollBar() {
+    return IsHighResolution() ? LoadStrip(scrollBar_, "scrollbar_vga.bmp", IDB_SCROLL_BAR_HIGH)
+                              : LoadStrip(scrollBar_, "scrollbar.bmp", IDB_SCROLL_BAR);
+}
+
+SkinArt::LoadResult SkinArt::LoadTabIcons() {
+    if (!OpenSkin()) return kFailed;
+    if (!tabIcons_) {
+        const int size = ScaleX(kTabIconSize);
+        const std::string member = "tab_icons_" + std::to_string(size) + ".bmp";
+        const std::optional<std::vector<std::uint8_t>> file = source_.ReadMember(member.c_str());
+        const std::optional<BitmapView> view = file ? ParseBitmapFile(*file) : std::nullopt;
+        if (view) tabIcons_ = CutSquares(*view, size);
+    }
+    return tabIcons_ ? kFromSkin : kFailed;
+}
+
+bool SkinArt::IsValid() {
+    Reset();
+    return LoadIcons() == kFromSkin && icons_->Count() >= kItemIconCount &&
+           LoadScrollBar() == kFromSkin && scrollBar_->Count() >= kScrollBarPartCount &&
+           LoadTabIcons() == kFromSkin && ImageList_GetImageCount(tabIcons_.get()) >= kTabIconCount;
+}
+
+void SkinArt::Reset() {
+    for (OwnedIcon& icon : iconHandles_) icon.Reset();
+    GetCategoryIcons().Drop();
+    path_.clear();
+    icons_.reset();
+    scrollBar_.reset();
+    tabIcons_.Reset();
+    source_.Close();
+}
+
+void SkinArt::DrawItemIcon(HDC dc, ItemIcon icon, int x, int y) {
+    if (LoadIcons() != kFailed) icons_->Draw(dc, static_cast<int>(icon), x, y);
+}
+
+HICON SkinArt::Icon(SkinIcon icon) {
+    OwnedIcon& handle = iconHandles_[static_cast<int>(icon)];
+    const int piece = static_cast<int>(kIconPieces[static_cast<int>(icon)]);
+    if (!handle && LoadIcons() != kFailed) handle = icons_->CreateIcon(piece);
+    if (!handle) {
+        const std::optional<SkinStrip> builtIn = SkinStrip::FromResource(
+            ResourceLibrary(), IsHighResolution() ? IDB_ICONS_HIGH : IDB_ICONS);
+        if (builtIn) handle = builtIn->CreateIcon(piece);
+    }
+    return handle.get();
+}
+
+SkinArt& GetSkinArt() {
+    static SkinArt art;
+    return art;
+}

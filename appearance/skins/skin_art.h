@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "appearance/skins/item_icons.h"
+#include "appearance/skins/skin_source.h"
+#include "appearance/skins/skin_strip.h"
+#include "base/owned_handle.h"
+
+// The chosen skin's name; where it is empty, the default one's.
+std::wstring CurrentSkinName();
+// The folder that holds the skins, with a backslash at its end.
+std::wstring SkinsFolder();
+
+// The item icons that are kept as icons, for controls that draw icons.
+enum class SkinIcon { kExpanded, kCollapsed, kReminder, kRecurrence, kPrivate, kNote };
+inline constexpr int kSkinIconCount = 6;
+
+// The chosen skin's artwork. It is loaded when it is first asked for and kept until Reset.
+class SkinArt {
+  public:
+    enum LoadResult {
+        kFailed = 0,
+        kBuiltIn = 1,   // no skin could be opened
+        kFromSkin = 2,  // a skin is open; what it lacks is built in
+    };
+
+    LoadResult LoadIcons();
+    LoadResult LoadScrollBar();
+    // There are no tab icons but a skin's own: kFailed or kFromSkin.
+    LoadResult LoadTabIcons();
+    // Whether the skin, which is loaded anew, opens and has all it needs.
+    bool IsValid();
+    // Forgets what is loaded, category icons included, so that the skin chosen then is opened next.
+    void Reset();
+
+    // The strips and tab icons once loaded; null before.
+    const SkinStrip* Icons() const { return icons_ ? &*icons_ : nullptr; }
+    const SkinStrip* ScrollBar() const { return scrollBar_ ? &*scrollBar_ : nullptr; }
+    HIMAGELIST TabIcons() const { return tabIcons_.get(); }
+
+    // Draws an item icon over what is there, loading what is needed.
+    void DrawItemIcon(HDC dc, ItemIcon icon, int x, int y);
+    // An icon that stays the skin's, valid until Reset; null when even the built-in strip fails.
+    HICON Icon(SkinIcon icon);
+
+  private:
+    bool OpenSkin();
+    LoadResult LoadStrip(std::optional<SkinStrip>& strip, const char* member, unsigned builtIn);
+
+    std::wstring path_;  // of the skin, without ".zip"
+    SkinSource source_;
+    std::optional<SkinStrip> icons_;
+    std::optional<SkinStrip> scrollBar_;
+    OwnedImageList tabIcons_;
+    std::array<OwnedIcon, kSkinIconCount> iconHandles_;
+};
+
+SkinArt& GetSkinArt();

@@ -1,0 +1,67 @@
+#include "appearance/skins/skin_source.h"
+
+#include <windows.h>
+
+#include "base/owned_handle.h"
+
+namespace {
+
+constexpr std::size_t kLongestPath = 260;
+
+OwnedFile OpenForReading(const std::wstring& path) {
+    return OwnedFile(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+std::optional<std::uint32_t> SizeOf(const OwnedFile& file) {
+    if (!file) return {};
+    DWORD high = 0;
+    const DWORD low = GetFileSize(file.get(), &high);
+    if (high || low > kLargestMember) return {};  // Failure is 0xFFFFFFFF.
+    return low;
+}
+
+}  // namespace
+
+bool SkinSource::Open(const std::wstring& path) {
+    Close();
+    if (path.empty() || path.size() > kLongestPath) return false;
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return false;
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
+        folder_ = path;
+        if (folder_.back() != L'\\') folder_ += L'\\';
+    } else {
+        archive_ = Archive::Open(path);
+    }
+    return IsOpen();
+}
+
+void SkinSource::Close() {
+    archive_.reset();
+    folder_.clear();
+}
+
+std::wstring SkinSource::MemberPath(const char* name) const {
+    std::wstring path = folder_;
+    for (; *name; ++name) path += static_cast<wchar_t>(*name);
+    return path;
+}
+
+std::optional<std::uint32_t> SkinSource::GetMemberSize(const char* name) const {
+    if (archive_) return archive_->MemberSize(name);
+    if (folder_.empty()) return {};
+    return SizeOf(OpenForReading(MemberPath(name)));
+}
+
+std::optional<std::vector<std::uint8_t>> SkinSource::ReadMember(const char* name) const {
+    if (archive_) return archive_->ReadMember(name);
+    if (folder_.empty()) return {};
+    const OwnedFile file = OpenForReading(MemberPath(name));
+    const std::optional<std::uint32_t> size = SizeOf(file);
+    if (!size) return {};
+    std::vector<std::uint8_t> bytes(*size);
+    DWORD read = 0;
+    if (!ReadFile(file.get(), bytes.data(), *size, &read, nullptr) || read != *size) return {};
+    return bytes;
+}

@@ -1,0 +1,97 @@
+#include "pages/calendar/calendar_titles_page.h"
+
+#include "app/language/language_table.h"
+#include "appearance/drawing/sample_list.h"
+#include "pages/shared/title_draft.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Index(IDC_APP_SUBJECT_STYLE, &CDiarySettings::appointmentSubjectStyle),
+    rows::Check(IDC_APP_LOCATION, &CDiarySettings::appointmentLocation),
+    rows::Check(IDC_APP_START_ONLY, &CDiarySettings::startTimeOnly),
+    rows::Check(IDC_APP_STATUS_BAR, &CDiarySettings::statusBar),
+    rows::Check(IDC_APP_INDENT, &CDiarySettings::appointmentIndent),
+    rows::Check(IDC_TIME_SPAN_NEW_STYLE, settings::TimeSpanNewStyle),
+};
+
+// The lists whose titles can be edited, in the order of the drop-down.
+struct TitledList {
+    unsigned label;
+    ItemIcon icon;
+    DisplayPattern TitleDraft::*pattern;
+};
+constexpr TitledList kLists[] = {
+    {IDS_VIEW_CALENDAR, ItemIcon::kAppointment, &TitleDraft::appointment},
+    {IDS_VIEW_TASKS, ItemIcon::kTaskOpen, &TitleDraft::task},
+    {IDS_VIEW_CONTACTS, ItemIcon::kContact, &TitleDraft::contact},
+};
+
+// The states of the sample appointments.
+constexpr int kTentative = 1, kBusy = 2;
+
+CategoryColor SampleColor() {
+    CategoryColor color;
+    color.SetColor(RGB(0xFF, 0xD7, 0x00));
+    color.SetIntensity(25);
+    return color;
+}
+
+}  // namespace
+
+CalendarTitlesPage::CalendarTitlesPage()
+    : TitlePage(IDD_CALENDAR_TITLES, L"calendar_titles", {std::begin(kRows), std::end(kRows)}) {}
+
+void CalendarTitlesPage::OnLoad(PageValues& values) {
+    for (const TitledList& list : kLists) AddItem(IDC_TITLE_LIST, list.label, 0);
+    SetSelection(IDC_TITLE_LIST, 0);
+    FillChoices(*this, IDC_TITLE_MODE, kSubjectModes, Edited().mode);
+    TitlePage::OnLoad(values);
+}
+
+DisplayPattern& CalendarTitlesPage::Edited() const {
+    return GetTitleDraft().*kLists[Selection(IDC_TITLE_LIST)].pattern;
+}
+
+// An unknown mode shows as none, and stays unless another is chosen.
+bool CalendarTitlesPage::OnSetActive() {
+    SetSelection(IDC_TITLE_MODE, -1);
+    for (int i = 0; kSubjectModes[i].label; ++i) {
+        if (kSubjectModes[i].value == Edited().mode) SetSelection(IDC_TITLE_MODE, i);
+    }
+    return TitlePage::OnSetActive();
+}
+
+bool CalendarTitlesPage::OnCommand(int id, int code) {
+    if (code == CBN_SELCHANGE && id == IDC_TITLE_LIST) OnSetActive();
+    if (code == CBN_SELCHANGE && id == IDC_TITLE_MODE) {
+        Edited().mode = ChosenValue(*this, IDC_TITLE_MODE, Edited().mode);
+    }
+    return TitlePage::OnCommand(id, code);
+}
+
+void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    const TitledList& shown = kLists[Selection(IDC_TITLE_LIST)];
+    SampleList list(item.hDC, item.rcItem, 3);
+    list.SetIndented(shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_INDENT));
+    const LanguageTable& texts = GetLanguageTable();
+    if (shown.icon == ItemIcon::kContact) {
+        list.AddTitle(shown.icon, Edited(), texts.LoadString(IDS_SAMPLE_CONTACT));
+        return;
+    }
+    const bool place = shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_LOCATION);
+    const auto subject = [&](unsigned id) {
+        const std::wstring text = texts.LoadString(id);
+        return place ? text + L" (" + texts.LoadString(IDS_SAMPLE_PLACE) + L")" : text;
+    };
+    TitleLook first, second;
+    first.selected = true;
+    second.color = SampleColor();
+    if (shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_STATUS_BAR)) {
+        first.status = kBusy;
+        second.status = kTentative;
+    }
+    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_LONG_SUBJECT), first);
+    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_APPOINTMENT), second);
+}

@@ -1,0 +1,98 @@
+#include "pages/general/general_common_page.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cwchar>
+
+#include "app/language/language_table.h"
+#include "settings/device.h"
+#include "settings/registration.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Index(IDC_HEADER_STATE, settings::HeaderMinimized),
+    rows::Check(IDC_ALLOW_MINIMIZATION, settings::AllowMinimization),
+    rows::Check(IDC_AUTO_SIZE, settings::AutoSizeAdjust),
+};
+
+constexpr int kHeaderHidden = 2;
+
+// The other programs' numbers, as the plug-in knows them.
+struct Pim {
+    std::int32_t number;
+    unsigned label;
+    bool (*isPresent)();
+};
+constexpr Pim kPims[] = {
+    {0, IDS_PIM_SYSTEM, [] { return true; }},
+    {1, IDS_PIM_AGENDA_FUSION, IsAgendaFusionPresent},
+    {2, IDS_PIM_POCKET_INFORMANT, IsPocketInformantPresent},
+    {3, IDS_PIM_AGENDA_ONE, IsAgendaOnePresent},
+};
+
+}  // namespace
+
+GeneralCommonPage::GeneralCommonPage()
+    : OptionsPage(IDD_GENERAL_COMMON, L"general_common", {std::begin(kRows), std::end(kRows)}) {}
+
+void GeneralCommonPage::OnLoad(PageValues& values) {
+    smallest_ = SmallestHeight(values.Read(settings::ShowTabs),
+                               Registration::Probe().state == Registration::kTabPerHostTab);
+    landscape_ = GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN);
+    int shown = smallest_;
+    for (const bool landscape : {false, true}) {
+        const NumberSetting setting = settings::TotalHeight(landscape, smallest_);
+        auto height = static_cast<std::int32_t>(values.Read(setting));
+        if (height < smallest_) {
+            height = smallest_;
+            values.Write(setting, static_cast<std::uint32_t>(height));
+        }
+        if (landscape == landscape_) shown = height;
+    }
+    const HWND spin = Item(IDC_HEIGHT_SPIN);
+    UDACCEL step = {0, kHeightStep};
+    SendMessageW(spin, UDM_SETRANGE32, smallest_, kLargestHeight);
+    SendMessageW(spin, UDM_SETACCEL, 1, reinterpret_cast<LPARAM>(&step));
+    SendMessageW(spin, UDM_SETPOS32, 0, std::min(shown, kLargestHeight));
+
+    FillPims(static_cast<std::int32_t>(values.Read(settings::CurrentPIM)));
+}
+
+void GeneralCommonPage::FillPims(std::int32_t current) {
+    int selected = 0;
+    for (const Pim& pim : kPims) {
+        if (!pim.isPresent()) continue;
+        if (pim.number == current) selected = ItemCount(IDC_PIM);
+        AddItem(IDC_PIM, pim.label, pim.number);
+    }
+    SetSelection(IDC_PIM, selected);
+    Enable(IDC_PIM, ItemCount(IDC_PIM) > 1);
+}
+
+// A height that adjusts itself is not set, and a hidden header cannot be tapped.
+void GeneralCommonPage::OnUpdate() {
+    const bool ownHeight = !IsChecked(IDC_AUTO_SIZE);
+    for (const int control : {IDC_HEIGHT, IDC_HEIGHT_SPIN, IDC_HEIGHT_LABEL}) {
+        Enable(control, ownHeight);
+    }
+    Enable(IDC_ALLOW_MINIMIZATION, Selection(IDC_HEADER_STATE) != kHeaderHidden);
+}
+
+bool GeneralCommonPage::OnApply() {
+    const int height = static_cast<int>(GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+    if (height < smallest_ || height > kLargestHeight) {
+        wchar_t reason[256] = {};
+        const std::wstring pattern = GetLanguageTable().LoadString(IDS_HEIGHT_REFUSED);
+        swprintf(reason, std::size(reason), pattern.c_str(), smallest_, kLargestHeight);
+        return Refuse(IDC_HEIGHT, reason);
+    }
+    return OptionsPage::OnApply();
+}
+
+void GeneralCommonPage::OnSave(PageValues& values) {
+    values.Write(settings::TotalHeight(landscape_, smallest_),
+                 GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+    values.Write(settings::CurrentPIM, static_cast<std::uint32_t>(ChosenValue(*this, IDC_PIM, 0)));
+}

@@ -1,0 +1,127 @@
+#include "pages/general/general_font_page.h"
+
+#include "app/language/language_table.h"
+#include "base/scale.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Check(IDC_FONT_SYSTEM, settings::UseSystem),
+    rows::NoValue(IDC_FONT_FACE).DisabledBy(IDC_FONT_SYSTEM),
+    rows::NoValue(IDC_FONT_FACE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
+    rows::NoValue(IDC_FONT_SIZE).DisabledBy(IDC_FONT_SYSTEM),
+    rows::NoValue(IDC_FONT_SIZE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
+    rows::NoValue(IDC_FONT_CLEARTYPE).DisabledBy(IDC_FONT_SYSTEM),
+    rows::NoValue(IDC_FONT_CLEARTYPE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
+};
+constexpr int kSampleMargin = 4;
+
+// Faces that begin with "@" are turned for vertical writing.
+int CALLBACK AddFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM list) {
+    const auto combo = reinterpret_cast<HWND>(list);
+    const auto face = reinterpret_cast<LPARAM>(font->lfFaceName);
+    const auto all = static_cast<WPARAM>(-1);
+    if (font->lfFaceName[0] != L'@' && SendMessageW(combo, CB_FINDSTRINGEXACT, all, face) < 0) {
+        SendMessageW(combo, CB_ADDSTRING, 0, face);
+    }
+    return 1;
+}
+
+}  // namespace
+
+GeneralFontPage::GeneralFontPage()
+    : OptionsPage(IDD_GENERAL_FONT, L"general_font", {std::begin(kRows), std::end(kRows)}) {}
+
+void GeneralFontPage::OnLoad(PageValues& values) {
+    metricsMessage_ = RegisterWindowMessageW(L"SH_UIMETRIC_CHANGE");
+    FillFaces();
+    current_.clearType = values.Read(settings::ClearTypeOnPage);
+    current_.height = static_cast<std::int32_t>(values.Read(settings::FontHeight));
+    current_.face =
+        OpenProductKey().ReadString(settings::FontName.name, settings::FontName.defaultText);
+    SetDlgItemTextW(hwnd(), IDC_FONT_EXPLANATION,
+                    GetLanguageTable().LoadString(IDS_FONT_EXPLANATION).c_str());
+    if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem();
+    ShowFont();
+}
+
+void GeneralFontPage::FillFaces() {
+    const HDC screen = GetDC(nullptr);
+    EnumFontFamiliesW(screen, nullptr, AddFace, reinterpret_cast<LPARAM>(Item(IDC_FONT_FACE)));
+    ReleaseDC(nullptr, screen);
+}
+
+// Selects the current font in the lists; what a list does not have leaves it without a selection.
+void GeneralFontPage::ShowFont() {
+    const auto select = [this](int control, const std::wstring& text) {
+        SetSelection(control, static_cast<int>(SendDlgItemMessageW(
+                                  hwnd(), control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                  reinterpret_cast<LPARAM>(text.c_str()))));
+    };
+    select(IDC_FONT_FACE, current_.face);
+    select(IDC_FONT_SIZE, std::to_wstring(current_.height));
+    SetSelection(IDC_FONT_CLEARTYPE,
+                 current_.clearType < static_cast<unsigned>(ItemCount(IDC_FONT_CLEARTYPE))
+                     ? static_cast<int>(current_.clearType)
+                     : -1);
+    preview_ = CreatePreviewFont(current_);
+    InvalidateRect(hwnd(), nullptr, TRUE);
+    InvalidateRect(Item(IDC_FONT_PREVIEW), nullptr, TRUE);
+}
+
+void GeneralFontPage::FollowSystem() {
+    if (!IsChecked(IDC_FONT_SYSTEM)) return;
+    current_ = ListFontSettings::OfSystem();
+    ShowFont();
+}
+
+bool GeneralFontPage::OnCommand(int id, int code) {
+    const bool handled = OptionsPage::OnCommand(id, code);
+    if (id == IDC_FONT_SYSTEM && code == BN_CLICKED) FollowSystem();
+    return handled;
+}
+
+void GeneralFontPage::OnUpdate() {
+    ListFontSettings chosen = current_;
+    if (const int face = Selection(IDC_FONT_FACE); face >= 0) {
+        chosen.face = ItemText(IDC_FONT_FACE, face);
+    }
+    if (const int size = Selection(IDC_FONT_SIZE); size >= 0) {
+        chosen.height =
+            static_cast<std::int32_t>(wcstol(ItemText(IDC_FONT_SIZE, size).c_str(), nullptr, 10));
+    }
+    if (const int clearType = Selection(IDC_FONT_CLEARTYPE); clearType >= 0) {
+        chosen.clearType = static_cast<std::uint32_t>(clearType);
+    }
+    if (chosen == current_) return;
+    current_ = chosen;
+    ShowFont();
+}
+
+void GeneralFontPage::OnSave(PageValues& values) {
+    FollowSystem();
+    values.Write(settings::ClearTypeOnPage, current_.clearType);
+    values.Write(settings::FontHeight, static_cast<std::uint32_t>(current_.height));
+    OpenProductKey().WriteString(settings::FontName.name, current_.face.c_str());
+    ResetListFonts();
+}
+
+void GeneralFontPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    if (!preview_) return;
+    const SelectedObject font(item.hDC, preview_.get());
+    SetTextColor(item.hDC, GetSysColor(COLOR_WINDOWTEXT));
+    const std::wstring text = GetLanguageTable().LoadString(IDS_FONT_SAMPLE);
+    RECT area = item.rcItem;
+    area.left += ScaleX(kSampleMargin);
+    DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &area,
+              DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+}
+
+std::optional<INT_PTR> GeneralFontPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == metricsMessage_ && message) {
+        FollowSystem();
+        return TRUE;
+    }
+    return OptionsPage::OnMessage(message, wParam, lParam);
+}

@@ -1,0 +1,87 @@
+#include "pages/general/general_skins_page.h"
+
+#include "app/language/language_table.h"
+#include "appearance/skins/skin_art.h"
+#include "appearance/skins/skin_list.h"
+#include "pages/general/skin_preview.h"
+#include "resources/ids.h"
+#include "settings/catalogue.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+void AddSkin(HWND list, const wchar_t* name) {
+    SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
+}
+
+}  // namespace
+
+GeneralSkinsPage::GeneralSkinsPage() : OptionsPage(IDD_GENERAL_SKINS, L"general_skins", {}) {}
+
+bool GeneralSkinsPage::OnInitDialog() {
+    const bool focus = OptionsPage::OnInitDialog();
+    GetSkinArt().Reset();  // Imported settings may name another skin.
+    ListSkins();           // Now, as the page's texts are translated and names must not be.
+    return focus;
+}
+
+void GeneralSkinsPage::ListSkins() {
+    const HWND list = Item(IDC_SKIN);
+    SendMessageW(list, CB_RESETCONTENT, 0, 0);
+    WIN32_FIND_DATAW found = {};
+    const HANDLE search = FindFirstFileW((SkinsFolder() + L"*.*").c_str(), &found);
+    if (search != INVALID_HANDLE_VALUE) {
+        do {
+            const bool isFolder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+            const auto name = OfferedSkinName(found.cFileName, isFolder);
+            if (name) AddSkin(list, name->c_str());
+        } while (FindNextFileW(search, &found));
+        FindClose(search);
+    }
+    startingSkin_ = CurrentSkinName();
+    if (ItemCount(IDC_SKIN) > 0) {
+        SetSelection(IDC_SKIN, 0);
+        SelectSkin(startingSkin_);
+    } else {
+        AddSkin(list, L"Classic");
+        SetSelection(IDC_SKIN, 0);
+    }
+}
+
+// Selects the entry of that name, case aside; nothing changes when there is none.
+void GeneralSkinsPage::SelectSkin(const std::wstring& name) {
+    const LRESULT index = SendDlgItemMessageW(hwnd(), IDC_SKIN, CB_FINDSTRINGEXACT, -1,
+                                              reinterpret_cast<LPARAM>(name.c_str()));
+    if (index >= 0) SetSelection(IDC_SKIN, static_cast<int>(index));
+}
+
+bool GeneralSkinsPage::OnCommand(int id, int code) {
+    if (id != IDC_SKIN || code != CBN_SELCHANGE) return OptionsPage::OnCommand(id, code);
+    OnSkinChosen();
+    return true;
+}
+
+void GeneralSkinsPage::OnSkinChosen() {
+    const int chosen = Selection(IDC_SKIN);
+    if (chosen < 0) return;
+    OpenProductKey().WriteString(settings::SkinName.name, ItemText(IDC_SKIN, chosen).c_str());
+    const bool valid = GetSkinArt().IsValid();
+    if (!valid) {
+        OpenProductKey().WriteString(settings::SkinName.name, startingSkin_.c_str());
+        GetSkinArt().Reset();
+        SelectSkin(startingSkin_);
+    }
+    SetWindowTextW(Item(IDC_SKIN_HINT),
+                   valid ? L"" : GetLanguageTable().LoadString(IDS_SKIN_INCOMPLETE).c_str());
+    for (const int preview : {IDC_SKIN_ICONS, IDC_SKIN_SCROLL_BAR, IDC_SKIN_SAMPLE}) {
+        InvalidateRect(Item(preview), nullptr, TRUE);
+    }
+}
+
+void GeneralSkinsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    switch (item.CtlID) {
+        case IDC_SKIN_ICONS: PaintItemIcons(item.hDC, item.rcItem); break;
+        case IDC_SKIN_SCROLL_BAR: PaintScrollBar(item.hDC, item.rcItem); break;
+        case IDC_SKIN_SAMPLE: PaintSampleList(item.hDC, item.rcItem); break;
+    }
+}

@@ -1,0 +1,104 @@
+#include "pages/general/general_tabs_page.h"
+
+#include <commctrl.h>
+
+#include "app/language/language_table.h"
+#include "base/wait_cursor.h"
+#include "settings/registration.h"
+#include "settings/settings_key.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Check(IDC_TABS_IN_ONE, settings::AllTabsInShell),
+};
+constexpr int kLastTab = static_cast<int>(kDiaryTabs.size()) - 1;
+
+const DiaryTab& Tab(int index) { return kDiaryTabs[static_cast<std::size_t>(index)]; }
+
+}  // namespace
+
+GeneralTabsPage::GeneralTabsPage()
+    : OptionsPage(IDD_GENERAL_TABS, L"general_tabs", {std::begin(kRows), std::end(kRows)}) {}
+
+void GeneralTabsPage::OnLoad(PageValues& values) {
+    list_.Attach(Item(IDC_TABS_LIST), CheckList::Order::kMovable);
+    const TabLayout layout =
+        TabLayout::Parse(values.Read(settings::ShowTabs),
+                         OpenProductKey().ReadString(settings::ShowTabsSequence.name,
+                                                     settings::ShowTabsSequence.defaultText));
+    for (int i = 0; i <= kLastTab; ++i) {
+        const int tab = layout.order[static_cast<std::size_t>(i)];
+        list_.Insert(i, GetLanguageTable().LoadString(Tab(tab).label), tab,
+                     (layout.shown & Tab(tab).bit) != 0);
+    }
+    list_.FitColumn();
+    list_.Select(0);
+
+    // Once the tab host holds the diary's tabs, it is the host that arranges them.
+    const Registration registration = Registration::Probe();
+    const bool heldApart = registration.state == Registration::kTabPerHostTab;
+    const bool heldInOne = registration.state == Registration::kOneHostTab;
+    if (registration.hostInstalled && (heldApart || heldInOne)) {
+        SetChecked(IDC_TABS_IN_ONE, heldInOne);
+    }
+    Enable(IDC_TABS_IN_ONE, registration.hostInstalled && !heldApart && !heldInOne);
+}
+
+void GeneralTabsPage::OnUpdate() {
+    const int selected = list_.Selected();
+    const HWND focus = GetFocus();
+    Enable(IDC_TABS_UP, selected > 0);
+    Enable(IDC_TABS_DOWN, selected >= 0 && selected < kLastTab);
+    // The keys must not stay with a button that can no longer be pressed.
+    if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
+        SetFocus(Item(IDC_TABS_LIST));
+    }
+}
+
+bool GeneralTabsPage::OnCommand(int id, int code) {
+    if (code == BN_CLICKED && (id == IDC_TABS_UP || id == IDC_TABS_DOWN)) {
+        list_.MoveSelected(id == IDC_TABS_UP ? -1 : 1);
+    }
+    return OptionsPage::OnCommand(id, code);
+}
+
+std::optional<INT_PTR> GeneralTabsPage::OnControlNotification(const NMHDR& header) {
+    if (header.idFrom != IDC_TABS_LIST) return std::nullopt;
+    switch (header.code) {
+        case LVN_ITEMCHANGED:
+            if (CheckList::IsSelected(header)) OnUpdate();
+            break;
+        case LVN_KEYDOWN: list_.OnKeyDown(header); break;
+    }
+    return std::nullopt;
+}
+
+void GeneralTabsPage::OnSave(PageValues& values) {
+    TabLayout layout;
+    layout.shown = settings::ShowTabs.defaultValue;
+    for (int i = 0; i <= kLastTab; ++i) {
+        const int tab = static_cast<int>(list_.Data(i));
+        layout.order[static_cast<std::size_t>(i)] = tab;
+        if (!list_.IsChecked(i)) layout.shown &= ~Tab(tab).bit;
+    }
+    values.Write(settings::ShowTabs, layout.shown);
+    OpenProductKey().WriteString(settings::ShowTabsSequence.name, layout.Sequence().c_str());
+
+    const bool apart = Registration::Probe().state == Registration::kTabPerHostTab;
+    const int smallest = SmallestHeight(layout.shown, apart);
+    for (const bool landscape : {false, true}) {
+        const NumberSetting height = settings::TotalHeight(landscape, kUsualHeight);
+        if (static_cast<std::int32_t>(values.Read(height)) < smallest) {
+            values.Write(height, static_cast<std::uint32_t>(smallest));
+        }
+    }
+
+    const WaitCursor wait;
+    std::array<std::wstring, kDiaryTabs.size()> labels;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        labels[i] = GetLanguageTable().LoadString(kDiaryTabs[i].label);
+    }
+    RegisterPlugin(labels);
+    ReloadTodayItems();
+}

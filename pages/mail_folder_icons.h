@@ -1,7 +1,0 @@
-#pragma once
-
-#include "controls/owned_handle.h"
-
-// A picture for each MailFolderKind, in their order: the device's own, or the skin's where it has
-// none.
-OwnedImageList MailFolderIcons();

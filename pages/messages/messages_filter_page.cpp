@@ -1,0 +1,264 @@
+#include "pages/messages/messages_filter_page.h"
+
+#include <algorithm>
+
+#include "app/language/language_table.h"
+#include "base/wait_cursor.h"
+#include "pages/stores/mail_folders_filters.h"
+
+namespace {
+
+// In the order of the filters that every device has.
+constexpr unsigned kBuiltInNames[] = {IDS_DELETED_ITEMS, IDS_DRAFTS, IDS_INBOX, IDS_OUTBOX,
+                                      IDS_SENT_ITEMS};
+static_assert(std::size(kBuiltInNames) == kSpecialFolderCount);
+
+constexpr std::size_t kLongestName = 255;     // of a value in the registry
+constexpr std::size_t kLargestFilter = 4096;  // the most bytes that a value holds there
+constexpr int kNewFilter = -1;
+
+std::wstring Trimmed(const std::wstring& text) {
+    const std::size_t begin = text.find_first_not_of(L' ');
+    if (begin == std::wstring::npos) return {};
+    return text.substr(begin, text.find_last_not_of(L' ') - begin + 1);
+}
+
+std::vector<std::wstring> FilterNames() {
+    std::vector<std::wstring> names;
+    for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
+        names.push_back(filter.name);
+    }
+    return names;
+}
+
+const MailFolderNode* Find(const std::vector<MailFolderNode>& folders, const MailFolderRef& ref) {
+    for (const MailFolderNode& folder : folders) {
+        if (folder.folder == ref) return &folder;
+        if (const MailFolderNode* within = Find(folder.children, ref)) return within;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+MessagesFilterPage::MessagesFilterPage()
+    : OptionsPage(IDD_MESSAGES_FILTER, L"messages_filter", {}) {}
+
+bool MessagesFilterPage::OnInitDialog() {
+    const bool focus = OptionsPage::OnInitDialog();
+    // Now, as the page's texts are translated and names of folders and filters must not be.
+    const WaitCursor wait;
+    LoadFilters();
+    SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER_NAME, CB_LIMITTEXT, kLongestName, 0);
+    active_ = CMailFoldersFilters::ActiveName();
+    const int active = GetMailFoldersFilters().FindByName(active_);
+    const bool listed = active >= 0 && !GetMailFoldersFilters().filters()[active].entries.empty();
+    Choose(listed ? active : kNewFilter);
+    return focus;
+}
+
+void MessagesFilterPage::LoadFilters() {
+    CMailFoldersFilters& filters = GetMailFoldersFilters();
+    Mail2& mail2 = GetMail2();
+    if (mail2.IsInstalled()) mail2.Load();
+    const MapiSession session;
+    view_ = std::make_unique<MailFoldersView>(
+        Item(IDC_MAIL_FOLDERS),
+        ReadMailFolderTree(session, mail2, GetLanguageTable().LoadString(IDS_MESSAGES)),
+        [this](const MailFolderNode& folder) { OnToggled(folder); });
+    filters.Load(true);
+    CMailFoldersFilters::BuiltInNames names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i] = GetLanguageTable().LoadString(kBuiltInNames[i]);
+    }
+    builtInNames_.assign(names.begin(), names.end());
+    const CMailFoldersFilters::BuiltIns builtIns = filters.FindBuiltIns(names);
+    filters.AddMAPIFolders(session, builtIns);
+    filters.AddMail2Folders(mail2, builtIns);
+}
+
+void MessagesFilterPage::ListFilters() {
+    const CMailFoldersFilters& filters = GetMailFoldersFilters();
+    SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER, CB_RESETCONTENT, 0, 0);
+    AddItem(IDC_MAIL_FILTER, IDS_MAIL_FILTER_NEW, kNewFilter);
+    SetSelection(IDC_MAIL_FILTER, 0);
+    for (const int filter : filters.SortedIndices()) {
+        AddItem(IDC_MAIL_FILTER, filters.filters()[filter].name, filter);
+        if (filter == chosen_) SetSelection(IDC_MAIL_FILTER, ItemCount(IDC_MAIL_FILTER) - 1);
+    }
+}
+
+void MessagesFilterPage::Choose(int filter) {
+    chosen_ = filter;
+    nameTyped_ = false;
+    ListFilters();
+    const MailFilter& edited = Edited();
+    view_->ShowTicks([&](const MailFolderNode& node) { return edited.Contains(node.folder); });
+    ShowAutomaticName();
+    OnUpdate();
+}
+
+MailFilter& MessagesFilterPage::Edited() {
+    return chosen_ < 0 ? new_ : GetMailFoldersFilters().filters().at(chosen_);
+}
+
+bool MessagesFilterPage::IsBuiltIn(int filter) const {
+    const std::wstring& name = GetMailFoldersFilters().filters().at(filter).name;
+    return std::find(builtInNames_.begin(), builtInNames_.end(), name) != builtInNames_.end();
+}
+
+void MessagesFilterPage::OnToggled(const MailFolderNode& folder) {
+    MailFilter& edited = Edited();
+    if (edited.Contains(folder.folder)) {
+        edited.Remove(folder.folder);
+    } else {
+        // Where the way is too long to be stored, the folder's own name has to do.
+        const bool fits = folder.path.size() <= kLongestMailFolderName;
+        edited.Add(folder.folder,
+                   fits ? folder.path : folder.name.substr(0, kLongestMailFolderName));
+    }
+    ShowAutomaticName();
+    OnUpdate();
+}
+
+void MessagesFilterPage::OnUpdate() {
+    if (!view_) return;
+    const HWND focus = GetFocus();
+    Enable(IDC_MAIL_FILTER_NAME, chosen_ < 0);
+    Enable(IDC_MAIL_FILTER_NAME_LABEL, chosen_ < 0);
+    Enable(IDC_MAIL_FILTER_ADD, chosen_ < 0 && !new_.entries.empty());
+    Enable(IDC_MAIL_FILTER_DELETE, chosen_ >= 0 && !IsBuiltIn(chosen_));
+    // The keys must not stay with a control that no longer takes them.
+    if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
+        SetFocus(Item(IDC_MAIL_FILTER));
+    }
+}
+
+bool MessagesFilterPage::OnCommand(int id, int code) {
+    switch (id) {
+        case IDC_MAIL_FILTER:
+            if (code == CBN_SELCHANGE) {
+                const int selected = Selection(IDC_MAIL_FILTER);
+                if (selected >= 0) Choose(ItemValue(IDC_MAIL_FILTER, selected));
+            }
+            break;
+        case IDC_MAIL_FILTER_NAME:
+            // The focus is with the edit control within it.
+            if (code == CBN_SETFOCUS) ScrollIntoView(Item(id));
+            if (code == CBN_DROPDOWN) ListSuggestedNames();
+            if (code == CBN_SELCHANGE) nameTyped_ = true;
+            if (code == CBN_EDITCHANGE) nameTyped_ = !TypedName().empty();
+            break;
+        case IDC_MAIL_FILTER_ADD:
+            if (code == BN_CLICKED) AddNewFilter();
+            break;
+        case IDC_MAIL_FILTER_DELETE:
+            if (code == BN_CLICKED) DeleteFilter();
+            break;
+    }
+    return OptionsPage::OnCommand(id, code);
+}
+
+std::optional<INT_PTR> MessagesFilterPage::OnControlNotification(const NMHDR& header) {
+    if (header.idFrom != IDC_MAIL_FOLDERS || !view_) return std::nullopt;
+    if (header.code == NM_SETFOCUS) ScrollIntoView(header.hwndFrom);
+    const auto answer = view_->OnNotification(header, hwnd());
+    return answer ? std::optional(Answer(*answer)) : std::nullopt;
+}
+
+void MessagesFilterPage::AddNewFilter() {
+    if (new_.entries.empty()) return;
+    const std::wstring typed = TypedName();
+    new_.name = typed.empty() ? AutomaticName() : typed;
+    std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
+    // In the registry names differ by more than the case of their letters.
+    const auto known = std::find_if(filters.begin(), filters.end(), [this](const MailFilter& one) {
+        return _wcsicmp(one.name.c_str(), new_.name.c_str()) == 0;
+    });
+    const int place = static_cast<int>(known - filters.begin());
+    if (known == filters.end()) {
+        filters.push_back(new_);
+    } else {
+        // Nobody shall lose a filter by giving its name again: it gets the folders in addition.
+        for (const auto& [folder, name] : new_.entries) known->Add(folder, name);
+    }
+    new_ = {};
+    Choose(place);
+}
+
+void MessagesFilterPage::DeleteFilter() {
+    if (chosen_ < 0 || IsBuiltIn(chosen_)) return;
+    std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
+    if (filters.at(chosen_).name == active_) activeDeleted_ = true;
+    filters.erase(filters.begin() + chosen_);
+    Choose(kNewFilter);
+}
+
+std::wstring MessagesFilterPage::AutomaticName() const {
+    const LanguageTable& texts = GetLanguageTable();
+    const NewMailFilterNames names = {texts.LoadString(IDS_MAIL_FILTER_DEFAULT_NAME),
+                                      texts.LoadString(IDS_MAIL_FILTER_BASE_NAME)};
+    const std::size_t count = new_.entries.size();
+    const std::wstring one = count == 1 ? NamesOf(new_.entries.front().folder).folder : L"";
+    return AutomaticFilterName(names, count, one, FilterNames()).substr(0, kLongestName);
+}
+
+void MessagesFilterPage::ShowAutomaticName() {
+    if (nameTyped_) return;
+    const std::wstring name = chosen_ < 0 ? AutomaticName() : Edited().name;
+    SetWindowTextW(Item(IDC_MAIL_FILTER_NAME), name.c_str());
+}
+
+std::wstring MessagesFilterPage::TypedName() const {
+    wchar_t text[kLongestName + 1] = {};
+    GetWindowTextW(Item(IDC_MAIL_FILTER_NAME), text, static_cast<int>(std::size(text)));
+    return Trimmed(text);
+}
+
+void MessagesFilterPage::ListSuggestedNames() {
+    const std::wstring text = TypedName();
+    SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER_NAME, CB_RESETCONTENT, 0, 0);
+    if (const MailFolderNode* folder = view_->Selected()) {
+        std::vector<std::wstring> containing;
+        for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
+            if (filter.Contains(folder->folder)) containing.push_back(filter.name);
+        }
+        for (const std::wstring& name :
+             SuggestedFilterNames(NamesOf(folder->folder), containing,
+                                  [](std::wstring_view left, std::wstring_view right) {
+                                      return StandsAfter(std::wstring(right), std::wstring(left));
+                                  })) {
+            AddItem(IDC_MAIL_FILTER_NAME, name, 0);
+        }
+    }
+    SetWindowTextW(Item(IDC_MAIL_FILTER_NAME), text.c_str());
+}
+
+MailFolderNames MessagesFilterPage::NamesOf(const MailFolderRef& folder) const {
+    for (const MailFolderNode& account : view_->folders()) {
+        if (account.folder == folder) return {account.name, account.name};
+        if (const MailFolderNode* found = Find(account.children, folder)) {
+            return {account.name, found->name};
+        }
+    }
+    return {};
+}
+
+bool MessagesFilterPage::OnApply() {
+    if (chosen_ < 0) AddNewFilter();
+    for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
+        const auto bytes = MailFilterBytes(filter.entries);
+        if (!bytes || bytes->size() <= kLargestFilter) continue;
+        std::wstring reason = GetLanguageTable().LoadString(IDS_MAIL_FILTER_TOO_LARGE);
+        const std::size_t place = reason.find(L"%s");
+        if (place != std::wstring::npos) reason.replace(place, 2, filter.name);
+        return Refuse(IDC_MAIL_FOLDERS, reason);
+    }
+    return OptionsPage::OnApply();
+}
+
+void MessagesFilterPage::OnSave(PageValues&) {
+    const CMailFoldersFilters& filters = GetMailFoldersFilters();
+    filters.Save();
+    if (chosen_ >= 0 || activeDeleted_) filters.SetActive(chosen_);
+}

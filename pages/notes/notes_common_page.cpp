@@ -1,0 +1,91 @@
+#include "pages/notes/notes_common_page.h"
+
+#include "app/language/language_table.h"
+#include "appearance/drawing/note_label.h"
+#include "appearance/drawing/sample_list.h"
+#include "pages/stores/handwriting.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Choice(IDC_NOTES_GROUP_BY, settings::NotesGroupBy, kNoteGroupings),
+    rows::Index(IDC_NOTES_SORT, settings::NoteSortOrder),
+    rows::Index(IDC_NOTES_ONE_TAP, settings::NotesOneTap),
+    rows::Check(IDC_NOTES_SIZE, &CDiarySettings::noteShowSize),
+    rows::Check(IDC_NOTES_TIME, &CDiarySettings::noteShowTime),
+    rows::Check(IDC_NOTES_INDENT, &CDiarySettings::noteIndent),
+    rows::Check(IDC_NOTES_TYPE_FIRST, &CDiarySettings::noteType0),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 1, &CDiarySettings::noteType1),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 2, &CDiarySettings::noteType2),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 3, &CDiarySettings::noteType3),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 4, &CDiarySettings::noteType4),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 5, &CDiarySettings::noteType5),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 6, &CDiarySettings::noteType6),
+    rows::Check(IDC_NOTES_PHATNOTES, &CDiarySettings::phatNotes),
+};
+// The plug-in's codes of groupings.
+constexpr std::int32_t kGroupByLetter = 501, kGroupByCategory = 551, kGroupByFolder = 559;
+constexpr int kPhatPadType = IDC_NOTES_TYPE_FIRST + 6;
+constexpr std::uint32_t kSampleBytes = 1536;
+constexpr std::uint32_t kSampleMilliseconds = 59999;
+
+std::wstring DecimalSeparator() {
+    wchar_t text[8] = {};
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, text, 8);
+    return text;
+}
+
+std::wstring SampleTime() {
+    constexpr SYSTEMTIME kTime = {2008, 5, 0, 13, 9, 41, 0, 0};
+    wchar_t text[40] = {};
+    GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &kTime, nullptr, text, 40);
+    return text;
+}
+
+}  // namespace
+
+NotesCommonPage::NotesCommonPage()
+    : OptionsPage(IDD_NOTES_COMMON, L"notes_common", {std::begin(kRows), std::end(kRows)}),
+      layouts_(IDC_NOTES_LAYOUT, L"Notes") {}
+
+void NotesCommonPage::OnLoad(PageValues&) {
+    layouts_.Load(hwnd());
+    Enable(IDC_NOTES_PHATNOTES, PhatNotesVersion() != 0);
+    Enable(kPhatPadType, IsPhatPadPresent());
+}
+
+void NotesCommonPage::OnSave(PageValues&) { layouts_.Save(); }
+
+bool NotesCommonPage::OnCommand(int id, int code) {
+    layouts_.OnCommand(id, code);
+    return OptionsPage::OnCommand(id, code);
+}
+
+void NotesCommonPage::OnUpdate() { InvalidateRect(Item(IDC_NOTES_PREVIEW), nullptr, TRUE); }
+
+void NotesCommonPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    const auto details = [this](const std::wstring& size) {
+        std::wstring text = IsChecked(IDC_NOTES_TIME) ? SampleTime() : L"";
+        if (IsChecked(IDC_NOTES_SIZE)) text += (text.empty() ? L"" : L"  ") + size;
+        return text;
+    };
+    const std::wstring separator = DecimalSeparator();
+    SampleList list(item.hDC, item.rcItem, 3);
+    const LanguageTable& texts = GetLanguageTable();
+    const std::wstring note = texts.LoadString(IDS_SAMPLE_NOTE);
+    const std::wstring recording = texts.LoadString(IDS_SAMPLE_RECORDING);
+    list.SetIndented(IsChecked(IDC_NOTES_INDENT));
+    switch (ChosenValue(*this, IDC_NOTES_GROUP_BY, 0)) {
+        case kGroupByFolder: list.AddGroup(texts.LoadString(IDS_SAMPLE_FOLDER), 2); break;
+        case kGroupByCategory: list.AddGroup(texts.LoadString(IDS_SAMPLE_CATEGORY), 2); break;
+        default: list.AddGroup(recording.substr(0, 1), 1); break;
+    }
+    list.AddItem(ItemIcon::kNoteVoice, recording,
+                 details(RecordingLabel(kSampleMilliseconds, separator)));
+    if (ChosenValue(*this, IDC_NOTES_GROUP_BY, 0) == kGroupByLetter) {
+        list.AddGroup(note.substr(0, 1), 1);
+    } else {
+        list.AddItem(ItemIcon::kNote, note, details(NoteSizeLabel(kSampleBytes, separator)));
+    }
+}

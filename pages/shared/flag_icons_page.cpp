@@ -1,0 +1,74 @@
+#include "pages/shared/flag_icons_page.h"
+
+#include "app/language/language_table.h"
+#include "appearance/drawing/sample_list.h"
+#include "appearance/skins/skin_art.h"
+#include "resources/ids.h"
+
+namespace {
+
+// In the order of the page. Both priorities are one field.
+struct Flag {
+    int control;
+    wchar_t letter;
+    ItemIcon icon;
+};
+constexpr Flag kFlags[] = {
+    {IDC_FLAG_PRIVATE, L's', ItemIcon::kPrivate},
+    {IDC_FLAG_REMINDER, L'r', ItemIcon::kReminder},
+    {IDC_FLAG_RECURRENCE, L'q', ItemIcon::kRecurrence},
+    {IDC_FLAG_IMPORTANCE, L'p', ItemIcon::kImportanceHigh},
+    {IDC_FLAG_LOW_PRIORITY, L'p', ItemIcon::kImportanceLow},
+    {IDC_FLAG_NOTE, L'n', ItemIcon::kNote},
+};
+
+}  // namespace
+
+FlagIconsPage::FlagIconsPage(unsigned templateId, const wchar_t* anchor,
+                             DisplayPattern TitleDraft::*pattern, ItemIcon icon, unsigned sample)
+    : OptionsPage(templateId, anchor, {}), pattern_(pattern), icon_(icon), sample_(sample) {}
+
+// Another page of the sheet may have changed the pattern meanwhile.
+bool FlagIconsPage::OnSetActive() {
+    for (const Flag& flag : kFlags) SetChecked(flag.control, ShowsField(Edited(), flag.letter));
+    InvalidateRect(Item(IDC_TITLE_PREVIEW), nullptr, TRUE);
+    return true;
+}
+
+bool FlagIconsPage::OnCommand(int id, int code) {
+    if (code == BN_CLICKED) {
+        for (const Flag& flag : kFlags) {
+            if (flag.control == id) ShowField(Edited(), flag.letter, IsChecked(id));
+        }
+        OnSetActive();
+    }
+    return OptionsPage::OnCommand(id, code);
+}
+
+void FlagIconsPage::OnSave(PageValues&) { StoreTitleDraft(); }
+
+void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    if (item.CtlID == IDC_TITLE_PREVIEW) {
+        SampleList list(item.hDC, item.rcItem, 2);
+        list.AddTitle(icon_, Edited(), GetLanguageTable().LoadString(sample_));
+        return;
+    }
+    SkinArt& art = GetSkinArt();
+    if (art.LoadIcons() == SkinArt::kFailed) return;
+    RECT place;
+    GetWindowRect(item.hwndItem, &place);
+    for (const Flag& flag : kFlags) {
+        RECT box;
+        GetWindowRect(Item(flag.control), &box);
+        const SIZE size = art.Icons()->PieceSize(static_cast<int>(flag.icon));
+        art.DrawItemIcon(item.hDC, flag.icon, 0, (box.top + box.bottom - size.cy) / 2 - place.top);
+    }
+}
+
+TasksIconsPage::TasksIconsPage()
+    : FlagIconsPage(IDD_TASKS_ICONS, L"tasks_icons", &TitleDraft::task, ItemIcon::kTaskOpen,
+                    IDS_SAMPLE_TASK) {}
+
+ContactsIconsPage::ContactsIconsPage()
+    : FlagIconsPage(IDD_CONTACTS_ICONS, L"contacts_icons", &TitleDraft::contact, ItemIcon::kContact,
+                    IDS_SAMPLE_CONTACT) {}

@@ -1,0 +1,72 @@
+#include "pages/shared/layouts_dialog.h"
+
+#include <commctrl.h>
+
+#include <utility>
+
+#include "app/language/language_table.h"
+#include "controls/launch_help.h"
+#include "resources/ids.h"
+#include "settings/keyboard_layouts.h"
+
+LayoutsDialog::LayoutsDialog(std::wstring title, LayoutSelection& selection)
+    : FullScreenDialog(IDD_LAYOUTS_SELECT), title_(std::move(title)), selection_(selection) {}
+
+bool LayoutsDialog::OnInit() {
+    SetWindowTextW(hwnd(), title_.c_str());
+    list_.Attach(Item(IDC_LAYOUTS_LIST), CheckList::Order::kFixed);
+    ShowRows();
+    SendDlgItemMessageW(hwnd(), IDC_LAYOUTS_SWITCH, BM_SETCHECK,
+                        selection_.noLanguageSwitch ? BST_UNCHECKED : BST_CHECKED, 0);
+    UpdateSwitch();
+    return true;
+}
+
+void LayoutsDialog::ShowRows() {
+    KeyboardLayouts& layouts = GetKeyboardLayouts();
+    for (int i = 0; i < layouts.Count(); ++i) {
+        const KeyboardLayout* const layout = layouts.At(i);
+        if (!layout) continue;
+        list_.Insert(list_.Count(), GetLanguageTable().Translate(layouts.NameAt(i)), i,
+                     selection_.offered.Contains(layout));
+    }
+    list_.FitColumn();
+    list_.Select(0);
+}
+
+// There is something to switch between from two layouts on.
+void LayoutsDialog::UpdateSwitch() {
+    int checked = 0;
+    for (int i = 0; i < list_.Count(); ++i) checked += list_.IsChecked(i);
+    EnableWindow(Item(IDC_LAYOUTS_SWITCH), checked >= 2);
+}
+
+void LayoutsDialog::TakeRows() {
+    selection_.offered.layouts.clear();
+    for (int i = 0; i < list_.Count(); ++i) {
+        if (!list_.IsChecked(i)) continue;
+        const auto position = static_cast<int>(list_.Data(i));
+        selection_.offered.layouts.push_back(GetKeyboardLayouts().At(position));
+    }
+    const bool switches =
+        SendDlgItemMessageW(hwnd(), IDC_LAYOUTS_SWITCH, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    selection_.noLanguageSwitch = switches ? 0 : 1;
+}
+
+bool LayoutsDialog::OnCommand(int id, int code) {
+    if (id == IDOK) TakeRows();
+    return FullScreenDialog::OnCommand(id, code);
+}
+
+void LayoutsDialog::OnHelp() { LaunchHelp(L"options_layouts_select"); }
+
+std::optional<INT_PTR> LayoutsDialog::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NOTIFY && wParam == IDC_LAYOUTS_LIST) {
+        const NMHDR& header = *reinterpret_cast<const NMHDR*>(lParam);
+        if (header.code == LVN_ITEMCHANGED) UpdateSwitch();
+        if (header.code == LVN_KEYDOWN) {
+            list_.OnKeyDown(header);
+        }
+    }
+    return FullScreenDialog::OnMessage(message, wParam, lParam);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/sheets/options_page.h"
+#include "pages/shared/title_editor.h"
+
+// A page that edits a title pattern of the sheet's draft, with a preview (IDC_TITLE_PREVIEW) that
+// follows every change.
+class TitlePage : public OptionsPage {
+  protected:
+    using OptionsPage::OptionsPage;
+
+    // The pattern that the editor shows.
+    virtual DisplayPattern& Edited() const = 0;
+
+    bool OnSetActive() override;
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    void OnUpdate() override;
+    bool OnCommand(int id, int code) override;
+    std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
+
+  private:
+    TitleEditor editor_;
+};

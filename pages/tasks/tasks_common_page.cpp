@@ -1,0 +1,36 @@
+#include "pages/tasks/tasks_common_page.h"
+
+#include "pages/shared/title_draft.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Check(IDC_TASK_COMPLETION_MESSAGE, settings::TaskCompletionMessage),
+    rows::Check(IDC_TASKS_COMPLETED, settings::TasksShowCompletedTasks),
+    rows::Check(IDC_TASKS_ACTIVE, settings::TasksShowActiveTasks),
+    rows::Check(IDC_TASKS_ALL_CATEGORIES, &CDiarySettings::tasksAllCategories),
+};
+
+}  // namespace
+
+TasksCommonPage::TasksCommonPage()
+    : OptionsPage(IDD_TASKS_COMMON, L"tasks_common", {std::begin(kRows), std::end(kRows)}) {}
+
+// The way the subject is shown is the digit of the tasks' title pattern.
+void TasksCommonPage::OnLoad(PageValues&) {
+    FillChoices(*this, IDC_TASK_SUBJECT, kSubjectModes, GetTitleDraft().task.mode);
+}
+
+bool TasksCommonPage::OnCommand(int id, int code) {
+    std::int32_t& mode = GetTitleDraft().task.mode;
+    if (id == IDC_TASK_SUBJECT && code == CBN_SELCHANGE) {
+        mode = ChosenValue(*this, IDC_TASK_SUBJECT, mode);
+    }
+    return OptionsPage::OnCommand(id, code);
+}
+
+void TasksCommonPage::OnSave(PageValues&) {
+    GetTitleDraft().task.mode = ChosenValue(*this, IDC_TASK_SUBJECT, 0);
+    StoreTitleDraft();
+}

@@ -1,0 +1,35 @@
+#include "pages/tasks/tasks_view_style_page.h"
+
+#include "app/language/language_table.h"
+#include "appearance/drawing/sample_list.h"
+#include "pages/shared/title_draft.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr Row kRows[] = {
+    rows::Check(IDC_TASK_CHECKBOX, &CDiarySettings::taskShowCheckbox),
+    rows::Check(IDC_TASK_INDENT, &CDiarySettings::taskIndent),
+};
+
+}  // namespace
+
+TasksViewStylePage::TasksViewStylePage()
+    : TitlePage(IDD_TASKS_VIEW_STYLE, L"tasks_view_style", {std::begin(kRows), std::end(kRows)}) {}
+
+DisplayPattern& TasksViewStylePage::Edited() const { return GetTitleDraft().task; }
+
+void TasksViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
+    SampleList list(item.hDC, item.rcItem, 3);
+    const bool boxes = IsChecked(IDC_TASK_CHECKBOX);
+    const auto box = [boxes](ItemIcon icon) { return boxes ? std::optional(icon) : std::nullopt; };
+    const DisplayPattern& pattern = Edited();
+    list.AddGroup(GetLanguageTable().LoadString(IDS_SAMPLE_GROUP), 2);
+    list.SetIndented(IsChecked(IDC_TASK_INDENT));
+    TitleLook completed;
+    completed.done = true;
+    list.AddTitle(box(ItemIcon::kTaskOpen), pattern,
+                  GetLanguageTable().LoadString(IDS_SAMPLE_TASK));
+    list.AddTitle(box(ItemIcon::kTaskDone), pattern,
+                  GetLanguageTable().LoadString(IDS_SAMPLE_APPOINTMENT), completed);
+}
