@@ -1,5 +1,8 @@
 #!/usr/bin/env python3
-"""Checks the program's include directions: which files may know which, and that no circle joins files.
+"""Checks that the sources keep to the rooms of the house, which the CMakeLists.txt of each room describes.
+
+A file may include its own room's headers and those of the rooms that its room uses, and each of those must be
+used. No circle joins files. (That no arrow runs up is CMake's to refuse.)
 
 usage: check_includes.py ROOT
 """
@@ -7,38 +10,19 @@ import pathlib
 import re
 import sys
 
-# A file belongs to the first group whose pattern its path matches.
-GROUPS = [
-    ("main", r"app/(main|main_frame|open_entry|about_dialog|single_instance|notify_plugin|export_import|registry_exporter)\."),
-    ("options", r"app/(options_page|options_sheet|page_rows|launch_help)\."),
-    ("language", r"app/"),
-    ("stores", r"pages/stores/"),
-    ("pages", r"pages/"),
-    ("fonts and scale", r"appearance/(fonts|scale)\."),
-    ("appearance", r"appearance/"),
-    ("handles", r"controls/owned_handle\."),
-    ("controls", r"controls/"),
-    ("settings", r"settings/"),
-    ("ids", r"resources/ids\.h"),
-]
-BELOW = {"language", "controls", "handles", "settings", "fonts and scale", "ids"}
-ALLOWED = {
-    "main": {name for name, _ in GROUPS},
-    "options": BELOW | {"options"},
-    "language": {"language", "handles"},
-    "pages": BELOW | {"pages", "options", "appearance", "stores"},
-    "appearance": BELOW | {"appearance", "stores"},
-    "stores": {"stores", "settings", "handles"},
-    "fonts and scale": {"fonts and scale", "handles", "settings"},
-    "controls": {"controls", "handles", "language", "fonts and scale"},
-    "handles": set(),
-    "settings": {"settings", "ids"},
-    "ids": set(),
-}
+ROOM = re.compile(r"^(?:diary|pocketpc)_room\((.*?)\)", re.DOTALL | re.MULTILINE)
+KEYWORDS = {"PURE", "USES", "LINK"}
 
 
-def group_of(path):
-    return next((name for name, pattern in GROUPS if re.match(pattern, path)), None)
+def used_rooms(arguments):
+    """The words behind USES in the call that makes a room."""
+    rooms, taking = set(), False
+    for word in arguments.split():
+        if word in KEYWORDS:
+            taking = word == "USES"
+        elif taking:
+            rooms.add(word)
+    return rooms
 
 
 def find_circle(graph):
@@ -62,19 +46,31 @@ def find_circle(graph):
 
 def main():
     root = pathlib.Path(sys.argv[1])
-    graph, errors = {}, []
-    for folder in ("app", "settings", "appearance", "pages", "controls"):
-        for file in sorted((root / folder).rglob("*.[hc]*")):
-            path = file.relative_to(root).as_posix()
-            included = re.findall(r'^#include "([^"]+/[^"]+)"', file.read_text(), re.MULTILINE)
-            graph[path] = included
-            for other in included:
-                if group_of(other) not in ALLOWED.get(group_of(path), set()):
-                    errors.append(f"{path} may not include {other}")
+    graph, errors, rooms = {}, [], 0
+    for top in ("app", "appearance", "base", "controls", "pages", "pocketpc", "resources", "settings"):
+        for folder in [root / top, *(path for path in (root / top).rglob("*") if path.is_dir())]:
+            sources = sorted(file for file in folder.glob("*.*") if file.suffix in (".h", ".cpp"))
+            room = folder.relative_to(root).as_posix()
+            build = folder / "CMakeLists.txt"
+            call = ROOM.search(build.read_text()) if build.exists() else None
+            if sources and not call:
+                errors.append(f"{room} holds code and is no room")
+            uses = used_rooms(call[1]) if call else set()
+            unused = set(uses)
+            rooms += bool(call)
+            for file in sources:
+                path = file.relative_to(root).as_posix()
+                graph[path] = re.findall(r'^#include "([^"]+/[^"]+)"', file.read_text(), re.MULTILINE)
+                for other in graph[path]:
+                    target = other.rpartition("/")[0]
+                    unused.discard(target)
+                    if target != room and target not in uses:
+                        errors.append(f"{path} includes {other}, but {room} does not use {target}")
+            errors += [f"{room} says that it uses {other}, and does not" for other in sorted(unused)]
     if circle := find_circle(graph):
         errors.append("circle: " + " -> ".join(circle))
-    print("\n".join(errors) or f"{len(graph)} files include what they may")
-    sys.exit(1 if errors or not graph else 0)
+    print("\n".join(errors) or f"{len(graph)} files in {rooms} rooms include what they may")
+    sys.exit(1 if errors or not rooms else 0)
 
 
 if __name__ == "__main__":

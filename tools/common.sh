@@ -7,19 +7,19 @@ fail() {
     exit 1
 }
 
-# Build and test need these of Debian, and nothing else.
-PACKAGES=(
-    cmake ninja-build g++ make python3 file git
-    g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev libz-mingw-w64-dev googletest
-    clang clang-format libclang-rt-14-dev
+# Of Debian: what building and running needs, and what testing needs besides.
+RUN_PACKAGES=(
+    cmake ninja-build gcc libc6-dev make python3 dpkg-dev tcl
+    g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev libz-mingw-w64-dev
+    imagemagick librsvg2-bin icoutils
     wine wine64 fonts-wine fonts-dejavu-core xvfb xdotool
-    imagemagick librsvg2-bin icoutils dpkg-dev tcl zip
 )
+TEST_PACKAGES=(g++ googletest clang clang-format libclang-rt-14-dev git zip)
 
 # Installs what is missing. Quick when nothing is.
-install_packages() {
+install_packages() { # PACKAGES...
     local missing=() package
-    for package in "${PACKAGES[@]}"; do
+    for package in "$@"; do
         dpkg-query -W -f '${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' ||
             missing+=("$package")
     done
@@ -83,14 +83,15 @@ make_sqlite() {
     mv "$made.part" "$made"
 }
 
-# Configures and builds one preset into build/NAME; Ninja shows the progress.
-build_preset() { # NAME WHAT
+# Configures and builds a target of one preset into build/NAME; Ninja shows the progress. What was asked of
+# CMake once holds for the next time too.
+build_preset() { # NAME WHAT TARGET CMAKE-OPTIONS...
     say "Building $2"
     local log=$ROOT/build/$1.configure.log
     mkdir -p "$ROOT/build"
-    if ! (cd "$ROOT" && cmake --preset "$1") >"$log" 2>&1; then
+    if ! (cd "$ROOT" && cmake --preset "$1" "${@:4}") >"$log" 2>&1; then
         cat "$log" >&2
         fail "CMake could not configure $1"
     fi
-    ninja -C "$ROOT/build/$1" || fail "Building $2 failed"
+    ninja -C "$ROOT/build/$1" "$3" || fail "Building $2 failed"
 }

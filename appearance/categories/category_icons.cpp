@@ -2,6 +2,7 @@
 
 #include "appearance/categories/category_icon_files.h"
 #include "appearance/categories/icon_files.h"
+#include "appearance/skins/skin_art.h"
 
 void CategoryIcons::Load(const std::wstring& folder, const std::vector<std::wstring>& categories) {
     bitmaps_.clear();
@@ -29,6 +30,10 @@ void CategoryIcons::Drop() {
 }
 
 CategoryIcons& GetCategoryIcons() {
-    static CategoryIcons icons;
-    return icons;
+    static CategoryIcons* const icons = [] {
+        static CategoryIcons instance;
+        GetSkinArt().ListenForReset([] { instance.Drop(); });
+        return &instance;
+    }();
+    return *icons;
 }

@@ -25,5 +25,5 @@ class CategoryIcons {
     std::vector<OwnedBitmap> bitmaps_;
 };
 
-// The process's one.
+// The process's one. It is dropped when the skin is reset.
 CategoryIcons& GetCategoryIcons();

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "app/language/module.h"
-#include "appearance/categories/category_icons.h"
 #include "base/scale.h"
 #include "resources/ids.h"
 #include "settings/catalogue.h"
@@ -115,12 +114,12 @@ bool SkinArt::IsValid() {
 
 void SkinArt::Reset() {
     for (OwnedIcon& icon : iconHandles_) icon.Reset();
-    GetCategoryIcons().Drop();
     path_.clear();
     icons_.reset();
     scrollBar_.reset();
     tabIcons_.Reset();
     source_.Close();
+    for (const auto& listener : resetListeners_) listener();
 }
 
 void SkinArt::DrawItemIcon(HDC dc, ItemIcon icon, int x, int y) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "appearance/skins/item_icons.h"
 #include "appearance/skins/skin_source.h"
@@ -33,8 +36,12 @@ class SkinArt {
     LoadResult LoadTabIcons();
     // Whether the skin, which is loaded anew, opens and has all it needs.
     bool IsValid();
-    // Forgets what is loaded, category icons included, so that the skin chosen then is opened next.
+    // Forgets what is loaded, so that the skin chosen then is opened next, and calls the listeners.
     void Reset();
+    // `listener` is called after each reset, for as long as the process runs.
+    void ListenForReset(std::function<void()> listener) {
+        resetListeners_.push_back(std::move(listener));
+    }
 
     // The strips and tab icons once loaded; null before.
     const SkinStrip* Icons() const { return icons_ ? &*icons_ : nullptr; }
@@ -56,6 +63,7 @@ class SkinArt {
     std::optional<SkinStrip> scrollBar_;
     OwnedImageList tabIcons_;
     std::array<OwnedIcon, kSkinIconCount> iconHandles_;
+    std::vector<std::function<void()>> resetListeners_;
 };
 
 SkinArt& GetSkinArt();

@@ -1,0 +1,46 @@
+# The rooms of the house. A room is a folder with the code of one subject; its CMakeLists.txt says which of
+# its files are pure and which rooms it uses. The rooms are added from the ground up, and a room may use only
+# those that are there already, so that no arrow runs up. tools/check_includes.py holds the sources to it.
+
+# The target of a room: its path with dots.
+function(diary_room_target path result)
+  string(REPLACE "/" "." target ${path})
+  set(${result} ${target} PARENT_SCOPE)
+endfunction()
+
+# diary_uses(TARGET SCOPE ROOMS...): links rooms, named by their paths.
+function(diary_uses target scope)
+  foreach(room IN LISTS ARGN)
+    diary_room_target(${room} library)
+    if(NOT TARGET ${library})
+      message(FATAL_ERROR "${target} uses ${room}, which is no room below it")
+    endif()
+    target_link_libraries(${target} ${scope} ${library})
+  endforeach()
+endfunction()
+
+# diary_room([PURE FILES...] [USES ROOMS...] [LINK LIBRARIES...]): the room of this folder, a static library of
+# all its sources. Pure files know no <windows.h>: natively the room consists of them alone, for sanitizers and
+# fuzzers. What it links besides rooms is of the device and not there natively.
+function(diary_room)
+  cmake_parse_arguments(PARSE_ARGV 0 ROOM "" "" "PURE;USES;LINK")
+  file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  diary_room_target(${path} target)
+  set(sources ${ROOM_PURE})
+  if(WIN32)
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  endif()
+  if(sources)
+    add_library(${target} STATIC ${sources})
+    target_link_libraries(${target} PRIVATE diary_warnings)
+    set(scope PUBLIC)
+  else()
+    add_library(${target} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(${target} ${scope} ${CMAKE_SOURCE_DIR})
+  diary_uses(${target} ${scope} ${ROOM_USES})
+  if(WIN32)
+    target_link_libraries(${target} ${scope} ${ROOM_LINK} device)
+  endif()
+endfunction()
