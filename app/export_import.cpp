@@ -9,23 +9,18 @@
 
 #include "app/language/language_table.h"
 #include "app/registry_exporter.h"
+#include "base/fill_in.h"
 #include "base/wait_cursor.h"
 #include "resources/ids.h"
 #include "settings/settings_key.h"
 
 namespace {
 
-// A pattern of the program's own with one "%s" in it.
-std::wstring Format(std::wstring pattern, const std::wstring& argument) {
-    const std::size_t place = pattern.find(L"%s");
-    return place == std::wstring::npos ? pattern : pattern.replace(place, 2, argument);
-}
-
 // Asks for a settings file by one of the system's two file dialogs; no value when the user cancels.
 std::optional<std::wstring> AskForFile(HWND owner, BOOL(WINAPI* dialog)(OPENFILENAMEW*),
                                        DWORD flags) {
     std::wstring filter =
-        Format(L"%s (*.dias)|*.dias|", GetLanguageTable().LoadString(IDS_SETTINGS_FILE_TYPE));
+        FillIn(L"%s (*.dias)|*.dias|", {GetLanguageTable().LoadString(IDS_SETTINGS_FILE_TYPE)});
     std::replace(filter.begin(), filter.end(), L'|', L'\0');
     wchar_t path[MAX_PATH] = {};
     GetLanguageTable().LoadString(IDS_SETTINGS_FILE_NAME).copy(path, MAX_PATH - 1);
@@ -67,7 +62,8 @@ void ExportSettings(HWND owner) {
 bool ImportSettings(HWND owner) {
     const auto path = AskForFile(owner, GetOpenFileNameW, OFN_FILEMUSTEXIST);
     if (!path) return false;
-    const std::wstring question = Format(GetLanguageTable().LoadString(IDS_CONFIRM_IMPORT), *path);
+    const std::wstring question =
+        FillIn(GetLanguageTable().LoadString(IDS_CONFIRM_IMPORT), {*path});
     if (Say(question.c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES) return false;
     const WaitCursor wait;
     if (!RegistryExporter().Import(path->c_str())) SayThatItFailed(IDS_IMPORT_FAILED);

@@ -1,11 +1,11 @@
 #include "app/registry_exporter.h"
 
 #include <cstdint>
-#include <new>
 #include <optional>
 #include <utility>
 
 #include "base/owned_handle.h"
+#include "base/read_file.h"
 #include "settings/settings_file.h"
 
 namespace {
@@ -31,22 +31,6 @@ OwnedKey CreateKey(HKEY parent, const wchar_t* name) {
     HKEY key = nullptr;
     const LSTATUS status = RegCreateKeyExW(parent, name, 0, nullptr, 0, 0, nullptr, &key, nullptr);
     return OwnedKey(status == ERROR_SUCCESS ? key : nullptr);
-}
-
-std::optional<std::vector<std::uint8_t>> ReadAll(HANDLE file) {
-    DWORD high = 0;
-    const DWORD size = GetFileSize(file, &high);
-    if (size == INVALID_FILE_SIZE || high) return {};
-    std::vector<std::uint8_t> bytes;
-    try {
-        bytes.resize(size);
-    } catch (const std::bad_alloc&) {
-        return {};
-    }
-    DWORD read = 0;
-    if (!ReadFile(file, bytes.data(), size, &read, nullptr)) return {};
-    bytes.resize(read);
-    return bytes;
 }
 
 class Export {
@@ -212,10 +196,7 @@ bool RegistryExporter::Export(const wchar_t* path, HKEY root, const wchar_t* key
 }
 
 bool RegistryExporter::Import(const wchar_t* path) const {
-    const OwnedFile file(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) return false;
-    const std::optional<std::vector<std::uint8_t>> bytes = ReadAll(file.get());
+    const std::optional<std::vector<std::uint8_t>> bytes = ReadWholeFile(path);
     RegistrySink sink;
     return bytes && ReadSettingsFile(*bytes, sink);
 }

@@ -37,6 +37,8 @@ struct HandleRelease {
     void operator()(HICON icon) const { DestroyIcon(icon); }
     void operator()(HIMAGELIST images) const { ImageList_Destroy(images); }
     void operator()(HKEY key) const { RegCloseKey(key); }
+    void operator()(HMODULE library) const { FreeLibrary(library); }
+    void operator()(HMENU menu) const { DestroyMenu(menu); }
 };
 struct FileRelease {
     void operator()(HANDLE file) const { CloseHandle(file); }
@@ -50,6 +52,8 @@ using OwnedDc = OwnedHandle<HDC, HandleRelease>;
 using OwnedIcon = OwnedHandle<HICON, HandleRelease>;
 using OwnedKey = OwnedHandle<HKEY, HandleRelease>;
 using OwnedImageList = OwnedHandle<HIMAGELIST, HandleRelease>;
+using OwnedLibrary = OwnedHandle<HMODULE, HandleRelease>;
+using OwnedMenu = OwnedHandle<HMENU, HandleRelease>;
 
 // Owns an open file. CreateFileW says INVALID_HANDLE_VALUE, not null, when it fails.
 class OwnedFile {
@@ -61,6 +65,21 @@ class OwnedFile {
 
   private:
     OwnedHandle<HANDLE, FileRelease> handle_;
+};
+
+// The context of a window's client area, or of the whole screen.
+class WindowDc {
+  public:
+    explicit WindowDc(HWND window = nullptr) : window_(window), dc_(GetDC(window)) {}
+    ~WindowDc() { ReleaseDC(window_, dc_); }
+    WindowDc(const WindowDc&) = delete;
+    WindowDc& operator=(const WindowDc&) = delete;
+
+    HDC get() const { return dc_; }
+
+  private:
+    HWND window_;
+    HDC dc_;
 };
 
 // Selects an object into a device context for the length of a scope.

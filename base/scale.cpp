@@ -2,14 +2,11 @@
 
 #include <windows.h>
 
+#include "base/owned_handle.h"
+
 namespace {
 
-int ScreenCapability(int index) {
-    const HDC screen = GetDC(nullptr);
-    const int value = GetDeviceCaps(screen, index);
-    ReleaseDC(nullptr, screen);
-    return value;
-}
+int ScreenCapability(int index) { return GetDeviceCaps(WindowDc().get(), index); }
 
 }  // namespace
 

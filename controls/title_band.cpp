@@ -29,10 +29,8 @@ void PaintTitleBand(HDC dc, const std::wstring& title, int bandHeight, int top) 
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = bandHeight + ScaleY(kLineHeight);
 
-    const HDC screen = GetDC(nullptr);
-    const OwnedDc memory(CreateCompatibleDC(screen));
-    const OwnedBitmap bitmap(CreateCompatibleBitmap(screen, width, height));
-    ReleaseDC(nullptr, screen);
+    const OwnedDc memory(CreateCompatibleDC(dc));
+    const OwnedBitmap bitmap(CreateCompatibleBitmap(WindowDc().get(), width, height));
     if (!memory || !bitmap) return;
     const SelectedObject selectedBitmap(memory.get(), bitmap.get());
 

@@ -2,16 +2,12 @@
 
 #include <windows.h>
 
+#include "base/owned_handle.h"
 #include "settings/settings_key.h"
 
 namespace {
 
-bool CanLoad(const wchar_t* path) {
-    const HMODULE library = LoadLibraryW(path);
-    if (!library) return false;
-    FreeLibrary(library);
-    return true;
-}
+bool CanLoad(const wchar_t* path) { return static_cast<bool>(OwnedLibrary(LoadLibraryW(path))); }
 
 bool HasText(const wchar_t* path, const wchar_t* name) {
     CSettingsKey key(HKEY_LOCAL_MACHINE, path, false, false);

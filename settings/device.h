@@ -1,6 +1,7 @@
 #pragma once
 
-// Each of these is asked once; the answer holds for the process, but for the finance program's.
+// What the device is, asked once for the process; and which other programs it has, asked anew each
+// time, as they come and go while this one runs.
 
 // Whether the device has a phone.
 bool IsPhoneDevice();

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "base/owned_handle.h"
 #include "settings/catalogue.h"
 #include "settings/settings_key.h"
 
@@ -28,14 +29,15 @@ bool Exists(const std::wstring& path) {
 // The key's first key; empty when it has none, or is not there itself. The tab host makes one in
 // the key of a plug-in that it holds.
 std::wstring FirstSubKey(const std::wstring& path) {
-    HKEY key = nullptr;
-    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, 0, &key) != ERROR_SUCCESS) return {};
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, 0, &opened) != ERROR_SUCCESS) return {};
+    const OwnedKey key(opened);
     wchar_t name[kNameLength] = {};
     DWORD length = kNameLength;
-    if (RegEnumKeyExW(key, 0, name, &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) {
+    if (RegEnumKeyExW(key.get(), 0, name, &length, nullptr, nullptr, nullptr, nullptr) !=
+        ERROR_SUCCESS) {
         length = 0;
     }
-    RegCloseKey(key);
     return {name, length};
 }
 

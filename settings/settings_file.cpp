@@ -1,10 +1,12 @@
 #include "settings/settings_file.h"
 
+#include "base/byte_reader.h"
+
 namespace {
 
 class Reader {
   public:
-    Reader(std::span<const std::uint8_t> bytes, SettingsSink& sink) : rest_(bytes), sink_(sink) {}
+    Reader(std::span<const std::uint8_t> bytes, SettingsSink& sink) : reader_(bytes), sink_(sink) {}
 
     bool Read() {
         std::uint32_t root = 0;
@@ -73,31 +75,21 @@ class Reader {
     }
 
     bool Number(std::uint32_t& number) {
-        if (rest_.size() < sizeof number) return false;
-        number = rest_[0] | rest_[1] << 8 | rest_[2] << 16 | std::uint32_t{rest_[3]} << 24;
-        rest_ = rest_.subspan(sizeof number);
-        return true;
+        number = reader_.TakeNumber();
+        return !reader_.failed();
     }
 
     bool CountedBytes(std::span<const std::uint8_t>& bytes) {
-        std::uint32_t count = 0;
-        if (!Number(count) || count > rest_.size()) return false;
-        bytes = rest_.first(count);
-        rest_ = rest_.subspan(count);
-        return true;
+        bytes = reader_.Take(reader_.TakeNumber());
+        return !reader_.failed();
     }
 
     bool Text(std::wstring& text) {
-        std::span<const std::uint8_t> bytes;
-        if (!CountedBytes(bytes)) return false;
-        text.resize(bytes.size() / 2);
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            text[i] = static_cast<wchar_t>(bytes[2 * i] | bytes[2 * i + 1] << 8);
-        }
-        return true;
+        text = reader_.TakeText(reader_.TakeNumber());
+        return !reader_.failed();
     }
 
-    std::span<const std::uint8_t> rest_;
+    ByteReader reader_;
     SettingsSink& sink_;
 };
 

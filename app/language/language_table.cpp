@@ -10,6 +10,7 @@
 #include "app/language/language_template.h"
 #include "app/language/module.h"
 #include "base/owned_handle.h"
+#include "base/read_file.h"
 
 namespace {
 
@@ -17,19 +18,6 @@ constexpr int kStringLength = 1024;
 constexpr int kWindowTextLength = 4096;
 constexpr int kButtonTextLength = 256;
 constexpr int kClassNameLength = 64;
-
-std::optional<std::vector<std::uint8_t>> ReadFileBytes(const std::wstring& path) {
-    const OwnedFile file(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) return std::nullopt;
-    const DWORD size = GetFileSize(file.get(), nullptr);
-    if (size == INVALID_FILE_SIZE) return std::nullopt;
-    std::vector<std::uint8_t> bytes(size);
-    DWORD read = 0;
-    if (!ReadFile(file.get(), bytes.data(), size, &read, nullptr)) return std::nullopt;
-    bytes.resize(read);
-    return bytes;
-}
 
 void TranslateComboBox(HWND combo, const LanguageIndex& index) {
     const LRESULT selection = SendMessageW(combo, CB_GETCURSEL, 0, 0);
@@ -86,8 +74,8 @@ void TranslateMenuOnce(HMENU menu, const LanguageIndex& index, std::unordered_se
 }  // namespace
 
 bool LanguageTable::Load(const std::wstring& path) {
-    std::optional<std::vector<std::uint8_t>> bytes = ReadFileBytes(path);
-    if (!bytes && WriteTemplate(path)) bytes = ReadFileBytes(path);
+    std::optional<std::vector<std::uint8_t>> bytes = ReadWholeFile(path);
+    if (!bytes && WriteTemplate(path)) bytes = ReadWholeFile(path);
     if (!bytes) return false;
     index_ = LanguageIndex(ParseLanguageFile(*bytes));
     return true;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/language/dialog_init.h"
+#include "base/owned_handle.h"
 
 namespace {
 
@@ -40,9 +41,7 @@ class TextCollector {
     void AddMenus() {
         for (unsigned id = 1; id <= kLastMenu; ++id) {
             if (!Exists(id, RT_MENU)) continue;
-            const HMENU menu = LoadMenuW(library_, MAKEINTRESOURCEW(id));
-            AddMenu(menu);
-            DestroyMenu(menu);
+            AddMenu(OwnedMenu(LoadMenuW(library_, MAKEINTRESOURCEW(id))).get());
         }
     }
 

@@ -1,25 +1,23 @@
 #include "app/language/module.h"
 
-#include <utility>
+#include "base/owned_handle.h"
 
 namespace {
 
 HINSTANCE moduleInstance = nullptr;
-HMODULE resourceLibrary = nullptr;
+OwnedLibrary resourceLibrary;
 
 }  // namespace
 
 void InitModule(HINSTANCE instance) { moduleInstance = instance; }
 
 bool LoadResourceLibrary(const std::wstring& path) {
-    resourceLibrary = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    return resourceLibrary != nullptr;
+    resourceLibrary.Reset(LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE));
+    return static_cast<bool>(resourceLibrary);
 }
 
-void ShutDownModule() {
-    if (const HMODULE library = std::exchange(resourceLibrary, nullptr)) FreeLibrary(library);
-}
+void ShutDownModule() { resourceLibrary.Reset(); }
 
 HINSTANCE ModuleInstance() { return moduleInstance; }
 
-HMODULE ResourceLibrary() { return resourceLibrary; }
+HMODULE ResourceLibrary() { return resourceLibrary.get(); }

@@ -7,6 +7,7 @@
 #include "appearance/categories/icon_folder_dialog.h"
 #include "appearance/categories/short_path.h"
 #include "appearance/skins/skin_art.h"
+#include "base/fill_in.h"
 #include "base/owned_handle.h"
 #include "base/scale.h"
 #include "base/wait_cursor.h"
@@ -39,10 +40,7 @@ unsigned IconChooser::MenuBarId() const { return IDM_ICON_CHOOSER; }
 void IconChooser::OnHelp() { LaunchHelp(L"options_category_icons_chooser"); }
 
 std::wstring IconChooser::BandTitle() const {
-    std::wstring title = GetLanguageTable().LoadString(IDS_ICON_FOR);
-    const std::size_t place = title.find(L"%s");
-    if (place != std::wstring::npos) title.replace(place, 2, category_);
-    return title;
+    return FillIn(GetLanguageTable().LoadString(IDS_ICON_FOR), {category_});
 }
 
 bool IconChooser::OnInit() {
@@ -110,7 +108,8 @@ void IconChooser::Browse() {
 
 // The chosen command; 0 for none.
 int IconChooser::TrackSourceMenu() const {
-    const HMENU menu = CreatePopupMenu();
+    const OwnedMenu owned(CreatePopupMenu());
+    const HMENU menu = owned.get();
     if (!menu) return 0;
     int command = kFirstSource;
     const auto add = [&](const std::wstring& text) {
@@ -136,28 +135,22 @@ int IconChooser::TrackSourceMenu() const {
     // Above its soft key, the left one.
     RECT bar = {};
     GetWindowRect(SHFindMenuBar(hwnd()), &bar);
-    const int chosen = TrackPopupMenuEx(menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN | TPM_RETURNCMD,
-                                        bar.left, bar.top, hwnd(), nullptr);
-    DestroyMenu(menu);
-    return chosen;
+    return TrackPopupMenuEx(menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN | TPM_RETURNCMD, bar.left,
+                            bar.top, hwnd(), nullptr);
 }
 
 // A path as a menu shows it: short enough for the screen, with nothing taken for a mnemonic.
 std::wstring IconChooser::MenuText(const std::wstring& folder) const {
-    const HDC dc = GetDC(hwnd());
-    std::wstring text;
-    {
-        const SelectedObject font(dc,
-                                  reinterpret_cast<HFONT>(SendMessageW(hwnd(), WM_GETFONT, 0, 0)));
-        const int widest = GetSystemMetrics(SM_CXSCREEN) * 3 / 4;
-        text = ShortenPath(folder, [&](const std::wstring& part) {
-            RECT area = {};
-            DrawTextW(dc, part.c_str(), static_cast<int>(part.size()), &area,
-                      DT_SINGLELINE | DT_NOPREFIX | DT_CALCRECT);
-            return area.right <= widest;
-        });
-    }
-    ReleaseDC(hwnd(), dc);
+    const WindowDc dc(hwnd());
+    const SelectedObject font(dc.get(),
+                              reinterpret_cast<HFONT>(SendMessageW(hwnd(), WM_GETFONT, 0, 0)));
+    const int widest = GetSystemMetrics(SM_CXSCREEN) * 3 / 4;
+    std::wstring text = ShortenPath(folder, [&](const std::wstring& part) {
+        RECT area = {};
+        DrawTextW(dc.get(), part.c_str(), static_cast<int>(part.size()), &area,
+                  DT_SINGLELINE | DT_NOPREFIX | DT_CALCRECT);
+        return area.right <= widest;
+    });
     for (std::size_t at = 0; (at = text.find(L'&', at)) != std::wstring::npos; at += 2) {
         text.insert(at, 1, L'&');
     }

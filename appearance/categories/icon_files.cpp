@@ -3,7 +3,8 @@
 #include <array>
 #include <utility>
 
-#include "appearance/categories/bitmap_header.h"
+#include "appearance/categories/icon_size.h"
+#include "base/find_files.h"
 #include "base/mapped_file.h"
 #include "base/scale.h"
 #include "settings/install_path.h"
@@ -41,14 +42,10 @@ std::wstring JoinPath(const std::wstring& folder, const std::wstring& name) {
 std::vector<std::wstring> FindBitmapFiles(const std::wstring& folder) {
     std::vector<std::wstring> names;
     if (folder.empty()) return names;
-    WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW(JoinPath(folder, L"*.bmp").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
-    do {
-        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (!isFolder && found.cFileName[0] != L'.') names.push_back(found.cFileName);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
+    ForEachFile(JoinPath(folder, L"*.bmp"), [&names](const WIN32_FIND_DATAW& found) {
+        if (!IsFolder(found) && found.cFileName[0] != L'.') names.push_back(found.cFileName);
+        return true;
+    });
     return names;
 }
 

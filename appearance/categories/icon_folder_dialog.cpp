@@ -1,5 +1,6 @@
 #include "appearance/categories/icon_folder_dialog.h"
 
+#include "base/find_files.h"
 #include "base/wait_cursor.h"
 #include "controls/launch_help.h"
 #include "resources/ids.h"
@@ -12,14 +13,9 @@ constexpr int kTitleLength = 256;
 // are those of the folder itself, of the one above, and hidden ones.
 template <typename Action>
 void ForEachFolder(const std::wstring& path, Action action) {
-    WIN32_FIND_DATAW found = {};
-    const HANDLE search = FindFirstFileW((path + L"\\*.*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
-    do {
-        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (isFolder && found.cFileName[0] != L'.' && !action(found.cFileName)) break;
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
+    ForEachFile(path + L"\\*.*", [&action](WIN32_FIND_DATAW& found) {
+        return !IsFolder(found) || found.cFileName[0] == L'.' || action(found.cFileName);
+    });
 }
 
 bool HasFolders(const std::wstring& path) {

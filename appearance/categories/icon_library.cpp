@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "app/language/language_table.h"
-#include "appearance/categories/bitmap_header.h"
 #include "appearance/categories/icon_digest.h"
 #include "appearance/categories/icon_files.h"
+#include "appearance/categories/icon_size.h"
 #include "base/mapped_file.h"
 #include "base/scale.h"
 #include "settings/install_path.h"

@@ -101,12 +101,9 @@ ListFontSettings ListFontSettings::OfSystem() {
     TEXTMETRICW metrics = {};
     {
         const OwnedFont made(CreateFontIndirectW(&font));
-        const HDC screen = GetDC(nullptr);
-        {
-            const SelectedObject selected(screen, made.get());
-            GetTextMetricsW(screen, &metrics);
-        }
-        ReleaseDC(nullptr, screen);
+        const WindowDc screen;
+        const SelectedObject selected(screen.get(), made.get());
+        GetTextMetricsW(screen.get(), &metrics);
     }
     const int dpi = VerticalDpi();
     const int height = (std::abs(metrics.tmHeight) * 96 + dpi / 2) / dpi;

@@ -3,23 +3,11 @@
 #include <windows.h>
 
 #include "base/owned_handle.h"
+#include "base/read_file.h"
 
 namespace {
 
 constexpr std::size_t kLongestPath = 260;
-
-OwnedFile OpenForReading(const std::wstring& path) {
-    return OwnedFile(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-}
-
-std::optional<std::uint32_t> SizeOf(const OwnedFile& file) {
-    if (!file) return {};
-    DWORD high = 0;
-    const DWORD low = GetFileSize(file.get(), &high);
-    if (high || low > kLargestMember) return {};  // Failure is 0xFFFFFFFF.
-    return low;
-}
 
 }  // namespace
 
@@ -51,17 +39,17 @@ std::wstring SkinSource::MemberPath(const char* name) const {
 std::optional<std::uint32_t> SkinSource::GetMemberSize(const char* name) const {
     if (archive_) return archive_->MemberSize(name);
     if (folder_.empty()) return {};
-    return SizeOf(OpenForReading(MemberPath(name)));
+    const OwnedFile file(CreateFileW(MemberPath(name).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                     nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) return {};
+    DWORD high = 0;
+    const DWORD low = GetFileSize(file.get(), &high);
+    if (high || low > kLargestMember) return {};  // Failure is 0xFFFFFFFF.
+    return low;
 }
 
 std::optional<std::vector<std::uint8_t>> SkinSource::ReadMember(const char* name) const {
     if (archive_) return archive_->ReadMember(name);
     if (folder_.empty()) return {};
-    const OwnedFile file = OpenForReading(MemberPath(name));
-    const std::optional<std::uint32_t> size = SizeOf(file);
-    if (!size) return {};
-    std::vector<std::uint8_t> bytes(*size);
-    DWORD read = 0;
-    if (!ReadFile(file.get(), bytes.data(), *size, &read, nullptr) || read != *size) return {};
-    return bytes;
+    return ReadWholeFile(MemberPath(name), kLargestMember);
 }

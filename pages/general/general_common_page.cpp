@@ -3,9 +3,9 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cwchar>
 
 #include "app/language/language_table.h"
+#include "base/fill_in.h"
 #include "settings/device.h"
 #include "settings/registration.h"
 
@@ -83,10 +83,8 @@ void GeneralCommonPage::OnUpdate() {
 bool GeneralCommonPage::OnApply() {
     const int height = static_cast<int>(GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
     if (height < smallest_ || height > kLargestHeight) {
-        wchar_t reason[256] = {};
-        const std::wstring pattern = GetLanguageTable().LoadString(IDS_HEIGHT_REFUSED);
-        swprintf(reason, std::size(reason), pattern.c_str(), smallest_, kLargestHeight);
-        return Refuse(IDC_HEIGHT, reason);
+        return Refuse(IDC_HEIGHT, FillIn(GetLanguageTable().LoadString(IDS_HEIGHT_REFUSED),
+                                         {smallest_, kLargestHeight}));
     }
     return OptionsPage::OnApply();
 }

@@ -47,9 +47,8 @@ void GeneralFontPage::OnLoad(PageValues& values) {
 }
 
 void GeneralFontPage::FillFaces() {
-    const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesW(screen, nullptr, AddFace, reinterpret_cast<LPARAM>(Item(IDC_FONT_FACE)));
-    ReleaseDC(nullptr, screen);
+    EnumFontFamiliesW(WindowDc().get(), nullptr, AddFace,
+                      reinterpret_cast<LPARAM>(Item(IDC_FONT_FACE)));
 }
 
 // Selects the current font in the lists; what a list does not have leaves it without a selection.

@@ -3,6 +3,7 @@
 #include "app/language/language_table.h"
 #include "appearance/skins/skin_art.h"
 #include "appearance/skins/skin_list.h"
+#include "base/find_files.h"
 #include "pages/general/skin_preview.h"
 #include "resources/ids.h"
 #include "settings/catalogue.h"
@@ -28,16 +29,11 @@ bool GeneralSkinsPage::OnInitDialog() {
 void GeneralSkinsPage::ListSkins() {
     const HWND list = Item(IDC_SKIN);
     SendMessageW(list, CB_RESETCONTENT, 0, 0);
-    WIN32_FIND_DATAW found = {};
-    const HANDLE search = FindFirstFileW((SkinsFolder() + L"*.*").c_str(), &found);
-    if (search != INVALID_HANDLE_VALUE) {
-        do {
-            const bool isFolder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
-            const auto name = OfferedSkinName(found.cFileName, isFolder);
-            if (name) AddSkin(list, name->c_str());
-        } while (FindNextFileW(search, &found));
-        FindClose(search);
-    }
+    ForEachFile(SkinsFolder() + L"*.*", [list](const WIN32_FIND_DATAW& found) {
+        const auto name = OfferedSkinName(found.cFileName, IsFolder(found));
+        if (name) AddSkin(list, name->c_str());
+        return true;
+    });
     startingSkin_ = CurrentSkinName();
     if (ItemCount(IDC_SKIN) > 0) {
         SetSelection(IDC_SKIN, 0);

@@ -23,11 +23,6 @@ constexpr FolderIcon kIcons[kMailFolderKindCount] = {
     {107, ItemIcon::kSent},
 };
 
-struct FreeLoaded {
-    void operator()(HMODULE library) const { FreeLibrary(library); }
-};
-using OwnedLibrary = OwnedHandle<HMODULE, FreeLoaded>;
-
 // The library for the display's density or, where there is none, the one for any.
 OwnedLibrary LoadMailResources() {
     CSettingsKey key(HKEY_LOCAL_MACHINE, L"Drivers\\Display\\GPE", false, false);

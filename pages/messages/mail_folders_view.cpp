@@ -16,10 +16,9 @@ constexpr std::size_t kFewFolders = 30;
 OwnedImageList BoxImages() {
     const int width = ScaleX(kBoxSize), height = ScaleY(kBoxSize);
     OwnedImageList list(ImageList_Create(width, height, ILC_COLOR, kTicked + 1, 1));
-    const HDC screen = GetDC(nullptr);
-    const OwnedBitmap bitmap(CreateCompatibleBitmap(screen, width, height));
-    const OwnedDc memory(CreateCompatibleDC(screen));
-    ReleaseDC(nullptr, screen);
+    const WindowDc screen;
+    const OwnedBitmap bitmap(CreateCompatibleBitmap(screen.get(), width, height));
+    const OwnedDc memory(CreateCompatibleDC(screen.get()));
     if (!list || !bitmap || !memory) return {};
     for (UINT state = 0; state <= kTicked; ++state) {
         {

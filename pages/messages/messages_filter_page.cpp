@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/language/language_table.h"
+#include "base/fill_in.h"
 #include "base/wait_cursor.h"
 #include "pages/stores/mail_folders_filters.h"
 
@@ -249,10 +250,9 @@ bool MessagesFilterPage::OnApply() {
     for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
         const auto bytes = MailFilterBytes(filter.entries);
         if (!bytes || bytes->size() <= kLargestFilter) continue;
-        std::wstring reason = GetLanguageTable().LoadString(IDS_MAIL_FILTER_TOO_LARGE);
-        const std::size_t place = reason.find(L"%s");
-        if (place != std::wstring::npos) reason.replace(place, 2, filter.name);
-        return Refuse(IDC_MAIL_FOLDERS, reason);
+        return Refuse(
+            IDC_MAIL_FOLDERS,
+            FillIn(GetLanguageTable().LoadString(IDS_MAIL_FILTER_TOO_LARGE), {filter.name}));
     }
     return OptionsPage::OnApply();
 }

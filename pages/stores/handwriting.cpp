@@ -3,7 +3,9 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
 
+#include "base/owned_handle.h"
 #include "settings/settings_key.h"
 
 namespace {
@@ -27,11 +29,11 @@ std::wstring InstallFolder(const wchar_t* path) {
     return folder;
 }
 
-HMODULE LoadFrom(const std::wstring& folder, const std::wstring& otherFolder,
-                 const wchar_t* library) {
-    HMODULE module = nullptr;
+OwnedLibrary LoadFrom(const std::wstring& folder, const std::wstring& otherFolder,
+                      const wchar_t* library) {
+    OwnedLibrary module;
     for (const std::wstring& place : {folder, otherFolder}) {
-        if (!module && !place.empty()) module = LoadLibraryW((place + library).c_str());
+        if (!module && !place.empty()) module.Reset(LoadLibraryW((place + library).c_str()));
     }
     return module;
 }
@@ -43,8 +45,8 @@ bool IsFile(const std::wstring& folder, const wchar_t* name) {
 
 // The view library leaves its window classes behind, which would keep its code from being loaded
 // anew elsewhere.
-void UnloadViews(HMODULE views) {
-    FreeLibrary(views);
+void UnloadViews(OwnedLibrary views) {
+    views.Reset();
     if (GetModuleHandleW(kViewLibrary)) return;
     for (const wchar_t* name : {L"PW_FileViewClass", L"PW_PageBrowserClass"}) {
         UnregisterClassW(name, GetModuleHandleW(nullptr));
@@ -64,13 +66,11 @@ bool IsPhatPadPresent() {
     const std::wstring pad = InstallFolder(L"Software\\PhatWare\\PhatPad");
     const std::wstring viewer = InstallFolder(L"Software\\PhatWare\\PhatPad Viewer");
     if (pad.empty() && viewer.empty()) return false;
-    const HMODULE control = LoadFrom(pad, viewer, L"PhatPadCtl.dll");
+    const OwnedLibrary control = LoadFrom(pad, viewer, L"PhatPadCtl.dll");
     const bool installed = IsFile(pad, L"PhatPad.exe") || IsFile(viewer, L"PhatPadViewer.exe");
-    bool present = false;
-    if (const HMODULE views = LoadFrom(pad, viewer, kViewLibrary)) {
-        present = installed && GetProcAddress(views, L"PhatPad_CreateView") != nullptr;
-        UnloadViews(views);
-    }
-    if (control) FreeLibrary(control);
+    OwnedLibrary views = LoadFrom(pad, viewer, kViewLibrary);
+    if (!views) return false;
+    const bool present = installed && GetProcAddress(views.get(), L"PhatPad_CreateView") != nullptr;
+    UnloadViews(std::move(views));
     return present;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/byte_reader.h"
+
 namespace {
 
 constexpr std::uint8_t kSecondStore = 'F';
@@ -18,28 +20,6 @@ auto Find(Entries& entries, const MailFolderRef& folder) {
 std::size_t StoredLength(const std::wstring& name) {
     return name.size() <= kLongestMailFolderName ? name.size() : 0;
 }
-
-// Takes parts of the bytes from their beginning; nothing once one runs past their end.
-class Reader {
-  public:
-    explicit Reader(std::span<const std::uint8_t> bytes) : rest_(bytes) {}
-
-    bool AtEnd() const { return rest_.empty(); }
-    std::optional<std::span<const std::uint8_t>> Take(std::size_t size) {
-        if (size > rest_.size()) return std::nullopt;
-        const auto part = rest_.first(size);
-        rest_ = rest_.subspan(size);
-        return part;
-    }
-    // As many units as the byte before them says, each of `unitSize` bytes.
-    std::optional<std::span<const std::uint8_t>> TakeCounted(std::size_t unitSize) {
-        const auto count = Take(1);
-        return count ? Take(unitSize * count->front()) : std::nullopt;
-    }
-
-  private:
-    std::span<const std::uint8_t> rest_;
-};
 
 }  // namespace
 
@@ -87,21 +67,18 @@ std::optional<std::vector<std::uint8_t>> MailFilterBytes(
 
 std::optional<std::vector<MailFilter::Entry>> ParseMailFilter(std::span<const std::uint8_t> bytes) {
     MailFilter filter;
-    Reader reader(bytes);
-    while (!reader.AtEnd()) {
-        const std::uint8_t kind = reader.Take(1)->front();
-        const auto identifier = reader.TakeCounted(1);
-        const auto units = reader.TakeCounted(2);
-        if ((kind != kSecondStore && kind != kMessagingStore) || !identifier || !units ||
-            units->empty()) {
+    ByteReader reader(bytes);
+    while (reader.left() > 0) {
+        const std::uint32_t kind = reader.TakeNumber(1);
+        const auto identifier = reader.Take(reader.TakeNumber(1));
+        MailFilter::Entry entry;
+        entry.name = reader.TakeText(2 * reader.TakeNumber(1));
+        if ((kind != kSecondStore && kind != kMessagingStore) || reader.failed() ||
+            entry.name.empty()) {
             return std::nullopt;
         }
-        MailFilter::Entry entry;
-        entry.folder.identifier.assign(identifier->begin(), identifier->end());
+        entry.folder.identifier.assign(identifier.begin(), identifier.end());
         entry.folder.inSecondStore = kind == kSecondStore;
-        for (std::size_t i = 0; i < units->size(); i += 2) {
-            entry.name += static_cast<wchar_t>((*units)[i] | (*units)[i + 1] << 8);
-        }
         if (!filter.Contains(entry.folder)) filter.entries.push_back(std::move(entry));
     }
     return std::move(filter.entries);

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "base/owned_handle.h"
+
 namespace {
 
 constexpr WORD kEnumProjectsEx = 21;  // By its ordinal.
@@ -21,14 +23,13 @@ BOOL CALLBACK AddFolder(PAstruct* project, LPARAM context) {
 
 std::vector<std::wstring> NoteFolders() {
     std::vector<std::wstring> names;
-    const HMODULE library = LoadLibraryW(L"Note_prj.dll");
+    const OwnedLibrary library(LoadLibraryW(L"Note_prj.dll"));
     if (!library) return names;
     using Enumerate = decltype(&EnumProjectsEx);
-    if (const auto enumerate = reinterpret_cast<Enumerate>(
-            reinterpret_cast<void*>(GetProcAddress(library, MAKEINTRESOURCEW(kEnumProjectsEx))))) {
+    if (const auto enumerate = reinterpret_cast<Enumerate>(reinterpret_cast<void*>(
+            GetProcAddress(library.get(), MAKEINTRESOURCEW(kEnumProjectsEx))))) {
         enumerate(AddFolder, 0, PRJ_ENUM_ALL_DEVICES, reinterpret_cast<LPARAM>(&names));
     }
-    FreeLibrary(library);
     std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
         return _wcsicmp(a.c_str(), b.c_str()) < 0;
     });

@@ -2,14 +2,9 @@
 
 #include <windows.h>
 
-#include <cstdio>
-#include <memory>
+#include "base/read_file.h"
 
 namespace {
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 std::wstring Decode(unsigned codePage, std::string_view bytes) {
     // No code page makes more characters than there are bytes.
@@ -23,13 +18,6 @@ std::wstring Decode(unsigned codePage, std::string_view bytes) {
 }  // namespace
 
 SettingsIni ReadSettingsIni(const std::wstring& path) {
-    std::vector<std::uint8_t> bytes;
-    const std::unique_ptr<std::FILE, CloseFile> file(_wfopen(path.c_str(), L"rt"));
-    std::uint8_t part[4096];
-    while (file) {
-        const std::size_t size = std::fread(part, 1, sizeof part, file.get());
-        if (size == 0) break;
-        bytes.insert(bytes.end(), part, part + size);
-    }
-    return ParseSettingsIni(bytes, Decode);
+    const auto bytes = ReadWholeFile(path);
+    return bytes ? ParseSettingsIni(*bytes, Decode) : SettingsIni();
 }

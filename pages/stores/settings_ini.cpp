@@ -9,6 +9,21 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t\n\v\f\r";
 constexpr std::size_t kLongestSkippedLine = 3;
 
+// What reading in the manner of text files leaves: a line break is a line feed, and the text ends
+// where such files were once marked to end.
+std::string TextOf(std::span<const std::uint8_t> bytes) {
+    constexpr char kEndOfText = 0x1A;
+    std::string text;
+    text.reserve(bytes.size());
+    for (const std::uint8_t byte : bytes) {
+        const char c = static_cast<char>(byte);
+        if (c == kEndOfText) break;
+        if (c == '\n' && text.ends_with('\r')) text.pop_back();
+        text += c;
+    }
+    return text;
+}
+
 // Takes a line with its line feed, or as much of it as a line may hold.
 std::string_view TakeLine(std::string_view& rest) {
     const std::string_view room = rest.substr(0, kLongestIniLine);
@@ -64,7 +79,8 @@ const SettingsIniSection* SettingsIni::FindSection(std::wstring_view name) const
 
 SettingsIni ParseSettingsIni(std::span<const std::uint8_t> bytes, DecodeText decode) {
     SettingsIni file;
-    std::string_view rest(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    const std::string text = TextOf(bytes);
+    std::string_view rest = text;
     while (!rest.empty()) {
         const std::string_view line = Trim(TakeLine(rest));
         if (line.empty() || line.front() == ';' ||

@@ -2,7 +2,7 @@
 // Any bytes are a bitmap whose pixels lie within them, or none.
 #include <cstring>
 
-#include "appearance/categories/bitmap_header.h"
+#include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_catalogue.h"
 #include "tests/fuzz/fuzz.h"
 

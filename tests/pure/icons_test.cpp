@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "appearance/categories/bitmap_header.h"
+#include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_catalogue.h"
 #include "appearance/categories/icon_grid.h"
 #include "appearance/categories/icon_sources.h"
