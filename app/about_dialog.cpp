@@ -1,10 +1,9 @@
 #include "app/about_dialog.h"
 
 #include "app/language/module.h"
-#include "controls/launch_help.h"
 #include "resources/ids.h"
 
-AboutDialog::AboutDialog() : FullScreenDialog(IDD_ABOUT) {}
+AboutDialog::AboutDialog() : FullScreenDialog(IDD_ABOUT, L"", Band::kNone) {}
 
 bool AboutDialog::OnInit() {
     const int width = GetSystemMetrics(SM_CXICON);
@@ -15,5 +14,3 @@ bool AboutDialog::OnInit() {
                         reinterpret_cast<LPARAM>(icon_.get()));
     return false;
 }
-
-void AboutDialog::OnHelp() { LaunchHelp(nullptr); }

@@ -10,8 +10,6 @@ class AboutDialog : public FullScreenDialog {
 
   protected:
     bool OnInit() override;
-    void OnHelp() override;
-    int BandHeight() const override { return 0; }
 
   private:
     OwnedIcon icon_;

@@ -6,9 +6,8 @@
 TabSettings TabSettings::Read() {
     CSettingsKey key = OpenProductKey();
     TabSettings tabs;
-    tabs.showTabs = key.ReadDword(settings::ShowTabs.name, settings::ShowTabs.defaultValue);
-    tabs.sequence =
-        key.ReadString(settings::ShowTabsSequence.name, settings::ShowTabsSequence.defaultText);
+    tabs.showTabs = key.Read(settings::ShowTabs);
+    tabs.sequence = key.Read(settings::ShowTabsSequence);
     return tabs;
 }
 

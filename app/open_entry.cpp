@@ -7,65 +7,31 @@
 #include "app/sheets/options_sheet.h"
 #include "appearance/categories/category_dialog.h"
 #include "appearance/drawing/fonts.h"
-#include "pages/calendar/calendar_common_page.h"
-#include "pages/calendar/calendar_show_page.h"
-#include "pages/calendar/calendar_tasks_page.h"
-#include "pages/calendar/calendar_titles_page.h"
-#include "pages/contacts/contacts_common_page.h"
-#include "pages/contacts/contacts_view_style_page.h"
-#include "pages/general/general_auto_return_page.h"
-#include "pages/general/general_common_page.h"
-#include "pages/general/general_font_page.h"
-#include "pages/general/general_group_style_page.h"
-#include "pages/general/general_long_date_page.h"
-#include "pages/general/general_short_date_page.h"
-#include "pages/general/general_skins_page.h"
-#include "pages/general/general_tabs_page.h"
-#include "pages/messages/messages_common_page.h"
-#include "pages/messages/messages_filter_page.h"
-#include "pages/notes/notes_common_page.h"
-#include "pages/notes/notes_filter_page.h"
-#include "pages/shared/flag_icons_page.h"
+#include "pages/calendar/calendar_pages.h"
+#include "pages/contacts/contacts_pages.h"
+#include "pages/general/general_pages.h"
+#include "pages/messages/messages_pages.h"
+#include "pages/notes/notes_pages.h"
 #include "pages/shared/title_draft.h"
-#include "pages/special_events/special_events_common_page.h"
-#include "pages/tasks/tasks_common_page.h"
-#include "pages/tasks/tasks_view_style_page.h"
+#include "pages/special_events/special_events_pages.h"
+#include "pages/tasks/tasks_pages.h"
 #include "resources/ids.h"
 
 namespace {
 
-template <typename Page>
-std::unique_ptr<OptionsPage> Make() {
-    return std::make_unique<Page>();
-}
-
-constexpr MainEntry::PageFactory kGeneralPages[] = {
-    Make<GeneralCommonPage>, Make<GeneralShortDatePage>,  Make<GeneralLongDatePage>,
-    Make<GeneralFontPage>,   Make<GeneralGroupStylePage>, Make<GeneralTabsPage>,
-    Make<GeneralSkinsPage>,  Make<GeneralAutoReturnPage>,
-};
-constexpr MainEntry::PageFactory kCalendarPages[] = {
-    Make<CalendarCommonPage>,
-    Make<CalendarShowPage>,
-    Make<CalendarTasksPage>,
-    Make<CalendarTitlesPage>,
-};
-constexpr MainEntry::PageFactory kTasksPages[] = {
-    Make<TasksCommonPage>,
-    Make<TasksViewStylePage>,
-    Make<TasksIconsPage>,
-};
-constexpr MainEntry::PageFactory kContactsPages[] = {
-    Make<ContactsCommonPage>,
-    Make<ContactsViewStylePage>,
-    Make<ContactsIconsPage>,
-};
-constexpr MainEntry::PageFactory kNotesPages[] = {Make<NotesCommonPage>, Make<NotesFilterPage>};
-constexpr MainEntry::PageFactory kMessagesPages[] = {
-    Make<MessagesCommonPage>,
-    Make<MessagesFilterPage>,
-};
-constexpr MainEntry::PageFactory kSpecialEventsPages[] = {Make<SpecialEventsCommonPage>};
+constexpr const PageDescription* kGeneralPages[] = {
+    &kGeneralCommonPage, &kGeneralShortDatePage,  &kGeneralLongDatePage,
+    &kGeneralFontPage,   &kGeneralGroupStylePage, &kGeneralTabsPage,
+    &kGeneralSkinsPage,  &kGeneralAutoReturnPage};
+constexpr const PageDescription* kCalendarPages[] = {&kCalendarCommonPage, &kCalendarShowPage,
+                                                     &kCalendarTasksPage, &kCalendarTitlesPage};
+constexpr const PageDescription* kTasksPages[] = {&kTasksCommonPage, &kTasksViewStylePage,
+                                                  &kTasksIconsPage};
+constexpr const PageDescription* kContactsPages[] = {&kContactsCommonPage, &kContactsViewStylePage,
+                                                     &kContactsIconsPage};
+constexpr const PageDescription* kNotesPages[] = {&kNotesCommonPage, &kNotesFilterPage};
+constexpr const PageDescription* kMessagesPages[] = {&kMessagesCommonPage, &kMessagesFilterPage};
+constexpr const PageDescription* kSpecialEventsPages[] = {&kSpecialEventsCommonPage};
 
 constexpr MainEntry kEntries[] = {
     {IDS_GENERAL, IDI_GENERAL, IDS_GENERAL_CAPTION, kGeneralPages, true},
@@ -98,8 +64,8 @@ bool OpenEntry(WPARAM entry, LPARAM page) {
     ForgetTitleDraft();
     std::vector<std::unique_ptr<OptionsPage>> pages;  // Outlive the sheet.
     OptionsSheet sheet(GetLanguageTable().LoadString(row.caption));
-    for (const MainEntry::PageFactory make : row.pages) {
-        pages.push_back(make());
+    for (const PageDescription* const page : row.pages) {
+        pages.push_back(MakeDescribedPage(*page));
         sheet.AddPage(*pages.back());
     }
     if (row.startPageCanBeChosen) sheet.SetActivePage(static_cast<int>(page));

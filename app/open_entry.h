@@ -2,19 +2,16 @@
 
 #include <windows.h>
 
-#include <memory>
 #include <span>
 
-class OptionsPage;
+#include "app/sheets/page_description.h"
 
 // An entry of the main screen and the sheet behind it. A new page is a row in one of these.
 struct MainEntry {
-    using PageFactory = std::unique_ptr<OptionsPage> (*)();
-
     unsigned text;     // string id
     unsigned icon;     // icon id
     unsigned caption;  // string id of the sheet's caption
-    std::span<const PageFactory> pages;
+    std::span<const PageDescription* const> pages;
     bool startPageCanBeChosen;
 };
 

@@ -3,12 +3,14 @@
 #include <aygshell.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "app/language/dialog_init.h"
 #include "app/language/language_table.h"
 #include "app/language/module.h"
 #include "appearance/drawing/fonts.h"
 #include "base/scale.h"
+#include "controls/launch_help.h"
 #include "controls/title_band.h"
 
 namespace {
@@ -42,6 +44,9 @@ RECT ControlRect(HWND dialog, HWND control) {
 }
 
 }  // namespace
+
+FullScreenDialog::FullScreenDialog(unsigned templateId, std::wstring helpAnchor, Band band)
+    : templateId_(templateId), helpAnchor_(std::move(helpAnchor)), band_(band) {}
 
 INT_PTR FullScreenDialog::DoModal(HWND parent) {
     return DialogBoxParamW(ResourceLibrary(), MAKEINTRESOURCEW(templateId_), parent,
@@ -111,11 +116,13 @@ bool FullScreenDialog::OnCommand(int id, int) {
     return true;
 }
 
-int FullScreenDialog::BandHeight() const { return TitleBandHeight(); }
+void FullScreenDialog::ShowHelp() const { LaunchHelp(helpAnchor_.c_str()); }
+
+int FullScreenDialog::BandHeight() const { return band_ == Band::kNone ? 0 : TitleBandHeight(); }
 
 std::wstring FullScreenDialog::BandTitle() const {
     wchar_t title[kTitleLength] = {};
-    GetWindowTextW(GetParent(hwnd()), title, kTitleLength);
+    GetWindowTextW(band_ == Band::kOwnTitle ? hwnd() : GetParent(hwnd()), title, kTitleLength);
     return title;
 }
 
@@ -128,7 +135,7 @@ std::optional<INT_PTR> FullScreenDialog::OnMessage(UINT message, WPARAM wParam, 
         case WM_PAINT: OnPaint(); return TRUE;
         case WM_SIZE: UpdateScrollRange(); return FALSE;
         case WM_VSCROLL: OnVerticalScroll(LOWORD(wParam)); return TRUE;
-        case WM_HELP: OnHelp(); return TRUE;
+        case WM_HELP: ShowHelp(); return TRUE;
         case WM_COMMAND: {
             const HWND control = reinterpret_cast<HWND>(lParam);
             if (control && control == GetFocus()) ScrollIntoView(control);

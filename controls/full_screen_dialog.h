@@ -11,20 +11,23 @@
 // low.
 class FullScreenDialog : public Dialog {
   public:
+    // What the title band says.
+    enum class Band { kTitleOfOwner, kOwnTitle, kNone };
+
     unsigned templateId() const { return templateId_; }
 
     // Runs the dialog modally over `parent`; the result is the dialog's own, 0 for cancelled.
     INT_PTR DoModal(HWND parent);
 
   protected:
-    explicit FullScreenDialog(unsigned templateId) : templateId_(templateId) {}
+    // `helpAnchor` is the dialog's section of the help file; empty for its contents.
+    FullScreenDialog(unsigned templateId, std::wstring helpAnchor, Band band = Band::kTitleOfOwner);
 
     // The dialog's own initialisation, after the lists are filled and before texts are translated;
     // returns whether the first control shall have the focus.
     virtual bool OnInit() = 0;
     // WM_COMMAND of a control or menu; true when handled.
     virtual bool OnCommand(int id, int code);
-    virtual void OnHelp() = 0;
     // The menu of the library that the menu bar shows; 0 leaves it empty.
     virtual unsigned MenuBarId() const { return 0; }
     // Paints a preview, or an entry of a list that the dialog draws itself.
@@ -32,10 +35,10 @@ class FullScreenDialog : public Dialog {
     // A control that takes all below the title band and scrolls by itself; null where the dialog
     // scrolls.
     virtual HWND FillingControl() const { return nullptr; }
-    // Height in pixels of the title band; 0 for a dialog without one.
-    virtual int BandHeight() const;
     virtual std::wstring BandTitle() const;
 
+    // Opens the help at the dialog's section.
+    void ShowHelp() const;
     // Scrolls until a control shows. Controls that say in WM_COMMAND that they have the focus are
     // scrolled to anyway.
     void ScrollIntoView(HWND control);
@@ -46,6 +49,7 @@ class FullScreenDialog : public Dialog {
   private:
     void InitFullScreenDialog();
     void FillListsFromResource();
+    int BandHeight() const;  // pixels; 0 without a band
     void OnPaint();
     void UpdateScrollRange();
     void OnVerticalScroll(int request);
@@ -53,6 +57,8 @@ class FullScreenDialog : public Dialog {
     int ScrollPosition() const;
 
     unsigned templateId_;
+    std::wstring helpAnchor_;
+    Band band_;
     UINT scrollMessage_ = 0;
     int contentHeight_ = 0;  // pixels, unscrolled
     std::unique_ptr<ModalWindow> modal_;

@@ -5,12 +5,6 @@
 
 namespace {
 
-// The key with a value for each layout: its name and its text.
-CSettingsKey OpenLayouts() {
-    return CSettingsKey(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\Layouts").c_str(),
-                        true, true);
-}
-
 struct BuiltInLayout {
     const wchar_t* name;
     const char* text;  // UTF-8
@@ -43,7 +37,7 @@ std::unique_ptr<KeyboardLayout> Read(CSettingsKey& key, const std::wstring& name
 }  // namespace
 
 KeyboardLayouts::KeyboardLayouts() {
-    CSettingsKey key = OpenLayouts();
+    CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
     std::wstring name;
     for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
         if (std::unique_ptr<KeyboardLayout> layout = Read(key, name)) {
@@ -66,7 +60,7 @@ const std::wstring& KeyboardLayouts::NameAt(int position) const {
 const KeyboardLayout* KeyboardLayouts::At(int position) {
     Entry& entry = entries_[static_cast<std::size_t>(position)];
     if (!entry.layout) {
-        CSettingsKey key = OpenLayouts();
+        CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
         entry.layout = Read(key, entry.name);
     }
     return entry.layout.get();
@@ -93,10 +87,11 @@ std::wstring KeyboardLayouts::NameOf(const KeyboardLayout* layout) const {
 
 OfferedLayouts KeyboardLayouts::LoadOffered(const std::wstring& tab) {
     CSettingsKey key = OpenProductKey();
-    const std::wstring names =
-        key.ReadString((tab + settings::TabLayouts.name).c_str(), settings::TabLayouts.defaultText);
-    const auto active = static_cast<std::int32_t>(key.ReadDword(
-        (tab + settings::TabLayoutActive.name).c_str(), settings::TabLayoutActive.defaultValue));
+    const std::wstring namesOf = tab + settings::TabLayouts.name;
+    const std::wstring activeOf = tab + settings::TabLayoutActive.name;
+    const std::wstring names = key.ReadString(namesOf.c_str(), settings::TabLayouts.defaultText);
+    const auto active = static_cast<std::int32_t>(
+        key.ReadDword(activeOf.c_str(), settings::TabLayoutActive.defaultValue));
     return OfferedLayouts::Parse(names, active,
                                  [this](const std::wstring& name) { return Find(name); });
 }

@@ -97,13 +97,12 @@ void RegisterPlugin(const std::array<std::wstring, kDiaryTabs.size()>& labels) {
     bool combined = false;
     {
         CSettingsKey settings = OpenProductKey();
-        combined = settings.ReadDword(settings::AllTabsInShell.name,
-                                      settings::AllTabsInShell.defaultValue) != 0;
+        combined = settings.Read(settings::AllTabsInShell) != 0;
         const Registration now = Registration::Probe();
         const bool heldApart = now.state == Registration::kTabPerHostTab;
         if (now.hostInstalled && (heldApart || now.state == Registration::kOneHostTab)) {
             combined = !heldApart;
-            settings.WriteDword(settings::AllTabsInShell.name, combined);
+            settings.Write(settings::AllTabsInShell, combined);
         }
     }
     bool held = false;

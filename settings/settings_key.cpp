@@ -118,6 +118,11 @@ bool CSettingsKey::ValueNameAtIndex(std::wstring& name) {
     return true;
 }
 
+CSettingsKey OpenProductKey(const wchar_t* name) {
+    const std::wstring path = std::wstring(kProductKey) + L"\\" + name;
+    return CSettingsKey(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
+}
+
 bool DeleteKeyTree(HKEY parent, const wchar_t* name) {
     if (!name) return false;
     HKEY key = nullptr;

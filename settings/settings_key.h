@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "settings/catalogue.h"
+
 // The default of a number that has none: a missing value then reads as this, and nothing is
 // written.
 inline constexpr std::uint32_t SETTINGS_NO_DEFAULT = 0xDEF0;
@@ -37,6 +39,20 @@ class CSettingsKey {
     std::wstring ReadString(const wchar_t* name, const wchar_t* defaultText = nullptr);
     bool WriteString(const wchar_t* name, const wchar_t* text);
 
+    // The same by a setting's name and default.
+    std::uint32_t Read(const NumberSetting& setting) {
+        return ReadDword(setting.name, setting.defaultValue);
+    }
+    std::wstring Read(const TextSetting& setting) {
+        return ReadString(setting.name, setting.defaultText);
+    }
+    bool Write(const NumberSetting& setting, std::uint32_t value) {
+        return WriteDword(setting.name, value);
+    }
+    bool Write(const TextSetting& setting, const std::wstring& text) {
+        return WriteString(setting.name, text.c_str());
+    }
+
     // Fills at most *size bytes and sets *size to the value's size. A null buffer asks for the
     // size.
     bool ReadBinary(const wchar_t* name, void* buffer, DWORD* size);
@@ -63,6 +79,9 @@ class CSettingsKey {
 inline CSettingsKey OpenProductKey() {
     return CSettingsKey(HKEY_LOCAL_MACHINE, kProductKey, true, true);
 }
+
+// A key below it, which is made likewise when missing.
+CSettingsKey OpenProductKey(const wchar_t* name);
 
 // Deletes a key with everything below it. False when it is missing or a part cannot be deleted.
 bool DeleteKeyTree(HKEY parent, const wchar_t* name);

@@ -2,11 +2,8 @@
 
 #include <commctrl.h>
 
-#include <utility>
-
 #include "app/language/language_table.h"
 #include "app/language/module.h"
-#include "controls/launch_help.h"
 #include "resources/ids.h"
 #include "settings/diary_settings.h"
 #include "settings/settings_key.h"
@@ -15,11 +12,13 @@ namespace {
 
 class ProductKeyValues : public PageValues {
   public:
-    std::uint32_t Read(const NumberSetting& setting) override {
-        return key_.ReadDword(setting.name, setting.defaultValue);
-    }
+    std::uint32_t Read(const NumberSetting& setting) override { return key_.Read(setting); }
+    std::wstring Read(const TextSetting& setting) override { return key_.Read(setting); }
     void Write(const NumberSetting& setting, std::uint32_t value) override {
-        key_.WriteDword(setting.name, value);
+        key_.Write(setting, value);
+    }
+    void Write(const TextSetting& setting, const std::wstring& text) override {
+        key_.Write(setting, text);
     }
 
   private:
@@ -28,8 +27,14 @@ class ProductKeyValues : public PageValues {
 
 }  // namespace
 
-OptionsPage::OptionsPage(unsigned templateId, const wchar_t* anchor, std::vector<Row> rows)
-    : FullScreenDialog(templateId), anchor_(anchor), rows_(std::move(rows)) {}
+OptionsPage::OptionsPage(const PageDescription& description)
+    : FullScreenDialog(description.dialog, std::wstring(L"options_") + description.anchor),
+      rows_(description.rows) {}
+
+std::unique_ptr<OptionsPage> MakeDescribedPage(const PageDescription& description) {
+    return description.make ? description.make(description)
+                            : std::make_unique<OptionsPage>(description);
+}
 
 HPROPSHEETPAGE OptionsPage::CreateHandle() {
     // The system would accept a page without a template and fail to show it later.
@@ -46,7 +51,7 @@ HPROPSHEETPAGE OptionsPage::CreateHandle() {
 
 bool OptionsPage::OnInit() {
     CDiarySettings& shared = GetDiarySettings();
-    if (EditsShared()) shared.Load();  // Another page may have changed it.
+    if (rows_.HasSharedRows()) shared.Load();  // Another page may have changed it.
     ProductKeyValues values;
     rows_.Load(*this, values, shared);
     OnLoad(values);
@@ -62,7 +67,7 @@ bool OptionsPage::OnApply() {
         rows_.Save(*this, values, shared);
         OnSave(values);
     }
-    if (EditsShared()) shared.Save();
+    if (rows_.HasSharedRows()) shared.Save();
     return true;
 }
 
@@ -73,8 +78,6 @@ bool OptionsPage::OnCommand(int, int code) {
     }
     return false;
 }
-
-void OptionsPage::OnHelp() { LaunchHelp((std::wstring(L"options_") + anchor_).c_str()); }
 
 std::optional<INT_PTR> OptionsPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NOTIFY) {
@@ -100,7 +103,7 @@ std::optional<INT_PTR> OptionsPage::OnPageNotification(const NMHDR& header) {
     switch (header.code) {
         case PSN_SETACTIVE: return Answer(OnSetActive() ? 0 : -1);
         case PSN_APPLY: return Answer(OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE);
-        case PSN_HELP: OnHelp(); return Answer(0);
+        case PSN_HELP: ShowHelp(); return Answer(0);
         case PSN_KILLACTIVE:
         case PSN_RESET:
         case PSN_WIZBACK:
@@ -120,6 +123,8 @@ void OptionsPage::SetChecked(int control, bool checked) {
 }
 
 void OptionsPage::Enable(int control, bool enabled) { EnableWindow(Item(control), enabled); }
+
+void OptionsPage::Remove(int control) { DestroyWindow(Item(control)); }
 
 void OptionsPage::AddItem(int control, unsigned label, std::int32_t value) {
     AddItem(control, GetLanguageTable().LoadString(label), value);

@@ -2,24 +2,25 @@
 
 #include <prsht.h>
 
+#include <memory>
 #include <optional>
-#include <vector>
+#include <string>
 
-#include "app/sheets/page_rows.h"
+#include "app/sheets/page_description.h"
 #include "controls/full_screen_dialog.h"
 
-// One page of an options sheet. A page names its template, its help anchor and its rows; what does
-// not fit a row it adds by overriding OnLoad, OnSave and OnUpdate.
+// One page of an options sheet, which shows and stores the rows of its description. What does not
+// fit a row a page adds by overriding OnLoad, OnSave and OnUpdate.
 class OptionsPage : public FullScreenDialog, protected PageControls {
   public:
+    // The description must outlive the page.
+    explicit OptionsPage(const PageDescription& description);
+
     // The record by which a property sheet creates the page, which must outlive the sheet; null
     // when the resource library lacks its template.
     HPROPSHEETPAGE CreateHandle();
 
   protected:
-    // `anchor` without the "options_" that all pages' anchors begin with.
-    OptionsPage(unsigned templateId, const wchar_t* anchor, std::vector<Row> rows);
-
     virtual bool OnSetActive() { return true; }
     // Validates and stores; false keeps the sheet open on this page.
     virtual bool OnApply();
@@ -33,17 +34,15 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     virtual std::optional<INT_PTR> OnControlNotification(const NMHDR&) { return std::nullopt; }
     // What OnApply answers when a control holds what cannot be stored: says why and goes there.
     bool Refuse(int control, const std::wstring& reason);
-    // Whether OnSave changes members of the shared settings that no row names.
-    virtual bool EditsShared() const { return rows_.HasSharedRows(); }
 
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
-    void OnHelp() override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     bool IsChecked(int control) const override;
     void SetChecked(int control, bool checked) override;
     void Enable(int control, bool enabled) override;
+    void Remove(int control) override;
     void AddItem(int control, unsigned label, std::int32_t value) override;
     void AddItem(int control, const std::wstring& text, std::int32_t value);
     int Selection(int control) const override;
@@ -55,6 +54,14 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
   private:
     std::optional<INT_PTR> OnPageNotification(const NMHDR& header);
 
-    const wchar_t* anchor_;
     PageRows rows_;
 };
+
+// For descriptions: makes a page of a class of its own.
+template <typename Page>
+std::unique_ptr<OptionsPage> MakePage(const PageDescription& description) {
+    return std::make_unique<Page>(description);
+}
+
+// The page that a description describes.
+std::unique_ptr<OptionsPage> MakeDescribedPage(const PageDescription& description);

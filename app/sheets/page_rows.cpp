@@ -1,7 +1,6 @@
 #include "app/sheets/page_rows.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -39,8 +38,13 @@ void Show(PageControls& controls, const Row& row, std::int32_t number) {
                                   IndexOfText(controls, row.control, std::to_wstring(number)));
             break;
         case Row::Kind::kChoice: FillChoices(controls, row.control, row.choices, number); break;
-        case Row::Kind::kNoValue: break;
+        case Row::Kind::kNoValue:
+        case Row::Kind::kOwn: break;
     }
+}
+
+bool HasValue(const Row& row) {
+    return row.kind != Row::Kind::kNoValue && row.kind != Row::Kind::kOwn;
 }
 
 }  // namespace
@@ -60,15 +64,23 @@ std::int32_t ChosenValue(const PageControls& controls, int control, std::int32_t
     return index < 0 ? stored : controls.ItemValue(control, index);
 }
 
-PageRows::PageRows(std::vector<Row> rows) : rows_(std::move(rows)), states_(rows_.size()) {}
-
 void PageRows::Load(PageControls& controls, PageValues& values, const CDiarySettings& shared) {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
         State& state = states_[i];
-        if (row.kind == Row::Kind::kNoValue) continue;
+        state.present = !row.needed || row.needed();
+        if (!state.present) {
+            if (row.removedWithout) {
+                controls.Remove(row.control);
+                continue;
+            }
+            controls.Enable(row.control, false);
+        }
+        if (!HasValue(row)) continue;
+        NumberSetting setting = row.setting;
+        if (!state.present && row.defaultWithout) setting.defaultValue = *row.defaultWithout;
         state.loaded =
-            row.shared ? shared.*row.shared : static_cast<std::int32_t>(values.Read(row.setting));
+            row.shared ? shared.*row.shared : static_cast<std::int32_t>(values.Read(setting));
         Show(controls, row, state.loaded);
     }
 }
@@ -91,7 +103,8 @@ std::int32_t PageRows::Edited(const PageControls& controls, std::size_t index) c
             return NumberOf(controls.ItemText(row.control, selection), state.loaded);
         }
         case Row::Kind::kChoice: return ChosenValue(controls, row.control, state.loaded);
-        case Row::Kind::kNoValue: break;
+        case Row::Kind::kNoValue:
+        case Row::Kind::kOwn: break;
     }
     return state.loaded;
 }
@@ -100,7 +113,7 @@ void PageRows::Save(const PageControls& controls, PageValues& values,
                     CDiarySettings& shared) const {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
-        if (row.kind == Row::Kind::kNoValue) continue;
+        if (!HasValue(row) || (row.removedWithout && !states_[i].present)) continue;
         if (row.whileOff == Row::WhileOff::kKeptAndNotStored && !states_[i].enabled) continue;
         const std::int32_t number = Edited(controls, i);
         if (row.shared) {
@@ -115,7 +128,7 @@ void PageRows::UpdateEnabled(PageControls& controls) {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
         State& state = states_[i];
-        if (!row.enabledBy) continue;
+        if (!row.enabledBy || !state.present) continue;
         const bool enabled = controls.IsChecked(row.enabledBy) == row.enablingState;
         if (row.whileOff != Row::WhileOff::kShown && enabled != state.enabled) {
             if (!enabled) state.keptChecked = controls.IsChecked(row.control);
@@ -127,5 +140,6 @@ void PageRows::UpdateEnabled(PageControls& controls) {
 }
 
 bool PageRows::HasSharedRows() const {
-    return std::any_of(rows_.begin(), rows_.end(), [](const Row& row) { return row.shared; });
+    return std::any_of(rows_.begin(), rows_.end(),
+                       [](const Row& row) { return row.shared || row.pattern; });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ class PageControls {
     virtual bool IsChecked(int control) const = 0;
     virtual void SetChecked(int control, bool checked) = 0;
     virtual void Enable(int control, bool enabled) = 0;
+    virtual void Remove(int control) = 0;
     virtual void AddItem(int control, unsigned label, std::int32_t value) = 0;
     virtual int Selection(int control) const = 0;  // -1: none
     virtual void SetSelection(int control, int index) = 0;
@@ -24,12 +26,14 @@ class PageControls {
     virtual std::wstring ItemText(int control, int index) const = 0;
 };
 
-// What rows need of the product key.
+// What rows and pages need of the product key.
 class PageValues {
   public:
     virtual ~PageValues() = default;
     virtual std::uint32_t Read(const NumberSetting& setting) = 0;
+    virtual std::wstring Read(const TextSetting& setting) = 0;
     virtual void Write(const NumberSetting& setting, std::uint32_t value) = 0;
+    virtual void Write(const TextSetting& setting, const std::wstring& text) = 0;
 };
 
 // One control of a page and the number it edits: a value of the product key or a member of the
@@ -41,7 +45,8 @@ struct Row {
         kIndex,          // the index in a fixed list
         kNumberText,     // the number that the text of a fixed list's entry is
         kChoice,         // a value/label list, filled from `choices`
-        kNoValue,        // only enabled and disabled: a label, or a control the page itself loads
+        kNoValue,        // a label, which is only enabled and disabled
+        kOwn,            // the page's own code shows and stores it; the row says what it edits
     };
 
     Kind kind;
@@ -49,12 +54,19 @@ struct Row {
     NumberSetting setting = {};  // without a name: shared
     std::int32_t CDiarySettings::*shared = nullptr;
     const ValueLabel* choices = nullptr;
+    DisplayPattern CDiarySettings::*pattern = nullptr;  // only of kOwn, like `text`
+    TextSetting text = {};
     int enabledBy = 0;          // the check box that enables the control; 0: always enabled
     bool enablingState = true;  // the state of that check box in which the control is enabled
     // What becomes of a check box while it is disabled. Both kinds of kept boxes show empty then,
     // and come back with their mark; meanwhile the number as it was loaded is stored, or nothing.
     enum class WhileOff { kShown, kKeptAndStored, kKeptAndNotStored };
     WhileOff whileOff = WhileOff::kShown;
+    // What the device must have for the control to be of use; null: nothing. Without it the control
+    // is greyed or is not there at all, in which case the number is left alone.
+    bool (*needed)() = nullptr;
+    bool removedWithout = false;
+    std::optional<std::uint32_t> defaultWithout = {};  // instead of the setting's
 
     constexpr Row EnabledBy(int checkBox) const {
         Row row = *this;
@@ -69,6 +81,18 @@ struct Row {
     constexpr Row KeptWhileOff(int checkBox) const {
         Row row = EnabledBy(checkBox);
         row.whileOff = WhileOff::kKeptAndStored;
+        return row;
+    }
+    constexpr Row GreyedWithout(bool (*present)(),
+                                std::optional<std::uint32_t> defaultValue = {}) const {
+        Row row = *this;
+        row.needed = present;
+        row.defaultWithout = defaultValue;
+        return row;
+    }
+    constexpr Row RemovedWithout(bool (*present)()) const {
+        Row row = GreyedWithout(present);
+        row.removedWithout = true;
         return row;
     }
     // Also, nothing of it is stored meanwhile.
@@ -109,6 +133,20 @@ constexpr Row Choice(int control, std::int32_t CDiarySettings::*shared, const Va
     return {Row::Kind::kChoice, control, {}, shared, choices};
 }
 constexpr Row NoValue(int control) { return {Row::Kind::kNoValue, control}; }
+// A control that edits several values has a row for each; one that edits none, a row without.
+constexpr Row Own(int control) { return {Row::Kind::kOwn, control}; }
+constexpr Row Own(int control, NumberSetting setting) {
+    return {Row::Kind::kOwn, control, setting};
+}
+constexpr Row Own(int control, TextSetting text) {
+    return {Row::Kind::kOwn, control, {}, nullptr, nullptr, nullptr, text};
+}
+constexpr Row Own(int control, std::int32_t CDiarySettings::*shared) {
+    return {Row::Kind::kOwn, control, {}, shared};
+}
+constexpr Row Own(int control, DisplayPattern CDiarySettings::*pattern) {
+    return {Row::Kind::kOwn, control, {}, nullptr, nullptr, pattern};
+}
 
 }  // namespace rows
 
@@ -122,7 +160,8 @@ std::int32_t ChosenValue(const PageControls& controls, int control, std::int32_t
 // The rows of one page while it is open.
 class PageRows {
   public:
-    explicit PageRows(std::vector<Row> rows);
+    // The rows must outlive the object.
+    explicit PageRows(std::span<const Row> rows) : rows_(rows), states_(rows.size()) {}
 
     // Shows the stored numbers, in the order of the rows: a first read creates the value.
     void Load(PageControls& controls, PageValues& values, const CDiarySettings& shared);
@@ -137,10 +176,11 @@ class PageRows {
         std::int32_t loaded = 0;   // the number as it was loaded
         bool keptChecked = false;  // of a row kept while off: the mark that comes back
         bool enabled = true;
+        bool present = true;  // what the row needs of the device
     };
 
     std::int32_t Edited(const PageControls& controls, std::size_t index) const;
 
-    std::vector<Row> rows_;
+    std::span<const Row> rows_;
     std::vector<State> states_;
 };

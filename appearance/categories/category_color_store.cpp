@@ -5,10 +5,7 @@
 
 namespace {
 
-CSettingsKey OpenColors() {
-    const std::wstring path = std::wstring(kProductKey) + L"\\Colors";
-    return CSettingsKey(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
-}
+CSettingsKey OpenColors() { return OpenProductKey(settings::keys::CategoryColors); }
 
 }  // namespace
 

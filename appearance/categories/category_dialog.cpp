@@ -7,7 +7,7 @@
 #include "appearance/categories/icon_chooser.h"
 #include "appearance/categories/icon_library.h"
 #include "base/scale.h"
-#include "controls/launch_help.h"
+#include "controls/focus_keeper.h"
 #include "resources/ids.h"
 
 namespace {
@@ -22,8 +22,6 @@ constexpr int kLowestList = 48;
 // The slider's positions stand for steps of intensity.
 constexpr int kLastStep = 4;
 constexpr int kFullIntensity = 100;
-
-constexpr int kTextLength = 256;
 
 int StepOf(int intensity) { return intensity * kLastStep / kFullIntensity; }
 
@@ -41,7 +39,8 @@ void DrawIcon(HDC dc, HBITMAP icon, const RECT& cell) {
 
 }  // namespace
 
-CategoryDialog::CategoryDialog() : FullScreenDialog(IDD_CATEGORY_ICONS) {}
+CategoryDialog::CategoryDialog()
+    : FullScreenDialog(IDD_CATEGORY_ICONS, L"options_category_icons_main", Band::kOwnTitle) {}
 
 bool CategoryDialog::OnInitDialog() {
     const bool systemFocus = FullScreenDialog::OnInitDialog();
@@ -63,14 +62,6 @@ bool CategoryDialog::OnInit() {
     categories_.AddListener(this);
     return false;
 }
-
-std::wstring CategoryDialog::BandTitle() const {
-    wchar_t title[kTextLength] = {};
-    GetWindowTextW(hwnd(), title, kTextLength);
-    return title;
-}
-
-void CategoryDialog::OnHelp() { LaunchHelp(L"options_category_icons_main"); }
 
 // The list takes what the controls below it leave of the screen.
 void CategoryDialog::FitListToScreen() {
@@ -165,7 +156,7 @@ int CategoryDialog::SelectedCategory() const {
 void CategoryDialog::UpdateControls() {
     const int selected = SelectedCategory();
     const COLORREF color = categories_.GetColor(selected);
-    const HWND focus = GetFocus();
+    const FocusKeeper keeper(hwnd(), IDC_CATEGORY_LIST);
     EnableWindow(Item(IDC_CATEGORY_CHOOSE), selected >= 0);
     EnableWindow(Item(IDC_CATEGORY_REMOVE), selected >= 0 && categories_.GetIcon(selected));
     color_.SetColor(color);
@@ -173,11 +164,6 @@ void CategoryDialog::UpdateControls() {
     const HWND slider = Item(IDC_CATEGORY_INTENSITY);
     SendMessageW(slider, TBM_SETPOS, TRUE, StepOf(std::max(0, categories_.GetIntensity(selected))));
     EnableWindow(slider, color != kNoColor);
-    // The keys must not stay with a control that can no longer be used.
-    if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
-        SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_CATEGORY_LIST)),
-                     TRUE);
-    }
 }
 
 void CategoryDialog::Refresh() {

@@ -20,8 +20,6 @@ class CategoryDialog : public FullScreenDialog, private CategoryListener {
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
-    void OnHelp() override;
-    std::wstring BandTitle() const override;
 
   private:
     void OnCategoryChange(CategoryChange change, int index) override;

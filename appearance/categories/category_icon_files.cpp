@@ -15,8 +15,7 @@ constexpr std::uint32_t kAgendaFusion = 1;
 constexpr std::uint32_t kPocketInformant = 2;
 
 std::wstring ReadFolder() {
-    const NumberSetting& setting = settings::CurrentPIM;
-    switch (OpenProductKey().ReadDword(setting.name, setting.defaultValue)) {
+    switch (OpenProductKey().Read(settings::CurrentPIM)) {
         case kAgendaFusion:
             return ReadText(HKEY_LOCAL_MACHINE, kAgendaFusionKey, L"Core.Categories");
         case kPocketInformant:

@@ -11,7 +11,6 @@
 #include "base/owned_handle.h"
 #include "base/scale.h"
 #include "base/wait_cursor.h"
-#include "controls/launch_help.h"
 #include "resources/ids.h"
 #include "settings/catalogue.h"
 #include "settings/settings_key.h"
@@ -33,11 +32,10 @@ void PaintMark(HDC dc, const RECT& area, bool expanded) {
 }  // namespace
 
 IconChooser::IconChooser(std::wstring category)
-    : FullScreenDialog(IDD_ICON_CHOOSER), category_(std::move(category)) {}
+    : FullScreenDialog(IDD_ICON_CHOOSER, L"options_category_icons_chooser"),
+      category_(std::move(category)) {}
 
 unsigned IconChooser::MenuBarId() const { return IDM_ICON_CHOOSER; }
-
-void IconChooser::OnHelp() { LaunchHelp(L"options_category_icons_chooser"); }
 
 std::wstring IconChooser::BandTitle() const {
     return FillIn(GetLanguageTable().LoadString(IDS_ICON_FOR), {category_});
@@ -52,8 +50,7 @@ bool IconChooser::OnInit() {
 bool IconChooser::OnInitDialog() {
     FullScreenDialog::OnInitDialog();
     SetFocus(list_.hwnd());
-    const std::uint32_t source =
-        OpenProductKey().ReadDword(settings::IconSetId.name, settings::IconSetId.defaultValue);
+    const std::uint32_t source = OpenProductKey().Read(settings::IconSetId);
     if (const auto folders = sources_->Show(static_cast<std::int32_t>(source))) Load(*folders);
     return false;
 }
@@ -71,8 +68,8 @@ bool IconChooser::OnCommand(int id, int code) {
             if (code == kIconsListActivated) PostMessageW(hwnd(), WM_COMMAND, IDOK, 0);
             return true;
         case IDOK:
-            OpenProductKey().WriteDword(settings::IconSetId.name,
-                                        static_cast<std::uint32_t>(sources_->shown().value_or(0)));
+            OpenProductKey().Write(settings::IconSetId,
+                                   static_cast<std::uint32_t>(sources_->shown().value_or(0)));
             if (const std::wstring* const selected = list_.SelectedPath()) path_ = *selected;
             break;
     }

@@ -24,7 +24,6 @@ class IconChooser : public FullScreenDialog {
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void OnHelp() override;
     unsigned MenuBarId() const override;
     std::wstring BandTitle() const override;
     HWND FillingControl() const override { return list_.hwnd(); }

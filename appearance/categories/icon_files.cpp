@@ -18,8 +18,6 @@ constexpr std::array kPocketInformantKeys = {
     L"\\Software\\WebIS\\PocketInformant\\Menus\\PictureChooser\\MRU",
 };
 
-std::wstring RememberedKey() { return std::wstring(kProductKey) + L"\\IconSets"; }
-
 std::wstring PocketInformantFolder() {
     for (const wchar_t* const path : kPocketInformantKeys) {
         const std::wstring folder = ReadText(HKEY_CURRENT_USER, path, L"0");
@@ -77,7 +75,7 @@ std::vector<std::wstring> FindFixedIconSources() {
 }
 
 RememberedFolders ReadRememberedFolders() {
-    CSettingsKey key(HKEY_LOCAL_MACHINE, RememberedKey().c_str(), true, true);
+    CSettingsKey key = OpenProductKey(settings::keys::IconFolders);
     std::vector<std::wstring> names;
     std::wstring name;
     for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
@@ -92,7 +90,7 @@ RememberedFolders ReadRememberedFolders() {
 }
 
 void WriteRememberedFolders(const RememberedFolders& remembered) {
-    CSettingsKey key(HKEY_LOCAL_MACHINE, RememberedKey().c_str(), true, true);
+    CSettingsKey key = OpenProductKey(settings::keys::IconFolders);
     for (std::size_t i = 0; i < remembered.folders().size(); ++i) {
         key.WriteString(std::to_wstring(i + 1).c_str(), remembered.folders()[i].c_str());
     }

@@ -2,12 +2,9 @@
 
 #include "base/find_files.h"
 #include "base/wait_cursor.h"
-#include "controls/launch_help.h"
 #include "resources/ids.h"
 
 namespace {
-
-constexpr int kTitleLength = 256;
 
 // Calls `action(name)` for each folder in a folder until it says false. Names that begin with a dot
 // are those of the folder itself, of the one above, and hidden ones.
@@ -29,15 +26,8 @@ bool HasFolders(const std::wstring& path) {
 
 }  // namespace
 
-IconFolderDialog::IconFolderDialog() : FullScreenDialog(IDD_ICON_FOLDERS) {}
-
-void IconFolderDialog::OnHelp() { LaunchHelp(L"options_category_icons_chooser"); }
-
-std::wstring IconFolderDialog::BandTitle() const {
-    wchar_t title[kTitleLength] = {};
-    GetWindowTextW(hwnd(), title, kTitleLength);
-    return title;
-}
+IconFolderDialog::IconFolderDialog()
+    : FullScreenDialog(IDD_ICON_FOLDERS, L"options_category_icons_chooser", Band::kOwnTitle) {}
 
 HWND IconFolderDialog::Tree() const { return Item(IDC_FOLDER_TREE); }
 

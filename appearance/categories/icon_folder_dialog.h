@@ -22,8 +22,6 @@ class IconFolderDialog : public FullScreenDialog {
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void OnHelp() override;
-    std::wstring BandTitle() const override;
     HWND FillingControl() const override { return Tree(); }
 
   private:

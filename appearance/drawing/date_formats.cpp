@@ -31,16 +31,13 @@ std::wstring CustomLongPicture(int format) {
 
 std::wstring LongDatePicture() {
     CSettingsKey key = OpenProductKey();
-    const auto read = [&key](const NumberSetting& setting) {
-        return key.ReadDword(setting.name, setting.defaultValue);
-    };
-    const bool regional = read(settings::LongDateRegional) != 0;
-    const auto custom = static_cast<int>(read(settings::LongDateCustomFormat));
+    const bool regional = key.Read(settings::LongDateRegional) != 0;
+    const auto custom = static_cast<int>(key.Read(settings::LongDateCustomFormat));
     DatePictureFlags flags;
-    flags.keepYear = read(settings::LongDateNotYear) == 0;
-    flags.shortYear = read(settings::LongDateShortYear) != 0;
-    flags.shortMonth = read(settings::LongDateShortMonth) != 0;
-    flags.shortDay = read(settings::LongDateShortDay) != 0;
+    flags.keepYear = key.Read(settings::LongDateNotYear) == 0;
+    flags.shortYear = key.Read(settings::LongDateShortYear) != 0;
+    flags.shortMonth = key.Read(settings::LongDateShortMonth) != 0;
+    flags.shortDay = key.Read(settings::LongDateShortDay) != 0;
     return BuildDatePicture(regional ? RegionalLongPicture() : CustomLongPicture(custom), flags);
 }
 

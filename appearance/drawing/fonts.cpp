@@ -50,13 +50,10 @@ LOGFONTW Describe(const ListFontSettings& settings) {
 ListFontSettings Stored() {
     CSettingsKey key = OpenProductKey();
     ListFontSettings result;
-    result.face = key.ReadString(settings::FontName.name, settings::FontName.defaultText);
-    result.height = static_cast<std::int32_t>(
-        key.ReadDword(settings::FontHeight.name, settings::FontHeight.defaultValue));
-    result.clearType = key.ReadDword(settings::ClearTypeWhenDrawing.name,
-                                     settings::ClearTypeWhenDrawing.defaultValue);
-    const bool system =
-        key.ReadDword(settings::UseSystem.name, settings::UseSystem.defaultValue) != 0;
+    result.face = key.Read(settings::FontName);
+    result.height = static_cast<std::int32_t>(key.Read(settings::FontHeight));
+    result.clearType = key.Read(settings::ClearTypeWhenDrawing);
+    const bool system = key.Read(settings::UseSystem) != 0;
     return system ? ListFontSettings::OfSystem() : result;
 }
 

@@ -7,7 +7,6 @@
 #include "appearance/drawing/shell_colors.h"
 #include "appearance/drawing/theme_colors.h"
 #include "appearance/drawing/today_background.h"
-#include "appearance/skins/skin_art.h"
 #include "base/owned_handle.h"
 #include "base/scale.h"
 
@@ -108,6 +107,10 @@ void SampleList::AddTitle(std::optional<ItemIcon> icon, const DisplayPattern& pa
         const OwnedBrush brush(CreateSolidBrush(GetApptStatusColor(*look.status)));
         const RECT bar = {row.left, row.top, row.left + ScaleX(kStatusBarWidth), row.bottom};
         FillRect(dc_, &bar, brush.get());
+        if (look.conflicting) {
+            const RECT half = {bar.left, (bar.top + bar.bottom) / 2, bar.right, bar.bottom};
+            FillRect(dc_, &half, theme.GetBrush(ThemeColor::kConflicting));
+        }
     }
     if (icon) DrawIcon(*icon, row.left + ScaleX(kIconLeft), row);
     row.left += ScaleX(icon ? kTextLeft : kIconLeft);
@@ -120,6 +123,11 @@ void SampleList::AddTitle(std::optional<ItemIcon> icon, const DisplayPattern& pa
         pattern.after, [](wchar_t letter) { return IconOf(letter).has_value(); }));
     SkinArt& art = GetSkinArt();
     const int iconWidth = art.Icons() ? static_cast<int>(art.Icons()->PieceSize(0).cx) : 0;
+    for (const SkinIcon mark : look.marks) {
+        row.right -= iconWidth + ScaleX(kGap);
+        DrawIconEx(dc_, row.right, row.top + (rowHeight_ - iconWidth) / 2, art.Icon(mark),
+                   iconWidth, iconWidth, 0, nullptr, DI_NORMAL);
+    }
     RECT text = row;
     text.left += ScaleX(kGap);
     text.right -= icons * iconWidth + ScaleX(kGap);

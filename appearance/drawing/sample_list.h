@@ -4,10 +4,11 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "appearance/drawing/category_color.h"
 #include "appearance/drawing/folding_stripe.h"
-#include "appearance/skins/item_icons.h"
+#include "appearance/skins/skin_art.h"
 #include "settings/title_fields.h"
 
 // How a sample item differs from the usual.
@@ -15,8 +16,10 @@ struct TitleLook {
     bool selected = false;
     bool done = false;                   // struck out
     std::optional<int> status;           // an appointment's, drawn as a bar in its colour
+    bool conflicting = false;            // half of that bar is in the colour of conflicts
     std::optional<CategoryColor> color;  // of its category: the line's background
-    std::wstring details;                // at the right, in grey
+    std::vector<SkinIcon> marks;         // at the right
+    std::wstring details;                // left of them, in grey
 };
 
 // Paints a few sample lines as the diary would show them on the Today screen: headings of groups,

@@ -43,6 +43,5 @@ COLORREF GetShellColor(int index, COLORREF defaultColor) {
 
 COLORREF GetApptStatusColor(int status) {
     if (status < kApptBackground || status > kApptConflicting) return 0;
-    const NumberSetting& setting = *kStatusColors[status - kApptBackground];
-    return OpenProductKey().ReadDword(setting.name, setting.defaultValue);
+    return OpenProductKey().Read(*kStatusColors[status - kApptBackground]);
 }

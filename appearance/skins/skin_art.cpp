@@ -56,9 +56,7 @@ OwnedImageList CutSquares(const BitmapView& view, int size) {
 }  // namespace
 
 std::wstring CurrentSkinName() {
-    CSettingsKey key = OpenProductKey();
-    const std::wstring name =
-        key.ReadString(settings::SkinName.name, settings::SkinName.defaultText);
+    const std::wstring name = OpenProductKey().Read(settings::SkinName);
     return name.empty() ? settings::SkinName.defaultText : name;
 }
 

@@ -1,4 +1,4 @@
-#include "pages/calendar/calendar_common_page.h"
+#include "pages/calendar/calendar_pages.h"
 
 #include "resources/ids.h"
 #include "settings/device.h"
@@ -11,17 +11,14 @@ constexpr Row kRows[] = {
     rows::Check(IDC_COLLAPSE_BUT_TODAY, &CDiarySettings::collapseButToday),
     rows::Check(IDC_MARK_CONFLICTING, &CDiarySettings::markConflicting),
     rows::Check(IDC_GROUP_TODAY, &CDiarySettings::todayGroup),
-    rows::Check(IDC_GROUP_WEATHER, &CDiarySettings::weatherGroup),
+    // Without the sibling plug-in there is no weather to group.
+    rows::Check(IDC_GROUP_WEATHER, &CDiarySettings::weatherGroup)
+        .GreyedWithout(IsWeatherPluginRegistered),
     rows::NumberText(IDC_GROUP_OFFSET, &CDiarySettings::groupOffset),
     rows::NumberText(IDC_GROUP_SPAN, &CDiarySettings::groupSpan),
 };
 
 }  // namespace
 
-CalendarCommonPage::CalendarCommonPage()
-    : OptionsPage(IDD_CALENDAR_COMMON, L"calendar_common", {std::begin(kRows), std::end(kRows)}) {}
-
-// Without the sibling plug-in there is no weather to group.
-void CalendarCommonPage::OnLoad(PageValues&) {
-    Enable(IDC_GROUP_WEATHER, IsWeatherPluginRegistered());
-}
+// How many days the calendar lists, how it counts weeks, its groups.
+constexpr PageDescription kCalendarCommonPage = {IDD_CALENDAR_COMMON, L"calendar_common", kRows};

@@ -1,4 +1,4 @@
-#include "pages/calendar/calendar_tasks_page.h"
+#include "pages/calendar/calendar_pages.h"
 
 #include "resources/ids.h"
 
@@ -20,5 +20,5 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-CalendarTasksPage::CalendarTasksPage()
-    : OptionsPage(IDD_CALENDAR_TASKS, L"calendar_tasks", {std::begin(kRows), std::end(kRows)}) {}
+// What the calendar shows of the tasks.
+constexpr PageDescription kCalendarTasksPage = {IDD_CALENDAR_TASKS, L"calendar_tasks", kRows};

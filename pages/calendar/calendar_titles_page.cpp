@@ -1,8 +1,9 @@
-#include "pages/calendar/calendar_titles_page.h"
+#include "pages/calendar/calendar_pages.h"
 
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
 #include "pages/shared/title_draft.h"
+#include "pages/shared/title_page.h"
 #include "resources/ids.h"
 
 namespace {
@@ -14,6 +15,13 @@ constexpr Row kRows[] = {
     rows::Check(IDC_APP_STATUS_BAR, &CDiarySettings::statusBar),
     rows::Check(IDC_APP_INDENT, &CDiarySettings::appointmentIndent),
     rows::Check(IDC_TIME_SPAN_NEW_STYLE, settings::TimeSpanNewStyle),
+    rows::Own(IDC_TITLE_LIST),
+    rows::Own(IDC_TITLE_FIELDS, &CDiarySettings::appointmentPattern),
+    rows::Own(IDC_TITLE_FIELDS, &CDiarySettings::taskPattern),
+    rows::Own(IDC_TITLE_FIELDS, &CDiarySettings::contactPattern),
+    rows::Own(IDC_TITLE_UP),
+    rows::Own(IDC_TITLE_DOWN),
+    rows::Own(IDC_TITLE_MODE),
 };
 
 // The lists whose titles can be edited, in the order of the drop-down.
@@ -38,10 +46,18 @@ CategoryColor SampleColor() {
     return color;
 }
 
-}  // namespace
+// What the titles of items show, of all three lists, and what the calendar adds to them.
+class CalendarTitlesPage : public TitlePage {
+  public:
+    using TitlePage::TitlePage;
 
-CalendarTitlesPage::CalendarTitlesPage()
-    : TitlePage(IDD_CALENDAR_TITLES, L"calendar_titles", {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    DisplayPattern& Edited() const override;
+    bool OnSetActive() override;
+    void OnLoad(PageValues& values) override;
+    bool OnCommand(int id, int code) override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+};
 
 void CalendarTitlesPage::OnLoad(PageValues& values) {
     for (const TitledList& list : kLists) AddItem(IDC_TITLE_LIST, list.label, 0);
@@ -91,7 +107,13 @@ void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     if (shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_STATUS_BAR)) {
         first.status = kBusy;
         second.status = kTentative;
+        second.conflicting = GetDiarySettings().markConflicting != 0;
     }
     list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_LONG_SUBJECT), first);
     list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_APPOINTMENT), second);
 }
+
+}  // namespace
+
+constexpr PageDescription kCalendarTitlesPage = {IDD_CALENDAR_TITLES, L"calendar_titles", kRows,
+                                                 MakePage<CalendarTitlesPage>};

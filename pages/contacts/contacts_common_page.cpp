@@ -1,5 +1,7 @@
-#include "pages/contacts/contacts_common_page.h"
+#include "pages/contacts/contacts_pages.h"
 
+#include "app/sheets/options_page.h"
+#include "pages/shared/layout_drop_down.h"
 #include "resources/ids.h"
 
 namespace {
@@ -11,13 +13,24 @@ constexpr Row kRows[] = {
         .EnabledBy(IDC_CONTACT_PHOTOS),
     rows::Index(IDC_CONTACT_ONE_TAP, &CDiarySettings::contactOneTap),
     rows::Check(IDC_CONTACTS_ALL_CATEGORIES, &CDiarySettings::contactsAllCategories),
+    rows::Own(IDC_CONTACT_LAYOUT, settings::TabLayouts),
+    rows::Own(IDC_CONTACT_LAYOUT, settings::TabLayoutActive),
+    rows::Own(IDC_CONTACT_LAYOUT, &CDiarySettings::keypadNoLanguageSwitch),
 };
 
-}  // namespace
+// How the contacts tab groups its contacts, which it shows, and how they are reached.
+class ContactsCommonPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-ContactsCommonPage::ContactsCommonPage()
-    : OptionsPage(IDD_CONTACTS_COMMON, L"contacts_common", {std::begin(kRows), std::end(kRows)}),
-      layouts_(IDC_CONTACT_LAYOUT, L"Contacts") {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    bool OnCommand(int id, int code) override;
+
+  private:
+    LayoutDropDown layouts_{IDC_CONTACT_LAYOUT, L"Contacts"};
+};
 
 void ContactsCommonPage::OnLoad(PageValues&) { layouts_.Load(hwnd()); }
 
@@ -27,3 +40,8 @@ bool ContactsCommonPage::OnCommand(int id, int code) {
     layouts_.OnCommand(id, code);
     return OptionsPage::OnCommand(id, code);
 }
+
+}  // namespace
+
+constexpr PageDescription kContactsCommonPage = {IDD_CONTACTS_COMMON, L"contacts_common", kRows,
+                                                 MakePage<ContactsCommonPage>};

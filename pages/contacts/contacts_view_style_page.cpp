@@ -1,9 +1,12 @@
-#include "pages/contacts/contacts_view_style_page.h"
+#include "pages/contacts/contacts_pages.h"
 
+#include <vector>
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
 #include "pages/shared/title_draft.h"
+#include "pages/shared/title_page.h"
 #include "resources/ids.h"
+#include "settings/contact_name.h"
 
 namespace {
 
@@ -13,6 +16,9 @@ constexpr Row kRows[] = {
     rows::Check(IDC_CONTACT_SEARCH_COMPANY, &CDiarySettings::contactSearchCompany),
     rows::Check(IDC_CONTACT_COMPANY_NO_CASE, &CDiarySettings::contactGroupCompanyNoCase),
     rows::Index(IDC_CONTACT_ADDRESS, &CDiarySettings::contactAddressMode),
+    rows::Own(IDC_TITLE_FIELDS, &CDiarySettings::contactPattern),
+    rows::Own(IDC_TITLE_UP),
+    rows::Own(IDC_TITLE_DOWN),
 };
 
 constexpr int kLines = 5;  // of the preview
@@ -39,11 +45,20 @@ std::vector<PreviewedContact> SampleContacts() {
     return {PreviewedContact(anna), PreviewedContact(peter), PreviewedContact(bakery)};
 }
 
-}  // namespace
+// How contacts are named and shown.
+class ContactsViewStylePage : public TitlePage {
+  public:
+    using TitlePage::TitlePage;
 
-ContactsViewStylePage::ContactsViewStylePage()
-    : TitlePage(IDD_CONTACTS_VIEW_STYLE, L"contacts_view_style",
-                {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    DisplayPattern& Edited() const override;
+    void OnLoad(PageValues& values) override;
+    void OnUpdate() override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  private:
+    std::vector<PreviewedContact> samples_;
+};
 
 DisplayPattern& ContactsViewStylePage::Edited() const { return GetTitleDraft().contact; }
 
@@ -88,3 +103,8 @@ void ContactsViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         }
     }
 }
+
+}  // namespace
+
+constexpr PageDescription kContactsViewStylePage = {IDD_CONTACTS_VIEW_STYLE, L"contacts_view_style",
+                                                    kRows, MakePage<ContactsViewStylePage>};

@@ -1,10 +1,11 @@
-#include "pages/general/general_common_page.h"
+#include "pages/general/general_pages.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "base/fill_in.h"
 #include "settings/device.h"
 #include "settings/registration.h"
@@ -15,6 +16,9 @@ constexpr Row kRows[] = {
     rows::Index(IDC_HEADER_STATE, settings::HeaderMinimized),
     rows::Check(IDC_ALLOW_MINIMIZATION, settings::AllowMinimization),
     rows::Check(IDC_AUTO_SIZE, settings::AutoSizeAdjust),
+    rows::Own(IDC_HEIGHT, settings::TotalHeight),
+    rows::Own(IDC_HEIGHT, settings::TotalHeightLandscape),
+    rows::Own(IDC_PIM, settings::CurrentPIM),
 };
 
 constexpr int kHeaderHidden = 2;
@@ -32,10 +36,23 @@ constexpr Pim kPims[] = {
     {3, IDS_PIM_AGENDA_ONE, IsAgendaOnePresent},
 };
 
-}  // namespace
+// The diary's size on the Today screen, and the program whose data it shows.
+class GeneralCommonPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralCommonPage::GeneralCommonPage()
-    : OptionsPage(IDD_GENERAL_COMMON, L"general_common", {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    void OnUpdate() override;
+    bool OnApply() override;
+
+  private:
+    void FillPims(std::int32_t current);
+
+    int smallest_ = 0;  // pixels
+    bool landscape_ = false;
+};
 
 void GeneralCommonPage::OnLoad(PageValues& values) {
     smallest_ = SmallestHeight(values.Read(settings::ShowTabs),
@@ -43,7 +60,7 @@ void GeneralCommonPage::OnLoad(PageValues& values) {
     landscape_ = GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN);
     int shown = smallest_;
     for (const bool landscape : {false, true}) {
-        const NumberSetting setting = settings::TotalHeight(landscape, smallest_);
+        const NumberSetting setting = settings::HeightFor(landscape, smallest_);
         auto height = static_cast<std::int32_t>(values.Read(setting));
         if (height < smallest_) {
             height = smallest_;
@@ -90,7 +107,12 @@ bool GeneralCommonPage::OnApply() {
 }
 
 void GeneralCommonPage::OnSave(PageValues& values) {
-    values.Write(settings::TotalHeight(landscape_, smallest_),
+    values.Write(settings::HeightFor(landscape_, smallest_),
                  GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
     values.Write(settings::CurrentPIM, static_cast<std::uint32_t>(ChosenValue(*this, IDC_PIM, 0)));
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralCommonPage = {IDD_GENERAL_COMMON, L"general_common", kRows,
+                                                MakePage<GeneralCommonPage>};

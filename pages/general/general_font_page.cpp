@@ -1,18 +1,19 @@
-#include "pages/general/general_font_page.h"
+#include "pages/general/general_pages.h"
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
+#include "appearance/drawing/fonts.h"
 #include "base/scale.h"
-#include "settings/settings_key.h"
 
 namespace {
 
 constexpr Row kRows[] = {
     rows::Check(IDC_FONT_SYSTEM, settings::UseSystem),
-    rows::NoValue(IDC_FONT_FACE).DisabledBy(IDC_FONT_SYSTEM),
+    rows::Own(IDC_FONT_FACE, settings::FontName).DisabledBy(IDC_FONT_SYSTEM),
     rows::NoValue(IDC_FONT_FACE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
-    rows::NoValue(IDC_FONT_SIZE).DisabledBy(IDC_FONT_SYSTEM),
+    rows::Own(IDC_FONT_SIZE, settings::FontHeight).DisabledBy(IDC_FONT_SYSTEM),
     rows::NoValue(IDC_FONT_SIZE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
-    rows::NoValue(IDC_FONT_CLEARTYPE).DisabledBy(IDC_FONT_SYSTEM),
+    rows::Own(IDC_FONT_CLEARTYPE, settings::ClearTypeOnPage).DisabledBy(IDC_FONT_SYSTEM),
     rows::NoValue(IDC_FONT_CLEARTYPE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
 };
 constexpr int kSampleMargin = 4;
@@ -28,18 +29,35 @@ int CALLBACK AddFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM lis
     return 1;
 }
 
-}  // namespace
+// The font of the lists.
+class GeneralFontPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralFontPage::GeneralFontPage()
-    : OptionsPage(IDD_GENERAL_FONT, L"general_font", {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    void OnUpdate() override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+    bool OnCommand(int id, int code) override;
+    std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void FillFaces();
+    void ShowFont();
+    void FollowSystem();
+
+    ListFontSettings current_;
+    OwnedFont preview_;
+    UINT metricsMessage_ = 0;
+};
 
 void GeneralFontPage::OnLoad(PageValues& values) {
     metricsMessage_ = RegisterWindowMessageW(L"SH_UIMETRIC_CHANGE");
     FillFaces();
     current_.clearType = values.Read(settings::ClearTypeOnPage);
     current_.height = static_cast<std::int32_t>(values.Read(settings::FontHeight));
-    current_.face =
-        OpenProductKey().ReadString(settings::FontName.name, settings::FontName.defaultText);
+    current_.face = values.Read(settings::FontName);
     SetDlgItemTextW(hwnd(), IDC_FONT_EXPLANATION,
                     GetLanguageTable().LoadString(IDS_FONT_EXPLANATION).c_str());
     if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem();
@@ -102,7 +120,7 @@ void GeneralFontPage::OnSave(PageValues& values) {
     FollowSystem();
     values.Write(settings::ClearTypeOnPage, current_.clearType);
     values.Write(settings::FontHeight, static_cast<std::uint32_t>(current_.height));
-    OpenProductKey().WriteString(settings::FontName.name, current_.face.c_str());
+    values.Write(settings::FontName, current_.face);
     ResetListFonts();
 }
 
@@ -124,3 +142,8 @@ std::optional<INT_PTR> GeneralFontPage::OnMessage(UINT message, WPARAM wParam, L
     }
     return OptionsPage::OnMessage(message, wParam, lParam);
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralFontPage = {IDD_GENERAL_FONT, L"general_font", kRows,
+                                              MakePage<GeneralFontPage>};

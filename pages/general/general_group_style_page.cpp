@@ -1,6 +1,7 @@
-#include "pages/general/general_group_style_page.h"
+#include "pages/general/general_pages.h"
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "appearance/drawing/date_formats.h"
 #include "appearance/drawing/sample_list.h"
 
@@ -16,11 +17,15 @@ constexpr Row kRows[] = {
     rows::Check(IDC_DOUBLE_TAP_SCROLL, &CDiarySettings::doubleTapOnScrollButton),
 };
 
-}  // namespace
+// How the headings of groups look, and what taps do.
+class GeneralGroupStylePage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralGroupStylePage::GeneralGroupStylePage()
-    : OptionsPage(IDD_GENERAL_GROUP_STYLE, L"general_group_style",
-                  {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnUpdate() override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+};
 
 void GeneralGroupStylePage::OnUpdate() { InvalidateRect(Item(IDC_STRIPE_PREVIEW), nullptr, TRUE); }
 
@@ -37,3 +42,8 @@ void GeneralGroupStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     if (IsChecked(IDC_STRIPE_HIDE_EMPTY)) return;
     list.AddGroup(texts.LoadString(IDS_SAMPLE_EMPTY_GROUP), 0, stripe);
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralGroupStylePage = {IDD_GENERAL_GROUP_STYLE, L"general_group_style",
+                                                    kRows, MakePage<GeneralGroupStylePage>};

@@ -1,25 +1,36 @@
-#include "pages/general/general_long_date_page.h"
+#include "pages/general/general_pages.h"
 
 #include <algorithm>
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "appearance/drawing/date_formats.h"
 
 namespace {
 
 constexpr Row kRows[] = {
     rows::Check(IDC_LONG_REGIONAL, settings::LongDateRegional),
+    rows::Own(IDC_LONG_FORMAT, settings::LongDateCustomFormat),
     rows::Check(IDC_LONG_NOT_YEAR, settings::LongDateNotYear),
     rows::Check(IDC_LONG_SHORT_YEAR, settings::LongDateShortYear).KeptWhileOn(IDC_LONG_NOT_YEAR),
     rows::Check(IDC_LONG_SHORT_MONTH, settings::LongDateShortMonth),
     rows::Check(IDC_LONG_SHORT_DAY, settings::LongDateShortDay),
 };
 
-}  // namespace
+// How the headings of days look.
+class GeneralLongDatePage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralLongDatePage::GeneralLongDatePage()
-    : OptionsPage(IDD_GENERAL_LONG_DATE, L"general_long_date",
-                  {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    void OnUpdate() override;
+
+  private:
+    int customFormat_ = 0;      // remembered while the list shows the device's own format
+    bool listsCustom_ = false;  // whether the list shows the custom formats
+};
 
 void GeneralLongDatePage::OnLoad(PageValues& values) {
     const auto stored = static_cast<std::int32_t>(values.Read(settings::LongDateCustomFormat));
@@ -53,3 +64,8 @@ void GeneralLongDatePage::OnSave(PageValues& values) {
     if (format < 0) return;  // A stored format that the list does not have stays.
     values.Write(settings::LongDateCustomFormat, static_cast<std::uint32_t>(format));
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralLongDatePage = {IDD_GENERAL_LONG_DATE, L"general_long_date",
+                                                  kRows, MakePage<GeneralLongDatePage>};

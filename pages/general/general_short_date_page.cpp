@@ -1,6 +1,7 @@
-#include "pages/general/general_short_date_page.h"
+#include "pages/general/general_pages.h"
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "appearance/drawing/date_formats.h"
 
 namespace {
@@ -10,11 +11,15 @@ constexpr Row kRows[] = {
     rows::Check(IDC_SHORT_SHORT_YEAR, settings::ShortDateShortYear).KeptWhileOn(IDC_SHORT_NOT_YEAR),
 };
 
-}  // namespace
+// How dates inside lines look.
+class GeneralShortDatePage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralShortDatePage::GeneralShortDatePage()
-    : OptionsPage(IDD_GENERAL_SHORT_DATE, L"general_short_date",
-                  {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnUpdate() override;
+};
 
 void GeneralShortDatePage::OnLoad(PageValues&) {
     SetDlgItemTextW(hwnd(), IDC_SHORT_EXPLANATION,
@@ -26,3 +31,8 @@ void GeneralShortDatePage::OnUpdate() {
         ShortDatePicture(!IsChecked(IDC_SHORT_NOT_YEAR), IsChecked(IDC_SHORT_SHORT_YEAR));
     SetDlgItemTextW(hwnd(), IDC_SHORT_SAMPLE, FormatToday(picture).c_str());
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralShortDatePage = {IDD_GENERAL_SHORT_DATE, L"general_short_date",
+                                                   kRows, MakePage<GeneralShortDatePage>};

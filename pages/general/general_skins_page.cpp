@@ -1,6 +1,8 @@
-#include "pages/general/general_skins_page.h"
+#include "pages/general/general_pages.h"
 
+#include <string>
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "appearance/skins/skin_art.h"
 #include "appearance/skins/skin_list.h"
 #include "base/find_files.h"
@@ -11,13 +13,29 @@
 
 namespace {
 
+constexpr Row kRows[] = {rows::Own(IDC_SKIN, settings::SkinName)};
+
 void AddSkin(HWND list, const wchar_t* name) {
     SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
 }
 
-}  // namespace
+// The skin of the diary. A choice is stored at once, and taken back when the skin lacks something.
+class GeneralSkinsPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralSkinsPage::GeneralSkinsPage() : OptionsPage(IDD_GENERAL_SKINS, L"general_skins", {}) {}
+  protected:
+    bool OnInitDialog() override;
+    bool OnCommand(int id, int code) override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  private:
+    void ListSkins();
+    void SelectSkin(const std::wstring& name);
+    void OnSkinChosen();
+
+    std::wstring startingSkin_;
+};
 
 bool GeneralSkinsPage::OnInitDialog() {
     const bool focus = OptionsPage::OnInitDialog();
@@ -60,10 +78,10 @@ bool GeneralSkinsPage::OnCommand(int id, int code) {
 void GeneralSkinsPage::OnSkinChosen() {
     const int chosen = Selection(IDC_SKIN);
     if (chosen < 0) return;
-    OpenProductKey().WriteString(settings::SkinName.name, ItemText(IDC_SKIN, chosen).c_str());
+    OpenProductKey().Write(settings::SkinName, ItemText(IDC_SKIN, chosen));
     const bool valid = GetSkinArt().IsValid();
     if (!valid) {
-        OpenProductKey().WriteString(settings::SkinName.name, startingSkin_.c_str());
+        OpenProductKey().Write(settings::SkinName, startingSkin_);
         GetSkinArt().Reset();
         SelectSkin(startingSkin_);
     }
@@ -81,3 +99,8 @@ void GeneralSkinsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         case IDC_SKIN_SAMPLE: PaintSampleList(item.hDC, item.rcItem); break;
     }
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralSkinsPage = {IDD_GENERAL_SKINS, L"general_skins", kRows,
+                                               MakePage<GeneralSkinsPage>};

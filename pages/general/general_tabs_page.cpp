@@ -1,32 +1,50 @@
-#include "pages/general/general_tabs_page.h"
+#include "pages/general/general_pages.h"
 
 #include <commctrl.h>
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "base/wait_cursor.h"
+#include "controls/check_list.h"
+#include "controls/focus_keeper.h"
 #include "settings/registration.h"
-#include "settings/settings_key.h"
 
 namespace {
 
 constexpr Row kRows[] = {
     rows::Check(IDC_TABS_IN_ONE, settings::AllTabsInShell),
+    rows::Own(IDC_TABS_LIST, settings::ShowTabs),
+    rows::Own(IDC_TABS_LIST, settings::ShowTabsSequence),
+    // More tabs need more room.
+    rows::Own(IDC_TABS_LIST, settings::TotalHeight),
+    rows::Own(IDC_TABS_LIST, settings::TotalHeightLandscape),
+    rows::Own(IDC_TABS_UP),
+    rows::Own(IDC_TABS_DOWN),
 };
 constexpr int kLastTab = static_cast<int>(kDiaryTabs.size()) - 1;
 
 const DiaryTab& Tab(int index) { return kDiaryTabs[static_cast<std::size_t>(index)]; }
 
-}  // namespace
+// Which tabs the diary has, and in which order. Its ok also registers the plug-in.
+class GeneralTabsPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-GeneralTabsPage::GeneralTabsPage()
-    : OptionsPage(IDD_GENERAL_TABS, L"general_tabs", {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    void OnUpdate() override;
+    bool OnCommand(int id, int code) override;
+    std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
+
+  private:
+    CheckList list_;
+};
 
 void GeneralTabsPage::OnLoad(PageValues& values) {
     list_.Attach(Item(IDC_TABS_LIST), CheckList::Order::kMovable);
     const TabLayout layout =
-        TabLayout::Parse(values.Read(settings::ShowTabs),
-                         OpenProductKey().ReadString(settings::ShowTabsSequence.name,
-                                                     settings::ShowTabsSequence.defaultText));
+        TabLayout::Parse(values.Read(settings::ShowTabs), values.Read(settings::ShowTabsSequence));
     for (int i = 0; i <= kLastTab; ++i) {
         const int tab = layout.order[static_cast<std::size_t>(i)];
         list_.Insert(i, GetLanguageTable().LoadString(Tab(tab).label), tab,
@@ -47,13 +65,9 @@ void GeneralTabsPage::OnLoad(PageValues& values) {
 
 void GeneralTabsPage::OnUpdate() {
     const int selected = list_.Selected();
-    const HWND focus = GetFocus();
+    const FocusKeeper keeper(hwnd(), IDC_TABS_LIST);
     Enable(IDC_TABS_UP, selected > 0);
     Enable(IDC_TABS_DOWN, selected >= 0 && selected < kLastTab);
-    // The keys must not stay with a button that can no longer be pressed.
-    if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
-        SetFocus(Item(IDC_TABS_LIST));
-    }
 }
 
 bool GeneralTabsPage::OnCommand(int id, int code) {
@@ -83,12 +97,12 @@ void GeneralTabsPage::OnSave(PageValues& values) {
         if (!list_.IsChecked(i)) layout.shown &= ~Tab(tab).bit;
     }
     values.Write(settings::ShowTabs, layout.shown);
-    OpenProductKey().WriteString(settings::ShowTabsSequence.name, layout.Sequence().c_str());
+    values.Write(settings::ShowTabsSequence, layout.Sequence());
 
     const bool apart = Registration::Probe().state == Registration::kTabPerHostTab;
     const int smallest = SmallestHeight(layout.shown, apart);
     for (const bool landscape : {false, true}) {
-        const NumberSetting height = settings::TotalHeight(landscape, kUsualHeight);
+        const NumberSetting height = settings::HeightFor(landscape, kUsualHeight);
         if (static_cast<std::int32_t>(values.Read(height)) < smallest) {
             values.Write(height, static_cast<std::uint32_t>(smallest));
         }
@@ -102,3 +116,8 @@ void GeneralTabsPage::OnSave(PageValues& values) {
     RegisterPlugin(labels);
     ReloadTodayItems();
 }
+
+}  // namespace
+
+constexpr PageDescription kGeneralTabsPage = {IDD_GENERAL_TABS, L"general_tabs", kRows,
+                                              MakePage<GeneralTabsPage>};

@@ -3,38 +3,27 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "app/language/language_table.h"
-#include "appearance/drawing/folding_stripe.h"
-#include "appearance/drawing/today_background.h"
-#include "appearance/skins/skin_art.h"
+#include "appearance/drawing/sample_list.h"
 #include "base/scale.h"
 #include "resources/ids.h"
 
 namespace {
 
 // Design lengths.
-constexpr int kIconGap = 2;
-constexpr int kTextGap = 3;
 constexpr int kTabGap = 4;     // beside a tab's icon
 constexpr int kTabMargin = 1;  // above and below it
-constexpr int kTextLeft = 22;  // of a group's title, where item texts begin as well
-constexpr int kHeaderHeight = 14;
 constexpr int kRowHeight = 17;
 
 struct SampleItem {
     unsigned text;
     ItemIcon icon;
-    std::initializer_list<SkinIcon> marks;  // behind the text
+    std::vector<SkinIcon> marks;  // at the right
 };
 
 void Fill(HDC dc, const RECT& rect, int color) { FillRect(dc, &rect, GetSysColorBrush(color)); }
-
-void DrawLabel(HDC dc, const RECT& row, const std::wstring& text) {
-    RECT rect = {row.left + ScaleX(kTextLeft), row.top, row.right, row.bottom};
-    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
-              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-}
 
 // Returns where the tabs end.
 int PaintTabs(HDC dc, const RECT& rect, int selected) {
@@ -52,27 +41,6 @@ int PaintTabs(HDC dc, const RECT& rect, int selected) {
                        ILD_TRANSPARENT);
     }
     return bottom;
-}
-
-void PaintItem(HDC dc, const RECT& row, const SampleItem& item, bool selected) {
-    const COLORREF textColor = GetTextColor(dc);
-    if (selected) {
-        Fill(dc, row, COLOR_HIGHLIGHT);
-        SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHTTEXT));
-    }
-    SkinArt& art = GetSkinArt();
-    if (art.LoadIcons() == SkinArt::kFailed) return;
-    const SIZE icon = art.Icons()->PieceSize(static_cast<int>(item.icon));
-    art.DrawItemIcon(dc, item.icon, row.left + ScaleX(kTextGap),
-                     (row.top + row.bottom - icon.cy) / 2);
-    DrawLabel(dc, row, GetLanguageTable().LoadString(item.text));
-    SetTextColor(dc, textColor);
-    int x = row.right;
-    for (const SkinIcon mark : item.marks) {
-        x -= icon.cx + ScaleX(kIconGap);
-        DrawIconEx(dc, x, (row.top + row.bottom - icon.cy) / 2, art.Icon(mark), icon.cx, icon.cy, 0,
-                   nullptr, DI_NORMAL);
-    }
 }
 
 }  // namespace
@@ -117,24 +85,24 @@ void PaintSampleList(HDC dc, const RECT& rect) {
         {IDS_SAMPLE_BIRTHDAY, ItemIcon::kBirthday, {SkinIcon::kPrivate}},
         {IDS_SAMPLE_MESSAGE, ItemIcon::kMessageUnread, {}},
     };
-    SetBkMode(dc, TRANSPARENT);
-    PaintTodayBackground(dc, rect);
-    RECT row = rect;
-    row.top = PaintTabs(dc, rect, 0);
+    RECT area = rect;
+    area.top = PaintTabs(dc, rect, 0);
     SkinArt& art = GetSkinArt();
     if (art.LoadScrollBar() != SkinArt::kFailed) {
-        row.right -= art.ScrollBar()->PieceSize(0).cx;
-        PaintScrollBar(dc, {row.right, row.top, rect.right, rect.bottom});
+        area.right -= art.ScrollBar()->PieceSize(0).cx;
+        PaintScrollBar(dc, {area.right, area.top, rect.right, rect.bottom});
     }
-    row.bottom = row.top + ScaleY(kHeaderHeight);
-    FoldingStripe().Draw(dc, row, GetLanguageTable().LoadString(IDS_SAMPLE_GROUP),
-                         static_cast<int>(std::size(items)));
-    // Whole rows, which share the height that is left.
-    const int space = rect.bottom - row.bottom;
-    const int rows = std::max(1, (space + ScaleY(kRowHeight) / 4) / ScaleY(kRowHeight));
-    for (int i = 0; i < std::min(rows, static_cast<int>(std::size(items))); ++i) {
-        row.top = row.bottom;
-        row.bottom += std::min(space / rows, ScaleY(kRowHeight));
-        PaintItem(dc, row, items[i], i == 0);
+    // Whole rows, which share the height that is there.
+    const int height = area.bottom - area.top;
+    const int row = ScaleY(kRowHeight);
+    SampleList list(dc, area, std::max(2, (height + row / 4) / row));
+    list.AddGroup(GetLanguageTable().LoadString(IDS_SAMPLE_GROUP),
+                  static_cast<int>(std::size(items)));
+    TitleLook look;
+    look.selected = true;
+    for (const SampleItem& item : items) {
+        look.marks = item.marks;
+        list.AddTitle(item.icon, {}, GetLanguageTable().LoadString(item.text), look);
+        look.selected = false;
     }
 }

@@ -1,4 +1,4 @@
-#include "pages/messages/messages_common_page.h"
+#include "pages/messages/messages_pages.h"
 
 namespace {
 
@@ -16,5 +16,5 @@ constexpr Row kRows[] = {
 
 }  // namespace
 
-MessagesCommonPage::MessagesCommonPage()
-    : OptionsPage(IDD_MESSAGES_COMMON, L"messages_common", {std::begin(kRows), std::end(kRows)}) {}
+// How the messages tab lists and opens mail.
+constexpr PageDescription kMessagesCommonPage = {IDD_MESSAGES_COMMON, L"messages_common", kRows};

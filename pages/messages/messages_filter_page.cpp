@@ -1,13 +1,29 @@
-#include "pages/messages/messages_filter_page.h"
+#include "pages/messages/messages_pages.h"
 
 #include <algorithm>
 
+#include <memory>
+#include <string>
+#include <vector>
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "base/fill_in.h"
 #include "base/wait_cursor.h"
+#include "controls/focus_keeper.h"
+#include "pages/messages/mail_folders_view.h"
+#include "pages/stores/mail_filter.h"
+#include "pages/stores/mail_filter_names.h"
 #include "pages/stores/mail_folders_filters.h"
 
 namespace {
+
+constexpr Row kRows[] = {
+    rows::Own(IDC_MAIL_FILTER, settings::EmailFilter),
+    rows::Own(IDC_MAIL_FOLDERS),
+    rows::Own(IDC_MAIL_FILTER_NAME),
+    rows::Own(IDC_MAIL_FILTER_ADD),
+    rows::Own(IDC_MAIL_FILTER_DELETE),
+};
 
 // In the order of the filters that every device has.
 constexpr unsigned kBuiltInNames[] = {IDS_DELETED_ITEMS, IDS_DRAFTS, IDS_INBOX, IDS_OUTBOX,
@@ -40,10 +56,49 @@ const MailFolderNode* Find(const std::vector<MailFolderNode>& folders, const Mai
     return nullptr;
 }
 
-}  // namespace
+// The filters of mail folders: which one the messages tab shows, and the folders of each. What is
+// ticked holds until the sheet is cancelled, also while another filter is shown.
+class MessagesFilterPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-MessagesFilterPage::MessagesFilterPage()
-    : OptionsPage(IDD_MESSAGES_FILTER, L"messages_filter", {}) {}
+  protected:
+    bool OnInitDialog() override;
+    bool OnApply() override;
+    void OnSave(PageValues& values) override;
+    void OnUpdate() override;
+    bool OnCommand(int id, int code) override;
+    std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
+
+  private:
+    void LoadFilters();
+    // The drop-down list anew, with the chosen filter selected.
+    void ListFilters();
+    // -1 is the new filter.
+    void Choose(int filter);
+    MailFilter& Edited();
+    void OnToggled(const MailFolderNode& folder);
+    bool IsBuiltIn(int filter) const;
+
+    // Makes the new filter, if it has folders, one of the list and chooses it.
+    void AddNewFilter();
+    void DeleteFilter();
+
+    void ShowAutomaticName();
+    std::wstring AutomaticName() const;
+    std::wstring TypedName() const;
+    void ListSuggestedNames();
+    // Of a folder that may no longer be there.
+    MailFolderNames NamesOf(const MailFolderRef& folder) const;
+
+    std::unique_ptr<MailFoldersView> view_;
+    std::vector<std::wstring> builtInNames_;
+    int chosen_ = -1;
+    MailFilter new_;
+    bool nameTyped_ = false;  // by the user, so that it no longer follows the folders
+    std::wstring active_;     // the active filter's name when the page opened
+    bool activeDeleted_ = false;
+};
 
 bool MessagesFilterPage::OnInitDialog() {
     const bool focus = OptionsPage::OnInitDialog();
@@ -124,15 +179,11 @@ void MessagesFilterPage::OnToggled(const MailFolderNode& folder) {
 
 void MessagesFilterPage::OnUpdate() {
     if (!view_) return;
-    const HWND focus = GetFocus();
+    const FocusKeeper keeper(hwnd(), IDC_MAIL_FILTER);
     Enable(IDC_MAIL_FILTER_NAME, chosen_ < 0);
     Enable(IDC_MAIL_FILTER_NAME_LABEL, chosen_ < 0);
     Enable(IDC_MAIL_FILTER_ADD, chosen_ < 0 && !new_.entries.empty());
     Enable(IDC_MAIL_FILTER_DELETE, chosen_ >= 0 && !IsBuiltIn(chosen_));
-    // The keys must not stay with a control that no longer takes them.
-    if (focus && GetParent(focus) == hwnd() && !IsWindowEnabled(focus)) {
-        SetFocus(Item(IDC_MAIL_FILTER));
-    }
 }
 
 bool MessagesFilterPage::OnCommand(int id, int code) {
@@ -262,3 +313,8 @@ void MessagesFilterPage::OnSave(PageValues&) {
     filters.Save();
     if (chosen_ >= 0 || activeDeleted_) filters.SetActive(chosen_);
 }
+
+}  // namespace
+
+constexpr PageDescription kMessagesFilterPage = {IDD_MESSAGES_FILTER, L"messages_filter", kRows,
+                                                 MakePage<MessagesFilterPage>};

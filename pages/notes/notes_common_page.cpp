@@ -1,12 +1,16 @@
-#include "pages/notes/notes_common_page.h"
+#include "pages/notes/notes_pages.h"
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "appearance/drawing/note_label.h"
 #include "appearance/drawing/sample_list.h"
+#include "pages/shared/layout_drop_down.h"
 #include "pages/stores/handwriting.h"
 #include "resources/ids.h"
 
 namespace {
+
+bool ArePhatNotesPresent() { return PhatNotesVersion() != 0; }
 
 constexpr Row kRows[] = {
     rows::Choice(IDC_NOTES_GROUP_BY, settings::NotesGroupBy, kNoteGroupings),
@@ -21,12 +25,15 @@ constexpr Row kRows[] = {
     rows::Check(IDC_NOTES_TYPE_FIRST + 3, &CDiarySettings::noteType3),
     rows::Check(IDC_NOTES_TYPE_FIRST + 4, &CDiarySettings::noteType4),
     rows::Check(IDC_NOTES_TYPE_FIRST + 5, &CDiarySettings::noteType5),
-    rows::Check(IDC_NOTES_TYPE_FIRST + 6, &CDiarySettings::noteType6),
-    rows::Check(IDC_NOTES_PHATNOTES, &CDiarySettings::phatNotes),
+    rows::Check(IDC_NOTES_TYPE_FIRST + 6, &CDiarySettings::noteType6)
+        .GreyedWithout(IsPhatPadPresent),
+    rows::Check(IDC_NOTES_PHATNOTES, &CDiarySettings::phatNotes).GreyedWithout(ArePhatNotesPresent),
+    rows::Own(IDC_NOTES_LAYOUT, settings::TabLayouts),
+    rows::Own(IDC_NOTES_LAYOUT, settings::TabLayoutActive),
+    rows::Own(IDC_NOTES_LAYOUT, &CDiarySettings::keypadNoLanguageSwitch),
 };
 // The plug-in's codes of groupings.
 constexpr std::int32_t kGroupByLetter = 501, kGroupByCategory = 551, kGroupByFolder = 559;
-constexpr int kPhatPadType = IDC_NOTES_TYPE_FIRST + 6;
 constexpr std::uint32_t kSampleBytes = 1536;
 constexpr std::uint32_t kSampleMilliseconds = 59999;
 
@@ -43,17 +50,23 @@ std::wstring SampleTime() {
     return text;
 }
 
-}  // namespace
+// Which notes the notes tab lists, in which order, and what it says of each.
+class NotesCommonPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-NotesCommonPage::NotesCommonPage()
-    : OptionsPage(IDD_NOTES_COMMON, L"notes_common", {std::begin(kRows), std::end(kRows)}),
-      layouts_(IDC_NOTES_LAYOUT, L"Notes") {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    bool OnCommand(int id, int code) override;
+    void OnUpdate() override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
-void NotesCommonPage::OnLoad(PageValues&) {
-    layouts_.Load(hwnd());
-    Enable(IDC_NOTES_PHATNOTES, PhatNotesVersion() != 0);
-    Enable(kPhatPadType, IsPhatPadPresent());
-}
+  private:
+    LayoutDropDown layouts_{IDC_NOTES_LAYOUT, L"Notes"};
+};
+
+void NotesCommonPage::OnLoad(PageValues&) { layouts_.Load(hwnd()); }
 
 void NotesCommonPage::OnSave(PageValues&) { layouts_.Save(); }
 
@@ -89,3 +102,8 @@ void NotesCommonPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         list.AddItem(ItemIcon::kNote, note, details(NoteSizeLabel(kSampleBytes, separator)));
     }
 }
+
+}  // namespace
+
+constexpr PageDescription kNotesCommonPage = {IDD_NOTES_COMMON, L"notes_common", kRows,
+                                              MakePage<NotesCommonPage>};

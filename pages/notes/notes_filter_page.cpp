@@ -1,9 +1,11 @@
-#include "pages/notes/notes_filter_page.h"
+#include "pages/notes/notes_pages.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
 
+#include "app/sheets/options_page.h"
+#include "controls/check_list.h"
 #include "pages/stores/note_folders.h"
 #include "resources/ids.h"
 #include "settings/hidden_names.h"
@@ -11,29 +13,39 @@
 
 namespace {
 
-constexpr wchar_t kFiltersKey[] = L"\\Software\\Lum Software House\\Lum Diary\\Filters";
+constexpr Row kRows[] = {rows::Own(IDC_NOTES_FOLDERS, settings::HiddenFolders)};
 
 std::wstring LowerCase(std::wstring text) {
     CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
     return text;
 }
 
-std::vector<std::wstring> LoadHidden(const wchar_t* valueName) {
-    CSettingsKey key(HKEY_LOCAL_MACHINE, kFiltersKey, true, true);
-    return SplitHiddenNames(LowerCase(key.ReadString(valueName, L"")));
+std::vector<std::wstring> LoadHidden() {
+    const TextSetting& hidden = settings::HiddenFolders;
+    return SplitHiddenNames(LowerCase(OpenProductKey(hidden.key).Read(hidden)));
 }
 
-void SaveHidden(const wchar_t* valueName, const std::vector<std::wstring>& names) {
-    CSettingsKey key(HKEY_LOCAL_MACHINE, kFiltersKey, true, true);
-    key.WriteString(valueName, JoinHiddenNames(names).c_str());
+void SaveHidden(const std::vector<std::wstring>& names) {
+    const TextSetting& hidden = settings::HiddenFolders;
+    OpenProductKey(hidden.key).Write(hidden, JoinHiddenNames(names));
 }
 
-}  // namespace
+class NotesFilterPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-NotesFilterPage::NotesFilterPage() : OptionsPage(IDD_NOTES_FILTER, L"notes_filter", {}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    void OnSave(PageValues& values) override;
+    std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
+
+  private:
+    CheckList list_;
+    std::vector<std::wstring> folders_;  // of the rows, in lower case
+};
 
 void NotesFilterPage::OnLoad(PageValues&) {
-    const std::vector<std::wstring> hidden = LoadHidden(settings::HiddenFolders.name);
+    const std::vector<std::wstring> hidden = LoadHidden();
     const HWND list = Item(IDC_NOTES_FOLDERS);
     list_.Attach(list, CheckList::Order::kFixed);
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
@@ -49,7 +61,7 @@ void NotesFilterPage::OnLoad(PageValues&) {
 
 void NotesFilterPage::OnSave(PageValues&) {
     // Read anew: names of folders that are not there now stay hidden.
-    std::vector<std::wstring> hidden = LoadHidden(settings::HiddenFolders.name);
+    std::vector<std::wstring> hidden = LoadHidden();
     for (int i = 0; i < list_.Count(); ++i) {
         const std::wstring& name = folders_[static_cast<std::size_t>(i)];
         const auto found = std::ranges::find(hidden, name);
@@ -59,10 +71,15 @@ void NotesFilterPage::OnSave(PageValues&) {
             hidden.push_back(name);
         }
     }
-    SaveHidden(settings::HiddenFolders.name, hidden);
+    SaveHidden(hidden);
 }
 
 std::optional<INT_PTR> NotesFilterPage::OnControlNotification(const NMHDR& header) {
     if (header.idFrom == IDC_NOTES_FOLDERS && header.code == LVN_KEYDOWN) list_.OnKeyDown(header);
     return std::nullopt;
 }
+
+}  // namespace
+
+constexpr PageDescription kNotesFilterPage = {IDD_NOTES_FILTER, L"notes_filter", kRows,
+                                              MakePage<NotesFilterPage>};

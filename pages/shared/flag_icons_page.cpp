@@ -1,9 +1,9 @@
 #include "pages/shared/flag_icons_page.h"
 
 #include "app/language/language_table.h"
+#include "app/sheets/options_page.h"
 #include "appearance/drawing/sample_list.h"
 #include "appearance/skins/skin_art.h"
-#include "resources/ids.h"
 
 namespace {
 
@@ -22,11 +22,25 @@ constexpr Flag kFlags[] = {
     {IDC_FLAG_NOTE, L'n', ItemIcon::kNote},
 };
 
-}  // namespace
+class FlagIconsPage : public OptionsPage {
+  public:
+    FlagIconsPage(const PageDescription& description, DisplayPattern TitleDraft::*pattern,
+                  ItemIcon icon, unsigned sample)
+        : OptionsPage(description), pattern_(pattern), icon_(icon), sample_(sample) {}
 
-FlagIconsPage::FlagIconsPage(unsigned templateId, const wchar_t* anchor,
-                             DisplayPattern TitleDraft::*pattern, ItemIcon icon, unsigned sample)
-    : OptionsPage(templateId, anchor, {}), pattern_(pattern), icon_(icon), sample_(sample) {}
+  protected:
+    bool OnSetActive() override;
+    void OnSave(PageValues& values) override;
+    bool OnCommand(int id, int code) override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  private:
+    DisplayPattern& Edited() const { return GetTitleDraft().*pattern_; }
+
+    DisplayPattern TitleDraft::*pattern_;
+    ItemIcon icon_;
+    unsigned sample_;
+};
 
 // Another page of the sheet may have changed the pattern meanwhile.
 bool FlagIconsPage::OnSetActive() {
@@ -65,10 +79,10 @@ void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     }
 }
 
-TasksIconsPage::TasksIconsPage()
-    : FlagIconsPage(IDD_TASKS_ICONS, L"tasks_icons", &TitleDraft::task, ItemIcon::kTaskOpen,
-                    IDS_SAMPLE_TASK) {}
+}  // namespace
 
-ContactsIconsPage::ContactsIconsPage()
-    : FlagIconsPage(IDD_CONTACTS_ICONS, L"contacts_icons", &TitleDraft::contact, ItemIcon::kContact,
-                    IDS_SAMPLE_CONTACT) {}
+std::unique_ptr<OptionsPage> MakeFlagIconsPage(const PageDescription& description,
+                                               DisplayPattern TitleDraft::*pattern, ItemIcon icon,
+                                               unsigned sample) {
+    return std::make_unique<FlagIconsPage>(description, pattern, icon, sample);
+}

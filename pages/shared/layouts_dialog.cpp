@@ -5,12 +5,13 @@
 #include <utility>
 
 #include "app/language/language_table.h"
-#include "controls/launch_help.h"
 #include "resources/ids.h"
 #include "settings/keyboard_layouts.h"
 
 LayoutsDialog::LayoutsDialog(std::wstring title, LayoutSelection& selection)
-    : FullScreenDialog(IDD_LAYOUTS_SELECT), title_(std::move(title)), selection_(selection) {}
+    : FullScreenDialog(IDD_LAYOUTS_SELECT, L"options_layouts_select"),
+      title_(std::move(title)),
+      selection_(selection) {}
 
 bool LayoutsDialog::OnInit() {
     SetWindowTextW(hwnd(), title_.c_str());
@@ -57,8 +58,6 @@ bool LayoutsDialog::OnCommand(int id, int code) {
     if (id == IDOK) TakeRows();
     return FullScreenDialog::OnCommand(id, code);
 }
-
-void LayoutsDialog::OnHelp() { LaunchHelp(L"options_layouts_select"); }
 
 std::optional<INT_PTR> LayoutsDialog::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NOTIFY && wParam == IDC_LAYOUTS_LIST) {

@@ -21,7 +21,6 @@ class LayoutsDialog : public FullScreenDialog {
   protected:
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
-    void OnHelp() override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:

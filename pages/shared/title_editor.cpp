@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "app/language/language_table.h"
+#include "controls/focus_keeper.h"
 #include "resources/ids.h"
 
 namespace {
@@ -108,11 +109,7 @@ void TitleEditor::UpdateButtons() const {
                rows[static_cast<std::size_t>(row)].shown;
     };
     const bool movable = shown(selected);
-    const HWND focus = GetFocus();
+    const FocusKeeper keeper(page_, IDC_TITLE_FIELDS);
     EnableWindow(GetDlgItem(page_, IDC_TITLE_UP), movable && shown(selected - 1));
     EnableWindow(GetDlgItem(page_, IDC_TITLE_DOWN), movable && shown(selected + 1));
-    // The keys must not stay with a button that can no longer be pressed.
-    if (focus && GetParent(focus) == page_ && !IsWindowEnabled(focus)) {
-        SetFocus(GetDlgItem(page_, IDC_TITLE_FIELDS));
-    }
 }

@@ -6,9 +6,10 @@
 // A page that edits a title pattern of the sheet's draft, with a preview (IDC_TITLE_PREVIEW) that
 // follows every change.
 class TitlePage : public OptionsPage {
-  protected:
+  public:
     using OptionsPage::OptionsPage;
 
+  protected:
     // The pattern that the editor shows.
     virtual DisplayPattern& Edited() const = 0;
 

@@ -1,22 +1,19 @@
-#include "pages/special_events/special_events_common_page.h"
-
+#include "pages/special_events/special_events_pages.h"
 #include "resources/ids.h"
 #include "settings/device.h"
 
-SpecialEventsCommonPage::SpecialEventsCommonPage()
-    : SpecialEventsCommonPage(IsFinanceProgramPresent()) {}
+namespace {
 
-SpecialEventsCommonPage::SpecialEventsCommonPage(bool financeProgramPresent)
-    : OptionsPage(
-          IDD_SPECIAL_EVENTS_COMMON, L"special_events_common",
-          {
-              rows::Check(IDC_SPECIAL_BIRTHDAYS, settings::SpecialShowBirthdays),
-              rows::Check(IDC_SPECIAL_TRANSACTIONS,
-                          settings::SpecialShowTransactions(financeProgramPresent)),
-              rows::Choice(IDC_SPECIAL_PERIOD, &CDiarySettings::specialPeriod, kSpecialPeriods),
-          }),
-      financeProgramPresent_(financeProgramPresent) {}
+constexpr Row kRows[] = {
+    rows::Check(IDC_SPECIAL_BIRTHDAYS, settings::SpecialShowBirthdays),
+    // Without the finance program there are none to show.
+    rows::Check(IDC_SPECIAL_TRANSACTIONS, settings::SpecialShowTransactions)
+        .GreyedWithout(IsFinanceProgramPresent, 0),
+    rows::Choice(IDC_SPECIAL_PERIOD, &CDiarySettings::specialPeriod, kSpecialPeriods),
+};
 
-void SpecialEventsCommonPage::OnLoad(PageValues&) {
-    Enable(IDC_SPECIAL_TRANSACTIONS, financeProgramPresent_);
-}
+}  // namespace
+
+// Which special events are listed, and how far ahead.
+constexpr PageDescription kSpecialEventsCommonPage = {IDD_SPECIAL_EVENTS_COMMON,
+                                                      L"special_events_common", kRows};

@@ -7,8 +7,6 @@
 
 namespace {
 
-std::wstring FiltersPath() { return std::wstring(kProductKey) + L"\\MailFilters"; }
-
 std::optional<std::vector<std::uint8_t>> ReadBytes(CSettingsKey& key, const std::wstring& name) {
     DWORD size = 0;
     if (!key.ReadBinary(name.c_str(), nullptr, &size)) return std::nullopt;
@@ -35,7 +33,8 @@ int BuiltInOf(std::int32_t folderType) {
 bool CMailFoldersFilters::Load(bool force) {
     if (loaded_ && !force) return true;
     filters_.clear();
-    CSettingsKey key(HKEY_LOCAL_MACHINE, FiltersPath().c_str(), false, false);
+    const std::wstring path = std::wstring(kProductKey) + L"\\" + settings::keys::MailFilters;
+    CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), false, false);
     if (!key.IsOpen()) return false;
     std::wstring name;
     for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
@@ -48,7 +47,7 @@ bool CMailFoldersFilters::Load(bool force) {
 }
 
 void CMailFoldersFilters::Save() const {
-    CSettingsKey key(HKEY_LOCAL_MACHINE, FiltersPath().c_str(), true, true);
+    CSettingsKey key = OpenProductKey(settings::keys::MailFilters);
     std::wstring name;
     while (key.FirstValueName(name)) {
         if (!key.DeleteValue(name.c_str())) break;
@@ -64,7 +63,7 @@ void CMailFoldersFilters::Save() const {
 }
 
 std::wstring CMailFoldersFilters::ActiveName() {
-    return OpenProductKey().ReadString(settings::EmailFilter.name);
+    return OpenProductKey().Read(settings::EmailFilter);
 }
 
 void CMailFoldersFilters::SetActive(int index) const {
@@ -72,7 +71,7 @@ void CMailFoldersFilters::SetActive(int index) const {
     if (index < 0) {
         key.DeleteValue(settings::EmailFilter.name);
     } else {
-        key.WriteString(settings::EmailFilter.name, filters_.at(index).name.c_str());
+        key.Write(settings::EmailFilter, filters_.at(index).name);
     }
 }
 

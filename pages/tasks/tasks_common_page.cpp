@@ -1,5 +1,6 @@
-#include "pages/tasks/tasks_common_page.h"
+#include "pages/tasks/tasks_pages.h"
 
+#include "app/sheets/options_page.h"
 #include "pages/shared/title_draft.h"
 #include "resources/ids.h"
 
@@ -10,12 +11,19 @@ constexpr Row kRows[] = {
     rows::Check(IDC_TASKS_COMPLETED, settings::TasksShowCompletedTasks),
     rows::Check(IDC_TASKS_ACTIVE, settings::TasksShowActiveTasks),
     rows::Check(IDC_TASKS_ALL_CATEGORIES, &CDiarySettings::tasksAllCategories),
+    rows::Own(IDC_TASK_SUBJECT, &CDiarySettings::taskPattern),
 };
 
-}  // namespace
+// Which tasks the tasks tab lists, and how their subjects are shown.
+class TasksCommonPage : public OptionsPage {
+  public:
+    using OptionsPage::OptionsPage;
 
-TasksCommonPage::TasksCommonPage()
-    : OptionsPage(IDD_TASKS_COMMON, L"tasks_common", {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    void OnLoad(PageValues& values) override;
+    bool OnCommand(int id, int code) override;
+    void OnSave(PageValues& values) override;
+};
 
 // The way the subject is shown is the digit of the tasks' title pattern.
 void TasksCommonPage::OnLoad(PageValues&) {
@@ -34,3 +42,8 @@ void TasksCommonPage::OnSave(PageValues&) {
     GetTitleDraft().task.mode = ChosenValue(*this, IDC_TASK_SUBJECT, 0);
     StoreTitleDraft();
 }
+
+}  // namespace
+
+constexpr PageDescription kTasksCommonPage = {IDD_TASKS_COMMON, L"tasks_common", kRows,
+                                              MakePage<TasksCommonPage>};

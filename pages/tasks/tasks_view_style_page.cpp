@@ -1,8 +1,9 @@
-#include "pages/tasks/tasks_view_style_page.h"
+#include "pages/tasks/tasks_pages.h"
 
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
 #include "pages/shared/title_draft.h"
+#include "pages/shared/title_page.h"
 #include "resources/ids.h"
 
 namespace {
@@ -10,12 +11,20 @@ namespace {
 constexpr Row kRows[] = {
     rows::Check(IDC_TASK_CHECKBOX, &CDiarySettings::taskShowCheckbox),
     rows::Check(IDC_TASK_INDENT, &CDiarySettings::taskIndent),
+    rows::Own(IDC_TITLE_FIELDS, &CDiarySettings::taskPattern),
+    rows::Own(IDC_TITLE_UP),
+    rows::Own(IDC_TITLE_DOWN),
 };
 
-}  // namespace
+// What stands in the lines of tasks.
+class TasksViewStylePage : public TitlePage {
+  public:
+    using TitlePage::TitlePage;
 
-TasksViewStylePage::TasksViewStylePage()
-    : TitlePage(IDD_TASKS_VIEW_STYLE, L"tasks_view_style", {std::begin(kRows), std::end(kRows)}) {}
+  protected:
+    DisplayPattern& Edited() const override;
+    void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+};
 
 DisplayPattern& TasksViewStylePage::Edited() const { return GetTitleDraft().task; }
 
@@ -33,3 +42,8 @@ void TasksViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     list.AddTitle(box(ItemIcon::kTaskDone), pattern,
                   GetLanguageTable().LoadString(IDS_SAMPLE_APPOINTMENT), completed);
 }
+
+}  // namespace
+
+constexpr PageDescription kTasksViewStylePage = {IDD_TASKS_VIEW_STYLE, L"tasks_view_style", kRows,
+                                                 MakePage<TasksViewStylePage>};

@@ -26,6 +26,7 @@ class FakeControls : public PageControls {
     bool IsChecked(int control) const override { return controls.at(control).checked; }
     void SetChecked(int control, bool checked) override { controls[control].checked = checked; }
     void Enable(int control, bool enabled) override { controls[control].enabled = enabled; }
+    void Remove(int control) override { controls.erase(control); }
     void AddItem(int control, unsigned label, std::int32_t value) override {
         controls[control].items.push_back({std::to_wstring(label), value});
     }
@@ -51,9 +52,18 @@ class FakeValues : public PageValues {
         readOrder.push_back(setting.name);
         return stored.emplace(setting.name, setting.defaultValue).first->second;
     }
+    std::wstring Read(const TextSetting&) override { return {}; }
     void Write(const NumberSetting& setting, std::uint32_t value) override {
         stored[setting.name] = value;
     }
+    void Write(const TextSetting&, const std::wstring&) override {}
+};
+
+// Rows that are kept for as long as they are used.
+class HeldRows : private std::vector<Row>, public PageRows {
+  public:
+    HeldRows(std::initializer_list<Row> rows)
+        : std::vector<Row>(rows), PageRows(static_cast<const std::vector<Row>&>(*this)) {}
 };
 
 constexpr NumberSetting kFirst{L"First", 1};
@@ -69,7 +79,7 @@ TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
     Page page;
     page.values.stored[L"Second"] = 5;  // Any number but 0 shows as checked.
     page.shared.keypadNoBackspace = 1;
-    PageRows rows({rows::Check(1, kSecond), rows::Check(2, kFirst),
+    HeldRows rows({rows::Check(1, kSecond), rows::Check(2, kFirst),
                    rows::InvertedCheck(3, &CDiarySettings::keypadNoBackspace)});
     rows.Load(page.controls, page.values, page.shared);
     EXPECT_EQ(page.values.readOrder, (std::vector<std::wstring>{L"Second", L"First"}));
@@ -107,7 +117,7 @@ TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
         Page page;
         if (c.kind != Row::Kind::kChoice) page.controls.controls[1].items = fixed;
         page.values.stored[L"First"] = c.stored;
-        PageRows rows({{c.kind, 1, kFirst, nullptr, kTaskPlacements}});
+        HeldRows rows({{c.kind, 1, kFirst, nullptr, kTaskPlacements}});
         rows.Load(page.controls, page.values, page.shared);
         EXPECT_EQ(page.controls.Selection(1), c.selection) << c.stored;
         rows.Save(page.controls, page.values, page.shared);
@@ -118,7 +128,7 @@ TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
 TEST(PageRows, SelectedEntriesAreStored) {
     Page page;
     page.controls.controls[1].items = {{L"1"}, {L"7"}, {L"123456789012"}};
-    PageRows rows({rows::NumberText(1, &CDiarySettings::groupSpan),
+    HeldRows rows({rows::NumberText(1, &CDiarySettings::groupSpan),
                    rows::Choice(2, &CDiarySettings::specialPeriod, kSpecialPeriods)});
     rows.Load(page.controls, page.values, page.shared);
     EXPECT_EQ(page.controls.Selection(2), 3);  // 0 stands fourth.
@@ -150,7 +160,7 @@ class KeptRows : public ::testing::Test {
     }
 
     Page page;
-    PageRows rows{{rows::Check(1, kFirst), rows::Check(2, kSecond).KeptWhileOff(1),
+    HeldRows rows{{rows::Check(1, kFirst), rows::Check(2, kSecond).KeptWhileOff(1),
                    rows::Choice(3, &CDiarySettings::taskPlacement, kTaskPlacements).EnabledBy(1)}};
 };
 
@@ -187,6 +197,27 @@ TEST_F(KeptRows, LoadedOffShowsEmptyAndKeeps) {
     EXPECT_EQ(SavedKept(), 1u);
     Click(1, true);
     EXPECT_TRUE(page.controls.IsChecked(2));
+}
+
+TEST(PageRows, WhatTheDeviceLacksIsGreyedOrRemoved) {
+    constexpr NumberSetting kThird{L"Third", 1};
+    const auto absent = [] { return false; };
+    Page page;
+    page.controls.controls[2] = {};
+    HeldRows rows({rows::Check(1, kFirst).GreyedWithout(absent, 0),
+                   rows::Check(2, kThird).RemovedWithout(absent),
+                   rows::Check(3, kSecond).GreyedWithout(absent).DisabledBy(1)});
+    rows.Load(page.controls, page.values, page.shared);
+    rows.UpdateEnabled(page.controls);
+    EXPECT_EQ(page.values.stored[L"First"], 0u);  // the default of a device without it
+    EXPECT_FALSE(page.controls.controls[1].enabled);
+    EXPECT_FALSE(page.controls.controls.contains(2));
+    EXPECT_FALSE(page.controls.controls[3].enabled);  // whatever enables it otherwise
+
+    page.controls.SetChecked(1, true);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.stored[L"First"], 1u);
+    EXPECT_FALSE(page.values.stored.contains(L"Third"));  // neither read nor stored
 }
 
 }  // namespace

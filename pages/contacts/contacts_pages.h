@@ -1,0 +1,7 @@
+#pragma once
+
+#include "app/sheets/page_description.h"
+
+extern const PageDescription kContactsCommonPage;
+extern const PageDescription kContactsViewStylePage;
+extern const PageDescription kContactsIconsPage;

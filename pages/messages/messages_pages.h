@@ -1,0 +1,6 @@
+#pragma once
+
+#include "app/sheets/page_description.h"
+
+extern const PageDescription kMessagesCommonPage;
+extern const PageDescription kMessagesFilterPage;

@@ -1,0 +1,5 @@
+#pragma once
+
+#include "app/sheets/page_description.h"
+
+extern const PageDescription kSpecialEventsCommonPage;

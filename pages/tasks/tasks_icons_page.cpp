@@ -1,0 +1,16 @@
+#include "app/sheets/options_page.h"
+#include "pages/shared/flag_icons_page.h"
+#include "pages/tasks/tasks_pages.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr auto kRows = FlagRows(&CDiarySettings::taskPattern);
+
+std::unique_ptr<OptionsPage> Make(const PageDescription& description) {
+    return MakeFlagIconsPage(description, &TitleDraft::task, ItemIcon::kTaskOpen, IDS_SAMPLE_TASK);
+}
+
+}  // namespace
+
+constexpr PageDescription kTasksIconsPage = {IDD_TASKS_ICONS, L"tasks_icons", kRows, Make};
