@@ -2,8 +2,8 @@
 // Any bytes are a bitmap whose pixels lie within them, or none.
 #include <cstring>
 
-#include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_catalogue.h"
+#include "appearance/categories/icon_size.h"
 #include "tests/fuzz/fuzz.h"
 
 namespace {

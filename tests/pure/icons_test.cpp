@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_catalogue.h"
 #include "appearance/categories/icon_grid.h"
+#include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_sources.h"
 #include "appearance/categories/short_path.h"
 

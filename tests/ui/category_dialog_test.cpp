@@ -45,7 +45,13 @@ class CategoryDialogTest : public DeviceTest {
     // Chooses from the menu of sources by the direction keys.
     void PickSource(HWND chooser, std::initializer_list<WPARAM> keys) const {
         PostMessageW(chooser, WM_COMMAND, IDM_SHOW_SOURCES, 0);
-        const auto menu = [] { return IsWindowVisible(FindWindowW(L"#32768", nullptr)) != FALSE; };
+        // A menu shows a moment before it takes the keys.
+        const auto menu = [chooser] {
+            GUITHREADINFO info = {};
+            info.cbSize = sizeof info;
+            return GetGUIThreadInfo(GetWindowThreadProcessId(chooser, nullptr), &info) &&
+                   info.flags & GUI_INMENUMODE;
+        };
         ASSERT_TRUE(Until(menu));
         Press(keys);
         Press({VK_RETURN});
