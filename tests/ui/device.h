@@ -20,6 +20,8 @@ class DeviceTest : public ::testing::Test {
     void SetUp() override {
         DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
         DeleteFileW(kLanguageFile);
+        // Away from where menus open, whose entry under the pointer is selected.
+        SetCursorPos(0, 0);
     }
 
     static void Put(const wchar_t* name, DWORD value) { OpenProductKey().WriteDword(name, value); }
@@ -46,9 +48,11 @@ class DeviceTest : public ::testing::Test {
         CloseHandle(file);
         return done;
     }
+    // Looking at a file must not keep the program from writing or deleting it.
     static std::string ReadBytes(const wchar_t* path) {
-        const HANDLE file = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        const HANDLE file =
+            CreateFileW(path, GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr);
         std::string bytes;
         char buffer[4096];
         for (DWORD read = 0; ReadFile(file, buffer, sizeof buffer, &read, nullptr) && read;) {
