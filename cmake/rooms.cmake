@@ -19,6 +19,23 @@ function(diary_uses target scope)
   endforeach()
 endfunction()
 
+# diary_precompile(NAME HEADERS...): what nearly all sources include, compiled once. (To see whether a source
+# would do without: CMAKE_DISABLE_PRECOMPILE_HEADERS.)
+function(diary_precompile name)
+  file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
+  add_library(${name} STATIC ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  target_link_libraries(${name} PRIVATE diary_warnings)
+  target_precompile_headers(${name} PRIVATE ${ARGN} <algorithm> <array> <cstdint> <functional> <memory> <optional>
+    <span> <string> <string_view> <utility> <vector>)
+endfunction()
+
+# diary_use_precompiled(TARGET NAME). GCC forgets for them that warnings about inlined functions of mingw-w64's
+# headers are not ours.
+function(diary_use_precompiled target name)
+  target_precompile_headers(${target} REUSE_FROM ${name})
+  target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overread)
+endfunction()
+
 # diary_room([PURE FILES...] [USES ROOMS...] [LINK LIBRARIES...]): the room of this folder, a static library of
 # all its sources. Pure files know no <windows.h>: natively the room consists of them alone, for sanitizers and
 # fuzzers. What it links besides rooms is of the device and not there natively.
@@ -33,6 +50,10 @@ function(diary_room)
   if(sources)
     add_library(${target} STATIC ${sources})
     target_link_libraries(${target} PRIVATE diary_warnings)
+    if(WIN32)
+      diary_use_precompiled(${target} precompiled_device)
+      set_source_files_properties(${ROOM_PURE} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+    endif()
     set(scope PUBLIC)
   else()
     add_library(${target} INTERFACE)
