@@ -9,12 +9,11 @@ skin: an archive when it ends in .zip, else a folder. See docs/skins.md. Needs r
 """
 import pathlib
 import re
-import struct
-import subprocess
 import sys
 import xml.etree.ElementTree as xml
 import zipfile
-import zlib
+
+import pictures
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 SVG = "{http://www.w3.org/2000/svg}"
@@ -63,47 +62,7 @@ class Sheet:
             y += height * scale + gap
         picture.set("width", str(self.width * scale))
         picture.set("height", str(y))
-        result = subprocess.run(["rsvg-convert", "-f", "png"], input=xml.tostring(picture),
-                                capture_output=True)
-        if result.returncode:
-            sys.exit(f"{self.path} could not be rendered: {result.stderr.decode()}")
-        return read_png(result.stdout), heights
-
-
-def read_png(data):
-    """Rows of (red, green, blue, opacity), of the one kind of PNG that rsvg-convert writes."""
-    position, packed = 8, b""
-    while position < len(data):
-        length, kind = struct.unpack_from(">I4s", data, position)
-        chunk = data[position + 8:position + 8 + length]
-        if kind == b"IHDR":
-            width, height, depth, color, _, _, interlaced = struct.unpack(">IIBBBBB", chunk)
-            assert (depth, color, interlaced) == (8, 6, 0)
-        elif kind == b"IDAT":
-            packed += chunk
-        position += length + 12
-    raw, stride, rows = zlib.decompress(packed), 4 * width, []
-    above = bytes(stride)
-    for y in range(height):
-        kind = raw[y * (stride + 1)]
-        row = bytearray(raw[y * (stride + 1) + 1:(y + 1) * (stride + 1)])
-        for i in range(stride):
-            a, b, c = (row[i - 4], above[i], above[i - 4]) if i >= 4 else (0, above[i], 0)
-            nearest = min((abs(b - c), 0, a), (abs(a - c), 1, b), (abs(a + b - 2 * c), 2, c))[2]
-            row[i] = (row[i] + (0, a, b, (a + b) // 2, nearest)[kind]) & 255
-        rows.append([tuple(row[i:i + 4]) for i in range(0, stride, 4)])
-        above = row
-    return rows
-
-
-def bitmap(rows):
-    """A 24-bit bitmap file of rows of (red, green, blue)."""
-    width, height = len(rows[0]), len(rows)
-    stride = (3 * width + 3) // 4 * 4
-    pixels = b"".join(bytes(v for r, g, b in row for v in (b, g, r)).ljust(stride, b"\0")
-                      for row in reversed(rows))
-    info = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(pixels), 0, 0, 0, 0)
-    return struct.pack("<2sIHHI", b"BM", 54 + len(pixels), 0, 0, 54) + info + pixels
+        return pictures.render(xml.tostring(picture)), heights
 
 
 def strip(sheet, names, scale):
@@ -116,7 +75,7 @@ def strip(sheet, names, scale):
             result.append(colors + [(pixel[3],) * 3 for pixel in row])
         result.append([MAGENTA] * (2 * len(rows[0])))
         y += height + 1
-    return bitmap(result)
+    return pictures.bitmap(result)
 
 
 def tab_icons(sheet, scale):
@@ -124,7 +83,7 @@ def tab_icons(sheet, scale):
     rows, _ = sheet.render(TAB_DRAWINGS, scale, 0)
     size = sheet.width * scale
     squares = [rows[i * size:(i + 1) * size] for i in range(len(TAB_DRAWINGS))]
-    return bitmap([[pixel[:3] if pixel[3] >= 128 else MAGENTA for square in squares for pixel in square[y]]
+    return pictures.bitmap([[pixel[:3] if pixel[3] >= 128 else MAGENTA for square in squares for pixel in square[y]]
                    for y in range(size)])
 
 
