@@ -7,14 +7,15 @@ fail() {
     exit 1
 }
 
-# Of Debian: what building and running needs, and what testing needs besides.
-RUN_PACKAGES=(
-    cmake ninja-build gcc libc6-dev make python3 dpkg-dev tcl
+# Of Debian: what building needs, what running needs besides, what a display of our own and pictures of it need,
+# and what testing needs.
+BUILD_PACKAGES=(
+    cmake ninja-build python3 librsvg2-bin
     g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev libz-mingw-w64-dev
-    imagemagick librsvg2-bin icoutils
-    wine wine64 fonts-wine fonts-dejavu-core xvfb xdotool
 )
-TEST_PACKAGES=(g++ googletest clang clang-format libclang-rt-14-dev git zip)
+RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
+SCREEN_PACKAGES=(xvfb imagemagick)
+TEST_PACKAGES=(xvfb g++ googletest clang clang-format libclang-rt-14-dev)
 
 # Installs what is missing. Quick when nothing is.
 install_packages() { # PACKAGES...
@@ -39,14 +40,15 @@ install_packages() { # PACKAGES...
         "${missing[@]}" >/dev/null || fail "Could not install ${missing[*]}"
 }
 
-# Fetches and unpacks a Debian source package, with Debian's patches, into third_party/NAME; once. The
-# system's own package sources stay as they are.
-fetch_source() { # NAME
-    local target=$ROOT/third_party/$1 apt=$ROOT/build/apt list
-    [ ! -d "$target" ] || return 0
-    say "Fetching the sources of $1"
+# Fetches files of a Debian source package as its authors left them, once: the last of them says that all are
+# there. Debian's patches change none of those that are used. The system's own package sources stay as they are.
+fetch_source() { # PACKAGE FOLDER-IN-IT TARGET FILES...
+    local package=$1 folder=$2 target=$ROOT/third_party/$3 apt=$ROOT/build/apt list file
+    shift 3
+    [ ! -f "$target/${!#}" ] || return 0
+    say "Fetching the sources of $package"
     rm -rf "$apt"
-    mkdir -p "$apt/parts" "$apt/lists/partial" "$apt/unpacked" "$ROOT/third_party"
+    mkdir -p "$apt/parts" "$apt/lists/partial" "$apt/unpacked" "$target"
     for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources; do
         [ -f "$list" ] || continue
         sed -E 's/^Types:.*/Types: deb-src/; s/^deb /deb-src /' "$list" >"$apt/parts/$(basename "$list")"
@@ -54,33 +56,22 @@ fetch_source() { # NAME
     local options=(-qq -o Dir::Etc::SourceList=/dev/null -o "Dir::Etc::SourceParts=$apt/parts"
         -o "Dir::State::Lists=$apt/lists" -o "APT::Sandbox::User=$(id -un)")
     apt-get "${options[@]}" update || fail "The lists of source packages could not be fetched"
-    (cd "$apt/unpacked" && apt-get "${options[@]}" source "$1" >"$apt/source.log" 2>&1) || {
+    (cd "$apt" && apt-get "${options[@]}" --download-only source "$package" &&
+        cd unpacked && cmake -E tar xf ../"$package"_*.orig.tar.*) >"$apt/source.log" 2>&1 || {
         cat "$apt/source.log" >&2
-        fail "The sources of $1 could not be fetched"
+        fail "The sources of $package could not be fetched"
     }
-    mv "$apt/unpacked"/*/ "$target"
+    for file in "$@"; do
+        mv "$apt"/unpacked/*/"$folder/$file" "$target/" || fail "The sources of $package hold no $file"
+    done
     rm -rf "$apt"
 }
 
-# What the programs are built on besides Debian's libraries.
+# What the programs are built on besides Debian's libraries. SQLite's sources come as one file with Fossil's; its
+# own package would have them made from parts, which takes a compiler for this machine, make and Tcl.
 fetch_sources() {
-    fetch_source minizip
-    fetch_source sqlite3
-    make_sqlite
-}
-
-# SQLite's sources are made into one file, which is compiled with the stand-in device; once.
-make_sqlite() {
-    local made=$ROOT/third_party/sqlite3/amalgamation log=$ROOT/build/sqlite3.log
-    [ ! -f "$made/sqlite3.c" ] || return 0
-    say "Preparing the sources of sqlite3"
-    rm -rf "$made"
-    mkdir -p "$made.part" "$ROOT/build"
-    (cd "$made.part" && ../configure --disable-readline --disable-tcl && make sqlite3.c) >"$log" 2>&1 || {
-        cat "$log" >&2
-        fail "SQLite's one source file could not be made"
-    }
-    mv "$made.part" "$made"
+    fetch_source minizip . minizip crypt.h ioapi.h ioapi.c unzip.h unzip.c
+    fetch_source fossil extsrc sqlite3/amalgamation sqlite3.h sqlite3.c
 }
 
 # Configures and builds a target of one preset into build/NAME; Ninja shows the progress. What was asked of
