@@ -74,15 +74,18 @@ fetch_sources() {
     fetch_source fossil extsrc sqlite3/amalgamation sqlite3.h sqlite3.c
 }
 
-# Configures and builds a target of one preset into build/NAME; Ninja shows the progress. What was asked of
-# CMake once holds for the next time too.
-build_preset() { # NAME WHAT TARGET CMAKE-OPTIONS...
-    say "Building $2"
+# Configures one preset in build/NAME. What was asked of CMake once holds for the next time too.
+configure_preset() { # NAME CMAKE-OPTIONS...
     local log=$ROOT/build/$1.configure.log
     mkdir -p "$ROOT/build"
-    if ! (cd "$ROOT" && cmake --preset "$1" "${@:4}") >"$log" 2>&1; then
+    if ! (cd "$ROOT" && cmake --preset "$@") >"$log" 2>&1; then
         cat "$log" >&2
         fail "CMake could not configure $1"
     fi
+}
+
+# Builds a target of a configured preset; Ninja shows the progress.
+build_target() { # NAME WHAT TARGET
+    say "Building $2"
     ninja -C "$ROOT/build/$1" "$3" || fail "Building $2 failed"
 }
