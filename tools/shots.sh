@@ -40,6 +40,15 @@ take_picture() { # FILE
     import-im6.q16 -display "$DISPLAY" -window root "$1"
 }
 
+# By keys a picture does not depend on where controls are.
+press() { # KEYS...
+    local key
+    for key in "$@"; do
+        settle
+        xdotool key "$key"
+    done
+}
+
 close_program() {
     quietly wine "$BIN/device_send.exe" close
     wait "$PROGRAM_PID" || true
@@ -92,21 +101,20 @@ run_demo() { # OUTPUT
     await_window 'Lum Diary Options'
     take_picture "$1/1_main_screen.png"
     say "Opening Calendar"
-    xdotool mousemove 117 60 click 1
+    press c Return
     await_window 'Calendar options'
     take_picture "$1/2_calendar.png"
     say "Turning to the tasks page"
-    xdotool mousemove 138 284 click 1
+    press ctrl+Tab ctrl+Tab
     take_picture "$1/3_tasks_page.png"
     say "Clearing \"Show tasks in the calendar\""
-    xdotool mousemove 80 67 click 1
+    press space
     take_picture "$1/4_cleared.png"
-    say "Tapping ok"
-    xdotool mousemove 224 13 click 1
+    say "Saying ok"
+    press Return
     take_picture "$1/5_after_ok.png"
     say "Closing the program"
-    xdotool mousemove 224 13 click 1
-    wait "$PROGRAM_PID" || true
+    close_program
     take_picture "$1/6_today.png"
     say "The registry after"
     product_values "${values[@]}"
@@ -157,8 +165,7 @@ picture_page() { # FOLDER PAGE NAME KEYS...
     start_program "$STAGE" "-P$page"
     await_window "$SHEETS"
     for key in "$@"; do
-        settle
-        xdotool key "${key%%=*}"
+        press "${key%%=*}"
         key=${key#*=}
         [ -z "$key" ] || await_window "$(translate "${key//_/ }")"
     done
