@@ -15,7 +15,7 @@ BUILD_PACKAGES=(
 )
 RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
 SCREEN_PACKAGES=(xvfb imagemagick)
-TEST_PACKAGES=(xvfb g++ googletest clang clang-format libclang-rt-14-dev)
+TEST_PACKAGES=(xvfb g++ googletest clang clang-format libclang-rt-14-dev zip)
 
 # Installs what is missing. Quick when nothing is.
 install_packages() { # PACKAGES...
