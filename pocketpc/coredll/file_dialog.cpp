@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "pocketpc/common/shell_windows.h"
+#include "pocketpc/coredll/message_box.h"
 
 namespace {
 
@@ -30,9 +31,9 @@ class FileDialog {
         RegisterClassW(&windowClass);
         const RECT area = shell::WorkArea();
         const HWND owner = request_.hwndOwner;
-        hwnd_ = CreateWindowExW(WS_EX_CONTROLPARENT, kClass, save_ ? L"Save As" : L"Open", WS_POPUP,
-                                area.left, area.top, area.right - area.left, area.bottom - area.top,
-                                owner, nullptr, nullptr, this);
+        hwnd_ = CreateWindowExW(WS_EX_CONTROLPARENT, kClass, Title(), WS_POPUP, area.left, area.top,
+                                area.right - area.left, area.bottom - area.top, owner, nullptr,
+                                nullptr, this);
         if (!hwnd_) return false;
         CreateControls();
         ListFolders();
@@ -40,12 +41,7 @@ class FileDialog {
         const bool ownerWasEnabled = owner && !EnableWindow(owner, FALSE);
         ShowWindow(hwnd_, SW_SHOW);
         SetFocus(save_ ? name_ : files_);
-        MSG message;
-        while (!ended_ && GetMessageW(&message, nullptr, 0, 0) > 0) {
-            if (IsDialogMessageW(hwnd_, &message)) continue;
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
+        RunLoop();
         if (ownerWasEnabled) EnableWindow(owner, TRUE);
         DestroyWindow(hwnd_);
         DeleteObject(font_);
@@ -53,6 +49,20 @@ class FileDialog {
     }
 
   private:
+    void RunLoop() {
+        MSG message;
+        while (!ended_) {
+            if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+                // The end of the program is the concern of its own loop.
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
+            if (IsDialogMessageW(hwnd_, &message)) continue;
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+
     HWND Add(const wchar_t* type, const wchar_t* text, DWORD style, int id, int x, int y, int width,
              int height) {
         const HWND control =
@@ -150,21 +160,30 @@ class FileDialog {
         return name;
     }
 
+    int Ask(const std::wstring& question) const {
+        return Pocket_MessageBoxW(hwnd_, question.c_str(), Title(), MB_YESNO | MB_ICONQUESTION);
+    }
+
+    void Tell(const wchar_t* problem) const {
+        Pocket_MessageBoxW(hwnd_, problem, Title(), MB_OK | MB_ICONEXCLAMATION);
+    }
+
+    const wchar_t* Title() const { return save_ ? L"Save As" : L"Open"; }
+
     void Accept() {
         wchar_t typed[MAX_PATH] = {};
         if (save_) GetWindowTextW(name_, typed, MAX_PATH);
         std::wstring path = save_ ? typed : SelectedFile();
-        if (path.empty()) return;
+        if (path.empty()) return Tell(save_ ? L"Enter a name." : L"Choose a file.");
         if (path[0] != L'\\') path = Folder() + L"\\" + path;
         if (path.find(L'.', path.find_last_of(L'\\')) == std::wstring::npos &&
             request_.lpstrDefExt) {
             path.append(L".").append(request_.lpstrDefExt);
         }
-        if (path.size() >= request_.nMaxFile) return;
+        if (path.size() >= request_.nMaxFile) return Tell(L"The name is too long.");
         if (save_ && request_.Flags & OFN_OVERWRITEPROMPT &&
             GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES &&
-            MessageBoxW(hwnd_, (path + L" is there already. Replace it?").c_str(), L"Save As",
-                        MB_YESNO | MB_ICONQUESTION) != IDYES) {
+            Ask(L"Replace " + path.substr(path.find_last_of(L'\\') + 1) + L"?") != IDYES) {
             return;
         }
         wcscpy(request_.lpstrFile, path.c_str());
@@ -195,6 +214,7 @@ class FileDialog {
         switch (message) {
             case WM_COMMAND: dialog->OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
             case WM_CLOSE: dialog->ended_ = true; return 0;
+            case WM_DESTROY: dialog->ended_ = true; break;  // It may go with its owner.
             case WM_CTLCOLORSTATIC:
                 return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
         }

@@ -1,7 +1,10 @@
 // Message boxes that fit the device's screen; the desktop's may be wider than a small screen is.
+#include "pocketpc/coredll/message_box.h"
+
 #include <windows.h>
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "pocketpc/common/shell_windows.h"
@@ -11,6 +14,7 @@ namespace {
 HHOOK hook = nullptr;
 
 struct Parts {
+    HWND icon = nullptr;
     HWND text = nullptr;
     std::vector<HWND> buttons;
 };
@@ -20,8 +24,14 @@ BOOL CALLBACK AddPart(HWND control, LPARAM parameter) {
     wchar_t className[16] = {};
     GetClassNameW(control, className, 16);
     const LONG style = GetWindowLongW(control, GWL_STYLE);
-    if (_wcsicmp(className, L"Static") == 0 && (style & SS_TYPEMASK) != SS_ICON) {
-        parts.text = control;
+    if (_wcsicmp(className, L"Static") == 0) {
+        if ((style & SS_TYPEMASK) != SS_ICON) {
+            parts.text = control;
+        } else if (SendMessageW(control, STM_GETICON, 0, 0)) {
+            parts.icon = control;
+        } else {
+            ShowWindow(control, SW_HIDE);
+        }
     } else if (_wcsicmp(className, L"Button") == 0 && style & WS_VISIBLE) {
         parts.buttons.push_back(control);
     }
@@ -35,46 +45,117 @@ RECT RectIn(HWND box, HWND control) {
     return rect;
 }
 
-int TextHeight(HWND control, int width) {
-    const int length = GetWindowTextLengthW(control);
-    std::vector<wchar_t> text(length + 1);
-    GetWindowTextW(control, text.data(), length + 1);
-    const HDC dc = GetDC(control);
-    const HGDIOBJ old =
-        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    RECT rect = {0, 0, width, 0};
-    DrawTextW(dc, text.data(), length, &rect,
-              DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
-    SelectObject(dc, old);
-    ReleaseDC(control, dc);
-    return rect.bottom;
+// The text of a box, measured in its font.
+class BoxText {
+  public:
+    explicit BoxText(HWND control)
+        : control_(control),
+          dc_(GetDC(control)),
+          old_(
+              SelectObject(dc_, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)))) {
+        text_.resize(GetWindowTextLengthW(control) + 1);
+        text_.resize(GetWindowTextW(control, text_.data(), static_cast<int>(text_.size())));
+    }
+    ~BoxText() {
+        SelectObject(dc_, old_);
+        ReleaseDC(control_, dc_);
+    }
+    BoxText(const BoxText&) = delete;
+    BoxText& operator=(const BoxText&) = delete;
+
+    // Breaks the words, such as paths, that are wider than a line.
+    void BreakLongWords(int width) {
+        std::size_t start = 0;
+        for (std::size_t i = 0; i < text_.size(); ++i) {
+            if (text_[i] == L' ' || text_[i] == L'\n') {
+                start = i + 1;
+            } else if (i > start && WidthOf(start, i + 1 - start) > width) {
+                text_.insert(i, 1, L'\n');
+                start = i + 1;
+            }
+        }
+        SetWindowTextW(control_, text_.c_str());
+    }
+
+    int Height(int width) const {
+        RECT rect = {0, 0, width, 0};
+        DrawTextW(dc_, text_.c_str(), static_cast<int>(text_.size()), &rect,
+                  DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
+        return rect.bottom;
+    }
+
+    int LineHeight() const {
+        TEXTMETRICW metrics = {};
+        GetTextMetricsW(dc_, &metrics);
+        return metrics.tmHeight;
+    }
+
+  private:
+    int WidthOf(std::size_t start, std::size_t count) const {
+        SIZE size = {};
+        GetTextExtentPoint32W(dc_, &text_[start], static_cast<int>(count), &size);
+        return size.cx;
+    }
+
+    HWND control_;
+    HDC dc_;
+    HGDIOBJ old_;
+    std::wstring text_;
+};
+
+// A centred group at the same distances, unless the buttons must be narrower.
+void PlaceButtons(HWND box, const std::vector<HWND>& buttons, int width, int down) {
+    const int margin = shell::Scale(6);
+    const int count = static_cast<int>(buttons.size());
+    if (count == 0) return;
+    const RECT first = RectIn(box, buttons.front());
+    int size = first.right - first.left;
+    int step = count > 1 ? RectIn(box, buttons[1]).left - first.left : size;
+    if ((count - 1) * step + size > width - 2 * margin) {
+        step = (width - margin) / count;
+        size = step - margin;
+    }
+    int x = (width - (count - 1) * step - size) / 2;
+    for (const HWND button : buttons) {
+        MoveWindow(button, x, first.top + down, size, first.bottom - first.top, FALSE);
+        x += step;
+    }
 }
 
-// Takes from the text what the box is too wide; the buttons stay a centred group below it.
+// The box becomes as narrow as the screen and its text wraps; a text that is still too high loses
+// its last lines.
 void FitToScreen(HWND box) {
     const RECT area = shell::WorkArea();
     const int margin = shell::Scale(4);
-    const int boxWidth = area.right - 2 * margin;
-    RECT window;
+    RECT window, client;
     GetWindowRect(box, &window);
-    const int excess = window.right - window.left - boxWidth;
+    GetClientRect(box, &client);
     Parts parts;
     EnumChildWindows(box, AddPart, reinterpret_cast<LPARAM>(&parts));
-    if (excess <= 0 || !parts.text) return;
+    if (!parts.text) return;
 
-    const RECT text = RectIn(box, parts.text);
-    const int width = text.right - text.left - excess;
-    const int height = TextHeight(parts.text, width);
-    const int growth = std::max<int>(0, height - (text.bottom - text.top));
-    MoveWindow(parts.text, text.left, text.top, width, height, FALSE);
-    for (const HWND button : parts.buttons) {
-        const RECT rect = RectIn(box, button);
-        MoveWindow(button, rect.left - excess / 2, rect.top + growth, rect.right - rect.left,
-                   rect.bottom - rect.top, FALSE);
+    const int boxWidth = std::min<int>(window.right - window.left, area.right - 2 * margin);
+    const int clientWidth = client.right - (window.right - window.left - boxWidth);
+    RECT text = RectIn(box, parts.text);
+    const RECT icon = parts.icon ? RectIn(box, parts.icon) : text;
+    text.right = std::min<int>(text.right, clientWidth - icon.left);
+    BoxText content(parts.text);
+    content.BreakLongWords(text.right - text.left);
+
+    const int before = text.bottom - text.top;
+    const int rest = window.bottom - window.top - before;
+    const int line = content.LineHeight();
+    const int room = (area.bottom - area.top - 2 * margin - rest) / line * line;
+    const int height = std::min(std::max(content.Height(text.right - text.left), before), room);
+    MoveWindow(parts.text, text.left, text.top, text.right - text.left, height, FALSE);
+    if (parts.icon) {
+        const int size = icon.bottom - icon.top;
+        MoveWindow(parts.icon, icon.left, text.top + (height - size) / 2, size, size, FALSE);
     }
-    const int boxHeight = window.bottom - window.top + growth;
-    const int centred = (area.top + area.bottom - boxHeight) / 2;
-    MoveWindow(box, margin, std::max<int>(area.top, centred), boxWidth, boxHeight, FALSE);
+    PlaceButtons(box, parts.buttons, clientWidth, height - before);
+    const int boxHeight = rest + height;
+    MoveWindow(box, (area.right - boxWidth) / 2, (area.top + area.bottom - boxHeight) / 2, boxWidth,
+               boxHeight, FALSE);
 }
 
 // The desktop lays the box out while it initialises its dialog; it has activated it before.
@@ -91,7 +172,7 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-extern "C" int WINAPI Pocket_MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type) {
+int WINAPI Pocket_MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type) {
     hook = SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
     const int answer = MessageBoxW(owner, text, caption, type);
     if (hook) UnhookWindowsHookEx(hook);
