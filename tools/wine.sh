@@ -81,11 +81,11 @@ start_session() { # NAME DPI DEVICE: a clone of its own with the device as drive
     furnish_owner "$3"
 }
 
-# What the device's owner keeps on it, as far as it is not there yet. With MUCH_MAIL the owner has many mail
-# folders besides. Needs BIN.
+# What the device's owner keeps on it, as far as it is not there yet, and what FURNISH_WITH names besides:
+# scripts of pocketpc/furnishing. Needs BIN.
 furnish_owner() { # DEVICE
     local script
-    for script in owner ${MUCH_MAIL:+much_mail}; do
+    for script in owner ${FURNISH_WITH:-}; do
         (cd "$1" && wine "$BIN/devicectl.exe" furnish - <"$ROOT/pocketpc/furnishing/$script.txt") ||
             fail "The device could not be furnished"
     done

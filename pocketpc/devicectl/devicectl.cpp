@@ -45,6 +45,7 @@ four blanks belong to the statement above them, and # begins a comment:
 
   folder PATH
   file PATH                                    its lines follow, indented; $BOM is a byte-order mark
+  copy FROM PATH                               a file of the device's, or without a backslash one beside devicectl
   volume FILE
   database VOLUME NAME SORT...                 sorts as in 2:string~+0:ui4-: ~ ignores case, - descends
       record VALUE...

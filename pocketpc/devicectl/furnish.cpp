@@ -27,10 +27,13 @@ bool MakeFolder(const std::wstring& path) {
     }
 }
 
-bool MakeFile(const std::wstring& path, const std::wstring& text) {
+bool MakeFolderOf(const std::wstring& path) {
     const std::size_t slash = path.rfind(L'\\');
-    if (slash != std::wstring::npos && slash > 0 && !MakeFolder(path.substr(0, slash)))
-        return false;
+    return slash == std::wstring::npos || slash == 0 || MakeFolder(path.substr(0, slash));
+}
+
+bool MakeFile(const std::wstring& path, const std::wstring& text) {
+    if (!MakeFolderOf(path)) return false;
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
@@ -40,6 +43,19 @@ bool MakeFile(const std::wstring& path, const std::wstring& text) {
         WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     CloseHandle(file);
     return ok;
+}
+
+// A name without a folder is that of a file beside this program.
+bool CopyTo(const std::wstring& from, const std::wstring& path) {
+    if (Exists(path)) return true;
+    std::wstring source = from;
+    if (from.find(L'\\') == std::wstring::npos) {
+        wchar_t program[MAX_PATH] = {};
+        GetModuleFileNameW(nullptr, program, MAX_PATH - 1);
+        source = program;
+        source.replace(source.rfind(L'\\') + 1, std::wstring::npos, from);
+    }
+    return MakeFolderOf(path) && CopyFileW(source.c_str(), path.c_str(), TRUE);
 }
 
 // Carries a script out, line by line. An indented line belongs to the statement above it.
@@ -97,7 +113,7 @@ class Furnisher {
         skipping_ = !meant_;
         const bool known = verb == L"folder" || verb == L"file" || verb == L"volume" ||
                            verb == L"database" || verb == L"key" || verb == L"account" ||
-                           verb == L"many-accounts";
+                           verb == L"many-accounts" || verb == L"copy";
         if (!known) return L"unknown statement " + verb;
         if (words.size() < 2) return verb + L" needs a name";
         if (skipping_) return {};
@@ -115,8 +131,9 @@ class Furnisher {
             key_ = std::make_unique<DeviceKey>(name, true);
             return *key_ ? L"" : L"no such key can be made";
         }
-        if (verb == L"account" || verb == L"many-accounts") {
+        if (verb == L"account" || verb == L"many-accounts" || verb == L"copy") {
             if (words.size() < 3) return verb + L" needs two words";
+            if (verb == L"copy") return CopyTo(name, words[2]) ? L"" : SystemProblem();
             mail_ = MailStore::Load();
             if (verb == L"account") return StartAccount(name, words[2]);
             AddManyAccounts(*mail_, wcstoul(name.c_str(), nullptr, 10),

@@ -5,7 +5,6 @@
 #include <commctrl.h>
 
 #include "resources/ids.h"
-#include "tests/model/devicectl.h"
 #include "tests/ui/device.h"
 
 namespace {

@@ -8,9 +8,15 @@
 #include <string>
 
 #include "settings/settings_key.h"
+#include "tests/model/devicectl.h"
 #include "tests/ui/driver.h"
 
 namespace ui {
+
+// Gives the device one of the things that ./run --with gives it.
+inline bool FurnishWith(const wchar_t* thing) {
+    return Control(std::wstring(L"furnish \"Z:" FURNISHING L"/") + thing + L".txt\"");
+}
 
 inline constexpr wchar_t kInstallFolder[] = L"\\Program Files\\Lum Diary\\";
 inline constexpr wchar_t kLanguageFile[] = L"\\Program Files\\Lum Diary\\LumDiary_en.txt";

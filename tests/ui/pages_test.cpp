@@ -204,8 +204,7 @@ const std::vector<Tab> kTabs = {
 
 // Every control is changed from its default, with the keys alone.
 TEST_F(Pages, EveryControlIsStored) {
-    const CSettingsKey weather(HKEY_LOCAL_MACHINE,
-                               L"SOFTWARE\\Microsoft\\Today\\Items\\\"Lum Weather\"", true, false);
+    ASSERT_TRUE(FurnishWith(L"weather"));
     OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
     Program program;
     for (const Tab& tab : kTabs) {
@@ -239,9 +238,8 @@ TEST_F(Pages, TransactionsNeedTheFinanceProgram) {
     for (const bool present : {false, true}) {
         SetUp();
         DeleteFileW(kLibrary);
-        // Any library will do: the program only asks whether it can be loaded.
         if (present) {
-            ASSERT_TRUE(CopyFileW(L"\\Windows\\coredll.dll", kLibrary, FALSE));
+            ASSERT_TRUE(FurnishWith(L"finance"));
         }
         Program program(L"-P1:1");
         const HWND calendar = program.Sheet(L"Calendar options");
