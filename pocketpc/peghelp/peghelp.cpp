@@ -1,5 +1,5 @@
 // The help viewer: opens a page of the device's help, "file.htm#anchor", in the desktop's browser,
-// and notes it in \peghelp.log of the device.
+// and notes it in \peghelp.log of the device. What keeps it from that is said on the screen.
 #include <windows.h>
 
 #include <shellapi.h>
@@ -50,38 +50,81 @@ std::wstring FindHelpFile(const std::wstring& name) {
     return {};
 }
 
-void Note(const std::wstring& page) {
-    FILE* const log = _wfopen(L"\\peghelp.log", L"ab");
-    if (!log) return;
-    fprintf(log, "%s\n", Utf8(page).c_str());
-    fclose(log);
+void WriteLine(const wchar_t* path, const wchar_t* mode, const std::wstring& line) {
+    FILE* const file = _wfopen(path, mode);
+    if (!file) return;
+    fprintf(file, "%s\n", Utf8(line).c_str());
+    fclose(file);
 }
 
-}  // namespace
-
-int wmain(int count, wchar_t** arguments) {
-    if (count < 2) return 1;
-    const std::wstring page = arguments[1];
-    Note(page);
-    const std::size_t hash = page.find(L'#');
-    const std::wstring file = FindHelpFile(page.substr(0, hash));
-    const std::wstring anchor = hash == std::wstring::npos ? L"" : page.substr(hash);
-    if (file.empty()) {
-        printf("There is no help file for %s.\n", Utf8(page).c_str());
-        return 1;
-    }
-    std::wstring url = L"file:///";
-    for (const wchar_t c : file) {
+std::wstring UrlOf(const std::wstring& path) {
+    std::wstring url;
+    for (const wchar_t c : path) {
         if (c == L' ') {
             url += L"%20";
         } else {
             url += c == L'\\' ? L'/' : c;
         }
     }
-    url += anchor;
-    const auto result = reinterpret_cast<INT_PTR>(
-        ShellExecuteW(nullptr, L"open", url.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
-    // Values up to 32 are errors.
-    if (result <= 32) printf("Help: %s\n", Utf8(url).c_str());
-    return 0;
+    return url;
+}
+
+// Whether what was started runs on, or has ended well soon.
+bool Start(const wchar_t* file, const wchar_t* parameters) {
+    constexpr DWORD kLongestStart = 5000;  // milliseconds
+    SHELLEXECUTEINFOW info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+    info.lpVerb = L"open";
+    info.lpFile = file;
+    info.lpParameters = parameters;
+    info.nShow = SW_SHOWNORMAL;
+    if (!ShellExecuteExW(&info)) return false;
+    if (!info.hProcess) return true;  // A browser that runs already has taken the page.
+    DWORD code = 0;
+    if (WaitForSingleObject(info.hProcess, kLongestStart) == WAIT_OBJECT_0) {
+        GetExitCodeProcess(info.hProcess, &code);
+    }
+    CloseHandle(info.hProcess);
+    return code == 0;
+}
+
+// Desktops lose the anchor of a file's address on its way to the browser, so that a small page of
+// our own leads there. Wine may know no program for pages, but has one that finds the browser.
+bool OpenInBrowser(const std::wstring& file, const std::wstring& anchor) {
+    constexpr wchar_t kLeadingPage[] = L"\\peghelp.htm";
+    const std::wstring fromRoot = UrlOf(file.substr(file.find(L'\\') + 1));
+    WriteLine(kLeadingPage, L"wb",
+              L"<meta http-equiv=refresh content=\"0; url=" + fromRoot + anchor + L"\">");
+    wchar_t page[MAX_PATH] = {};
+    GetFullPathNameW(kLeadingPage, MAX_PATH, page, nullptr);
+    return Start(page, nullptr) || Start(L"winebrowser.exe", (L"file:///" + UrlOf(page)).c_str());
+}
+
+void Say(const std::wstring& problem) {
+    MessageBoxW(nullptr, problem.c_str(), L"Help", MB_OK | MB_ICONINFORMATION | MB_SETFOREGROUND);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR page, int) {
+    if (!*page) return 1;
+    const HWND asking = GetForegroundWindow();
+    const std::wstring asked = page;
+    WriteLine(L"\\peghelp.log", L"ab", asked);
+    const std::size_t hash = asked.find(L'#');
+    const std::wstring name = asked.substr(0, hash);
+    const std::wstring file = FindHelpFile(name);
+    int result = 1;
+    if (file.empty()) {
+        Say(L"There is no help file " + name + L".");
+    } else if (OpenInBrowser(file, hash == std::wstring::npos ? L"" : asked.substr(hash))) {
+        result = 0;
+    } else {
+        Say(L"There is no browser to show the help. It is in " + file.substr(file.find(L'\\')) +
+            L".");
+    }
+    // The keyboard belongs to the program that asked.
+    if (asking) SetForegroundWindow(asking);
+    return result;
 }

@@ -159,8 +159,8 @@ TEST(Device, FindsFunctionsByWideNameAndOrdinal) {
     EXPECT_EQ(GetProcAddress(coredll, MAKEINTRESOURCEW(9999)), nullptr);
 }
 
-// The help viewer lies in \Windows; it notes what it was asked for, and ends with 1 without the
-// file.
+// The help viewer lies in \Windows; it notes what it was asked for, says that there is no such
+// file, and gives the keyboard back to whom it had it from.
 TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     DeleteFileW(L"\\peghelp.log");
     PROCESS_INFORMATION process = {};
@@ -173,9 +173,26 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
                                 nullptr, &process));
     EXPECT_FALSE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, 0, nullptr, folder,
                                 nullptr, &process));
+    const HWND asking = CreateWindowExW(0, L"EDIT", L"", WS_POPUP | WS_VISIBLE, 0, 30, 90, 90,
+                                        nullptr, nullptr, nullptr, nullptr);
+    ASSERT_TRUE(SetForegroundWindow(asking));
     ASSERT_TRUE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                nullptr, &process));
-    EXPECT_EQ(WaitForSingleObject(process.hProcess, 10'000), WAIT_OBJECT_0);
+    const DWORD start = GetTickCount();
+    bool said = false;
+    while ((WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT ||
+            GetForegroundWindow() != asking) &&
+           GetTickCount() - start < 10'000) {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        const HWND box = FindWindowW(L"#32770", L"Help");
+        if (!box || !IsWindowVisible(box)) continue;
+        said = true;
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+    }
+    EXPECT_TRUE(said);
+    EXPECT_EQ(GetForegroundWindow(), asking);
+    DestroyWindow(asking);
     DWORD code = 0;
     EXPECT_TRUE(GetExitCodeProcess(process.hProcess, &code));
     EXPECT_EQ(code, 1u);
