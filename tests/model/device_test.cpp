@@ -176,8 +176,9 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     const HWND asking = CreateWindowExW(0, L"EDIT", L"", WS_POPUP | WS_VISIBLE, 0, 30, 90, 90,
                                         nullptr, nullptr, nullptr, nullptr);
     ASSERT_TRUE(SetForegroundWindow(asking));
-    ASSERT_TRUE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               nullptr, &process));
+    // A console, if the viewer wanted one, would be a window of its own.
+    ASSERT_TRUE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE,
+                               nullptr, nullptr, nullptr, &process));
     const DWORD start = GetTickCount();
     bool said = false;
     while ((WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT ||
