@@ -4,6 +4,7 @@
 
 start_today() { # DEVICE
     (cd "$1" && quietly wine "$BIN/today.exe") &
+    TODAY_PID=$!
     await_window Desktop
 }
 

@@ -113,6 +113,7 @@ furnish_device() { # DEVICE BIN DPI
     cp -u "$2/icons.dat" "$install/"
     rm -rf "$install/IconSet"
     cp -r "$2/iconset/$3" "$install/IconSet"
+    cp -u "$2/today_picture/$3.bmp" "$1/Windows/today.bmp"
     cp -u "$2/PegHelp.exe" "$2/coredll.dll" "$2"/outres/*.dll "$1/Windows/"
     [ -f "$1/device.ini" ] ||
         printf '[device]\r\nhive=Default\r\nversion=%s\r\nplatform=PocketPC\r\n' \

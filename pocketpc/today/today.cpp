@@ -1,6 +1,6 @@
 // The Today screen: answers its plug-ins' questions about colours, holds the diary plug-in's helper
-// window, and shows what reaches it in the area of its items. Each event is also a line in
-// \today.log of the device.
+// window, and shows what reaches it in the area of its items; a tap there starts the program. Each
+// event is also a line in \today.log of the device.
 #include <windows.h>
 
 #include <cstdio>
@@ -9,6 +9,7 @@
 
 #include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/todaycmn.h"
+#include "pocketpc/today/picture.h"
 
 namespace {
 
@@ -20,16 +21,18 @@ constexpr WPARAM kReloadItems = 0xF2;  // of WM_WININICHANGE
 constexpr std::size_t kMostLines = 8;
 
 HWND itemsWindow = nullptr;
+TodayPicture* picture = nullptr;
 std::vector<std::wstring> events;
 UINT updateMessage = 0;
 
-// Shows a text on the screen and notes what it stands for.
-void Note(const wchar_t* shown, const std::wstring& event) {
+// Shows what happened on the screen, with the time and what else there is to say, and notes what it
+// stands for.
+void Note(const wchar_t* shown, const wchar_t* more, const std::wstring& event) {
     SYSTEMTIME now;
     GetLocalTime(&now);
-    wchar_t time[16];
-    swprintf(time, 16, L"%02d:%02d:%02d  ", now.wHour, now.wMinute, now.wSecond);
-    events.push_back(std::wstring(time) + shown);
+    wchar_t text[64];
+    swprintf(text, 64, L"%ls %02d:%02d%ls", shown, now.wHour, now.wMinute, more);
+    events.push_back(text);
     if (events.size() > kMostLines) events.erase(events.begin());
     InvalidateRect(itemsWindow, nullptr, TRUE);
     if (FILE* const log = _wfopen(L"\\today.log", L"ab")) {
@@ -76,11 +79,19 @@ class TextPainter {
     HGDIOBJ old_;
 };
 
+int ItemsTop() { return shell::WorkArea().top + shell::Scale(30); }
+
 RECT FirstRow(HWND hwnd) {
     RECT area;
     GetClientRect(hwnd, &area);
     const int margin = shell::Scale(8);
     return {margin, 0, area.right - margin, shell::Scale(22)};
+}
+
+// The background and the owner's picture, in a window that begins at `top` of the screen.
+void PaintBackground(HDC dc, const RECT& area, int top) {
+    shell::FillColor(dc, area, kBackground);
+    picture->Paint(dc, shell::WorkArea().top - top, GetSystemMetrics(SM_CXSCREEN));
 }
 
 // Where no program's bars lie over them, the places of both bars are the screen's own.
@@ -89,6 +100,7 @@ void PaintScreen(HWND hwnd) {
     const HDC dc = BeginPaint(hwnd, &paint);
     RECT area;
     GetClientRect(hwnd, &area);
+    PaintBackground(dc, area, 0);
     const RECT work = shell::WorkArea();
     const RECT top = {0, 0, area.right, work.top};
     const RECT bottom = {0, work.bottom, area.right, area.bottom};
@@ -116,19 +128,39 @@ void PaintItems(HWND hwnd) {
     PAINTSTRUCT paint;
     const HDC dc = BeginPaint(hwnd, &paint);
     RECT row = FirstRow(hwnd);
-    const RECT line = {0, 0, row.right + row.left, shell::Scale(1)};
+    RECT area;
+    GetClientRect(hwnd, &area);
+    PaintBackground(dc, area, ItemsTop());
+    const RECT line = {0, 0, area.right, shell::Scale(1)};
     shell::FillColor(dc, line, kLineColor);
     TextPainter(dc, row, FW_BOLD).Draw(L"Lum Diary");
     OffsetRect(&row, 0, row.bottom);
     TextPainter text(dc, row, FW_NORMAL);
-    if (events.empty()) text.Draw(L"Nothing has happened yet.");
+    if (events.empty()) text.Draw(L"Tap here to set it up.");
     for (const std::wstring& event : events) text.Draw(event.c_str());
     EndPaint(hwnd, &paint);
+}
+
+// The program lies beside this one. One that runs already comes forward.
+void StartProgram() {
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, path, MAX_PATH - 1);
+    std::wstring program = path;
+    program.replace(program.rfind(L'\\') + 1, std::wstring::npos, L"DiarySettings.exe");
+    PROCESS_INFORMATION process = {};
+    if (!CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        nullptr, &process)) {
+        Note(L"The program does not start", L"", L"no program");
+        return;
+    }
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
 }
 
 LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT: PaintScreen(hwnd); return 0;
+        case WM_ERASEBKGND: return TRUE;
         case TODAYM_GETCOLOR: return Color(wParam);
         case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
         case WM_WINDOWPOSCHANGING:
@@ -136,8 +168,11 @@ LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
             reinterpret_cast<WINDOWPOS*>(lParam)->hwndInsertAfter = HWND_BOTTOM;
             return 0;
         case WM_WININICHANGE:
-            if (wParam == kReloadItems)
-                Note(L"Today items reloaded", L"WM_WININICHANGE wParam=242");
+            if (wParam == kReloadItems) {
+                picture->Load();
+                InvalidateRect(hwnd, nullptr, TRUE);
+                Note(L"Today items reloaded", L"", L"WM_WININICHANGE wParam=242");
+            }
             return 0;
         case WM_DESTROY: PostQuitMessage(0); return 0;
     }
@@ -148,6 +183,8 @@ LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
 LRESULT CALLBACK ItemsProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PAINT: PaintItems(hwnd); return 0;
+        case WM_ERASEBKGND: return TRUE;
+        case WM_LBUTTONUP: StartProgram(); return 0;
         case TODAYM_GETCOLOR: return Color(wParam);
     }
     return DefWindowProcW(hwnd, message, wParam, lParam);
@@ -158,7 +195,7 @@ LRESULT CALLBACK PluginProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
         wchar_t text[128];
         swprintf(text, 128, L"LumDiary_UpdateSettings wParam=%d lParam=%d",
                  static_cast<int>(wParam), static_cast<int>(lParam));
-        Note(lParam ? L"Tabs rebuilt" : L"Settings reloaded", text);
+        Note(L"Settings reloaded", lParam ? L", tabs rebuilt" : L"", text);
         return 0;
     }
     return DefWindowProcW(hwnd, message, wParam, lParam);
@@ -170,7 +207,6 @@ HWND Create(const wchar_t* className, const wchar_t* title, WNDPROC procedure, D
     windowClass.lpfnWndProc = procedure;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
-    windowClass.hbrBackground = CreateSolidBrush(kBackground);
     windowClass.lpszClassName = className;
     RegisterClassW(&windowClass);
     return CreateWindowExW(extendedStyle, className, title, style, area.left, area.top,
@@ -182,12 +218,14 @@ HWND Create(const wchar_t* className, const wchar_t* title, WNDPROC procedure, D
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
     updateMessage = RegisterWindowMessageW(L"LumDiary_UpdateSettings");
+    TodayPicture ownersPicture;
+    picture = &ownersPicture;
     const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     const HWND today =
         Create(L"DesktopExplorerWindow", L"Desktop", TodayProcedure, WS_POPUP | WS_CLIPCHILDREN,
                WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, screen, nullptr);
     RECT items = shell::WorkArea();
-    items.top += shell::Scale(30);
+    items.top = ItemsTop();
     itemsWindow =
         Create(L"TodayItems", L"", ItemsProcedure, WS_CHILD | WS_VISIBLE, 0, items, today);
     Create(L"LumDiaryTimeHelperWnd_1.0", L"", PluginProcedure, WS_POPUP, WS_EX_NOACTIVATE, screen,
