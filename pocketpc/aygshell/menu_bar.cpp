@@ -19,6 +19,7 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"menu_worker";
 constexpr UINT kPress = WM_APP;  // wParam: index of the button
+constexpr UINT kCommandTaken = WM_APP + 1;
 // Menus have no command of their own; their buttons get ids that no program uses.
 constexpr int kFirstMenuButton = 0xF000;
 
@@ -82,6 +83,13 @@ class MenuBar {
         return PostMessageW(hwnd_, kPress, index, 0) != FALSE;
     }
 
+    void LightCommanded() {
+        if (commanded_ >= 0) SetPressed(commanded_);
+    }
+    void Unlight() {
+        if (pressed_ >= 0) SetPressed(-1);
+    }
+
   private:
     // Where no window manager runs, Wine raises the focused window even above topmost ones. A
     // window that reaches under the bar therefore leaves the bar's place free.
@@ -120,6 +128,7 @@ class MenuBar {
                 bar->Press(bar->ButtonAt(static_cast<short>(LOWORD(lParam))));
                 return 0;
             case kPress: bar->Press(static_cast<int>(wParam)); return 0;
+            case kCommandTaken: bar->commanded_ = -1; return 0;
             case TB_BUTTONCOUNT: return static_cast<LRESULT>(bar->buttons_.size());
             case TB_GETBUTTON: return bar->GetButton(wParam, reinterpret_cast<TBBUTTON*>(lParam));
             case TB_GETBUTTONINFOW:
@@ -208,6 +217,9 @@ class MenuBar {
         const Button button = buttons_[index];
         if (!button.menu) {
             PostMessageW(parent_, WM_COMMAND, button.id, 0);
+            // Whatever loop the command runs, it takes this message once any menu is open.
+            commanded_ = index;
+            PostMessageW(hwnd_, kCommandTaken, 0, 0);
             return;
         }
         RECT rect = ButtonRect(index);
@@ -262,6 +274,7 @@ class MenuBar {
     bool hidden_;
     HWND hwnd_ = nullptr;
     int pressed_ = -1;
+    int commanded_ = -1;  // the button whose command is on its way
 };
 
 std::vector<MenuBar::Button> ButtonsOf(HMENU menu) {
@@ -283,6 +296,18 @@ std::vector<MenuBar::Button> ButtonsOf(HMENU menu) {
 void ShowMenuBarsOf(HWND root) {
     for (MenuBar* menuBar : MenuBar::All()) {
         menuBar->Show(menuBar->BelongsTo(root) && menuBar->IsWanted());
+    }
+}
+
+void MenuOpened(HWND owner) {
+    for (MenuBar* menuBar : MenuBar::All()) {
+        if (menuBar->BelongsTo(GetAncestor(owner, GA_ROOT))) menuBar->LightCommanded();
+    }
+}
+
+void MenuClosed(HWND owner) {
+    for (MenuBar* menuBar : MenuBar::All()) {
+        if (menuBar->BelongsTo(GetAncestor(owner, GA_ROOT))) menuBar->Unlight();
     }
 }
 

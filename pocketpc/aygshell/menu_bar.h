@@ -6,5 +6,10 @@
 // hides those of other windows.
 void ShowMenuBarsOf(HWND root);
 
+// To be called when a popup menu of a window opens or closes: the soft key whose command opened it
+// is lit meanwhile, as it is for a menu of the bar's own.
+void MenuOpened(HWND owner);
+void MenuClosed(HWND owner);
+
 // Presses a soft key of the window's menu bar as a tap does. False when the bar has none such.
 bool PressSoftKey(HWND root, int index);

@@ -156,6 +156,8 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
                 }
                 break;
             }
+            case WM_ENTERMENULOOP: MenuOpened(message.hwnd); break;
+            case WM_EXITMENULOOP: MenuClosed(message.hwnd); break;
             case WM_DESTROY:
                 if (const auto menuBar =
                         static_cast<HWND>(GetPropW(message.hwnd, shell::kMenuBar))) {

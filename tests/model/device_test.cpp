@@ -179,8 +179,9 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     // A console, if the viewer wanted one, would be a window of its own.
     ASSERT_TRUE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE,
                                nullptr, nullptr, nullptr, &process));
+    constexpr DWORD kReadingTime = 300;  // Focus has settled before a person can answer.
     const DWORD start = GetTickCount();
-    bool said = false;
+    DWORD said = 0;
     while ((WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT ||
             GetForegroundWindow() != asking) &&
            GetTickCount() - start < 10'000) {
@@ -188,10 +189,10 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
         const HWND box = FindWindowW(L"#32770", L"Help");
         if (!box || !IsWindowVisible(box)) continue;
-        said = true;
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
+        if (!said) said = GetTickCount();
+        if (GetTickCount() - said > kReadingTime) PostMessageW(box, WM_COMMAND, IDOK, 0);
     }
-    EXPECT_TRUE(said);
+    EXPECT_NE(said, 0u);
     EXPECT_EQ(GetForegroundWindow(), asking);
     DestroyWindow(asking);
     DWORD code = 0;

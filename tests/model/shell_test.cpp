@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -63,12 +64,25 @@ class Frame {
 
     static inline std::vector<int> commands;
     static inline HMENU openedMenu = nullptr;
+    static inline HMENU commandsMenu = nullptr;  // opened by any command
+    static inline COLORREF keyColor = 0;         // of the right soft key under a menu
+
+    static COLORREF RightKeyColor(HWND bar) {
+        const HDC dc = GetDC(bar);
+        const COLORREF color = GetPixel(dc, GetSystemMetrics(SM_CXSCREEN) - 4, kBar / 2);
+        ReleaseDC(bar, dc);
+        return color;
+    }
 
   private:
     static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
-            case WM_COMMAND: commands.push_back(LOWORD(wParam)); return 0;
+            case WM_COMMAND:
+                commands.push_back(LOWORD(wParam));
+                if (commandsMenu) TrackPopupMenuEx(commandsMenu, 0, 9, 99, hwnd, nullptr);
+                return 0;
             case WM_INITMENUPOPUP:
+                keyColor = RightKeyColor(SHFindMenuBar(hwnd));
                 openedMenu = reinterpret_cast<HMENU>(wParam);
                 EndMenu();
                 return 0;
@@ -124,6 +138,23 @@ TEST(MenuBar, AnswersAsAToolBar) {
     info.cbSize = 32;  // the device's size
     EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), -1);
     EXPECT_FALSE(SendMessageW(bar, TB_GETBUTTON, 2, reinterpret_cast<LPARAM>(&buttons[0])));
+}
+
+TEST(MenuBar, LightsTheKeyWhoseCommandOpensAMenu) {
+    const Frame frame;
+    const HWND bar = frame.CreateMenuBar(SHCMBF_HMENU);
+    Pump();
+    const COLORREF dark = Frame::RightKeyColor(bar);
+    Frame::commandsMenu = CreatePopupMenu();
+    AppendMenuW(Frame::commandsMenu, MF_STRING, 301, L"One");
+    Click(bar, GetSystemMetrics(SM_CXSCREEN) - 20, kBar / 2);
+    EXPECT_EQ(Frame::openedMenu, Frame::commandsMenu);
+    EXPECT_NE(Frame::keyColor, dark);
+    EXPECT_EQ(Frame::RightKeyColor(bar), dark);
+    // A menu that no soft key has asked for.
+    TrackPopupMenuEx(Frame::commandsMenu, 0, 9, 99, frame.hwnd(), nullptr);
+    EXPECT_EQ(Frame::keyColor, dark);
+    DestroyMenu(std::exchange(Frame::commandsMenu, nullptr));
 }
 
 TEST(MenuBar, ShowsWithItsWindowAndDiesWithIt) {
