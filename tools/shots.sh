@@ -143,22 +143,24 @@ sheet_titles() {
     printf '(%s%s)' "$titles" "$(translate 'Category Icons')"
 }
 
-# Entry and page, and name, of every page and dialog there is. A dialog that is reached from there follows as the
-# keys that lead to it, each with the title it brings up: KEY=TITLE, with "_" for a blank.
-GALLERY_PAGES=(
-    "0:0 general_common" "0:1 general_short_date" "0:2 general_long_date" "0:3 general_font"
-    "0:4 general_group_style" "0:5 general_tabs" "0:6 general_skins" "0:7 general_auto_return"
-    "1:0 calendar_common" "1:1 calendar_show" "1:2 calendar_tasks" "1:3 calendar_titles"
-    "2:0 tasks_common" "2:1 tasks_view_style" "2:2 tasks_icons"
-    "3:0 contacts_common" "3:0 contacts_view_style ctrl+Tab=" "3:0 contacts_icons ctrl+Tab= ctrl+Tab="
+# What is reached from the main screen or from a page and is no page itself: entry and page, name, and the keys
+# that lead to it, each with the title it brings up: KEY=TITLE, with "_" for a blank.
+GALLERY_DIALOGS=(
     "3:0 layouts_select Tab= Tab= Tab= Tab= Down= Down=Keyboard_layouts"
-    "4:0 notes_common" "4:0 notes_filter ctrl+Tab="
-    "5:0 messages_common" "5:1 messages_filter"
-    "6:0 special_events_common"
     "7:0 category_icons_main" "7:0 category_icons_chooser Return=Choose_icon"
     "7:0 category_icons_sources Return=Choose_icon F10=" "7:0 category_icons_colors Tab= Tab= Tab= space="
     "7:0 category_icons_folders Return=Choose_icon F10= Up= Return=Choose_folder"
 )
+
+# The same for every page, as the program's own tables have them. Some are only reached by turning to them.
+gallery_pages() {
+    local entry page how name turns
+    "$ROOT/tools/describe_program.sh" pages | while read -r entry page how name; do
+        turns=
+        [ "$how" = open ] || for (( ; page > 0; --page)); do turns+=' ctrl+Tab='; done
+        echo "$entry:$page $name$turns"
+    done
+}
 
 picture_page() { # FOLDER PAGE NAME KEYS...
     local folder=$1 page=$2 name=$3 key
@@ -177,7 +179,10 @@ picture_page() { # FOLDER PAGE NAME KEYS...
 # Every page on every screen, in English and in each language there is a translation for.
 run_gallery() { # OUTPUT
     rm -rf "$1"
-    local file
+    local file pages
+    mapfile -t pages < <(gallery_pages)
+    [ ${#pages[@]} -gt 0 ] || fail "The program told of no pages"
+    pages+=("${GALLERY_DIALOGS[@]}")
     LANGUAGE= take_gallery "$1"
     for file in "$ROOT"/shipped/translations/LumDiary_*.txt; do
         LANGUAGE=$(basename "$file" .txt)
@@ -204,7 +209,7 @@ take_gallery() { # OUTPUT
         await_window "$(translate About)"
         take_picture "$folder/about.png"
         close_program
-        for page in "${GALLERY_PAGES[@]}"; do
+        for page in "${pages[@]}"; do
             # shellcheck disable=SC2086  # Page, name and keys are words of it.
             picture_page "$folder" $page
         done

@@ -61,7 +61,7 @@ TEST(IconCatalogue, FindsTheFirstGroupAndRefusesWhatIsCut) {
     EXPECT_FALSE(catalogue.Read(Bytes{1, 0, 0, 0, 'A', 0, 'A', 0}));
 }
 
-TEST(BitmapHeader, LetsOnlyWholeBitmapsThrough) {
+TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
     struct Case {
         const char* what;
         std::uint32_t header, width, height, bits, compression, colors, pixels;

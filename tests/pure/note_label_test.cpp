@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "appearance/drawing/note_label.h"
-#include "settings/hidden_names.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -30,16 +29,6 @@ TEST(NoteLabel, FitsItsColumn) {
         EXPECT_EQ(RecordingLabel(c.number, L"."), c.duration) << c.number;
     }
     EXPECT_EQ(NoteSizeLabel(1536, L" ,"), L"1 ,51K");
-}
-
-TEST(HiddenNames, SplitAndJoin) {
-    using Names = std::vector<std::wstring>;
-    EXPECT_EQ(SplitHiddenNames(L""), Names{});
-    EXPECT_EQ(SplitHiddenNames(L"a||b"), (Names{L"a", L"", L"b"}));
-    EXPECT_EQ(SplitHiddenNames(L"|"), (Names{L"", L""}));
-    for (const wchar_t* const stored : {L"", L"a", L"a||b", L"|a|"}) {
-        EXPECT_EQ(JoinHiddenNames(SplitHiddenNames(stored)), stored);
-    }
 }
 
 }  // namespace
