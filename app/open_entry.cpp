@@ -61,7 +61,7 @@ bool OpenEntry(WPARAM entry, LPARAM page) {
     }
     if (entry >= std::size(kEntries) || kEntries[entry].pages.empty()) return false;
     const MainEntry& row = kEntries[entry];
-    ForgetTitleDraft();
+    SheetTitles titles;
     std::vector<std::unique_ptr<OptionsPage>> pages;  // Outlive the sheet.
     OptionsSheet sheet(GetLanguageTable().LoadString(row.caption));
     for (const PageDescription* const page : row.pages) {

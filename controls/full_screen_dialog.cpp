@@ -82,6 +82,7 @@ void FullScreenDialog::InitFullScreenDialog() {
     const bool focusFirst = OnInit();
     GetLanguageTable().TranslateWindow(hwnd());
     GetLanguageTable().TranslateMenuBar(hwnd());
+    OnTranslated();
     if (focusFirst) SetFocus(GetWindow(hwnd(), GW_CHILD));
 
     for (HWND child = GetWindow(hwnd(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {

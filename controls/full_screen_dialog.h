@@ -26,6 +26,9 @@ class FullScreenDialog : public Dialog {
     // The dialog's own initialisation, after the lists are filled and before texts are translated;
     // returns whether the first control shall have the focus.
     virtual bool OnInit() = 0;
+    // Once the texts are translated: shows names that are the owner's or the device's, which must
+    // not be, whatever a language file says.
+    virtual void OnTranslated() {}
     // WM_COMMAND of a control or menu; true when handled.
     virtual bool OnCommand(int id, int code);
     // The menu of the library that the menu bar shows; 0 leaves it empty.

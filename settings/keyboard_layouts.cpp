@@ -78,6 +78,13 @@ int KeyboardLayouts::PositionOf(const std::wstring& name) const {
     return -1;
 }
 
+bool KeyboardLayouts::IsBuiltIn(const std::wstring& name) {
+    for (const BuiltInLayout& layout : kBuiltInLayouts) {
+        if (name == layout.name) return true;
+    }
+    return false;
+}
+
 std::wstring KeyboardLayouts::NameOf(const KeyboardLayout* layout) const {
     for (const Entry& entry : entries_) {
         if (layout && entry.layout.get() == layout) return entry.name;

@@ -10,6 +10,9 @@
 // there when it lacks them. A layout keeps its address, by which it is known in tabs' lists.
 class KeyboardLayouts {
   public:
+    // Whether a layout of that name came with the program.
+    static bool IsBuiltIn(const std::wstring& name);
+
     KeyboardLayouts();
     virtual ~KeyboardLayouts() = default;
     KeyboardLayouts(const KeyboardLayouts&) = delete;

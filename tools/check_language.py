@@ -4,7 +4,8 @@
 usage: check_language.py TEMPLATE FILE
 
 Wrong are a text that has no translation, one that the program does not have, one that stands twice, a line that
-is too long, a second bar, and a translation with other placeholders (%s, %d) or line breaks than its text.
+is too long, a second bar, and a translation with other placeholders (%s, %d, or any % before
+a letter) or line breaks than its text.
 Texts without letters need none. A text that stays as it is, such as a name, is its own translation.
 """
 import collections
@@ -38,7 +39,8 @@ def read(path):
 
 
 def placeholders(text):
-    return sorted(re.findall(r"%[sd]", text)), text.count("\\n")
+    """In their order, which is that of what is put in, and the number of line breaks."""
+    return re.findall(r"%[A-Za-z]", text.replace("%%", "")), text.count("\\n")
 
 
 def main():
@@ -63,7 +65,7 @@ def main():
         elif not translation:
             errors.append((number, f'"{text}" has no translation'))
         elif placeholders(text) != placeholders(translation):
-            errors.append((number, f'"{text}" and its translation differ in %s, %d or \\n'))
+            errors.append((number, f'"{text}" and its translation differ in what begins with % or in \\n'))
         if len(seen[text]) > 1:
             errors.append((number, f'"{text}" stands in line {seen[text][0]} already'))
     for text in sorted(known - seen.keys()):

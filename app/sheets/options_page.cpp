@@ -46,7 +46,8 @@ HPROPSHEETPAGE OptionsPage::CreateHandle() {
     page.pszTemplate = MAKEINTRESOURCEW(templateId());
     page.pfnDlgProc = DialogProcedure;
     page.lParam = reinterpret_cast<LPARAM>(static_cast<Dialog*>(this));
-    return CreatePropertySheetPageW(&page);
+    handle_ = CreatePropertySheetPageW(&page);
+    return handle_;
 }
 
 bool OptionsPage::OnInit() {
@@ -58,6 +59,14 @@ bool OptionsPage::OnInit() {
     rows_.UpdateEnabled(*this);
     OnUpdate();
     return false;
+}
+
+void OptionsPage::RefreshRows() {
+    CDiarySettings& shared = GetDiarySettings();
+    if (rows_.HasSharedRows()) shared.Load();
+    ProductKeyValues values;
+    rows_.Refresh(*this, values, shared);
+    rows_.UpdateEnabled(*this);
 }
 
 bool OptionsPage::OnApply() {
@@ -93,6 +102,7 @@ std::optional<INT_PTR> OptionsPage::OnMessage(UINT message, WPARAM wParam, LPARA
 }
 
 bool OptionsPage::Refuse(int control, const std::wstring& reason) {
+    SendMessageW(GetParent(hwnd()), PSM_SETCURSEL, 0, reinterpret_cast<LPARAM>(handle_));
     MessageBoxW(GetParent(hwnd()), reason.c_str(),
                 GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), MB_ICONHAND);
     SetFocus(Item(control));
@@ -133,7 +143,7 @@ void OptionsPage::AddItem(int control, unsigned label, std::int32_t value) {
 void OptionsPage::AddItem(int control, const std::wstring& text, std::int32_t value) {
     const LRESULT index = SendDlgItemMessageW(hwnd(), control, CB_ADDSTRING, 0,
                                               reinterpret_cast<LPARAM>(text.c_str()));
-    SendDlgItemMessageW(hwnd(), control, CB_SETITEMDATA, index, value);
+    SetItemValue(control, static_cast<int>(index), value);
 }
 
 int OptionsPage::Selection(int control) const {
@@ -151,6 +161,10 @@ int OptionsPage::ItemCount(int control) const {
 std::int32_t OptionsPage::ItemValue(int control, int index) const {
     return static_cast<std::int32_t>(
         SendDlgItemMessageW(hwnd(), control, CB_GETITEMDATA, index, 0));
+}
+
+void OptionsPage::SetItemValue(int control, int index, std::int32_t value) {
+    SendDlgItemMessageW(hwnd(), control, CB_SETITEMDATA, index, value);
 }
 
 std::wstring OptionsPage::ItemText(int control, int index) const {

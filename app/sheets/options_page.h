@@ -22,6 +22,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
 
   protected:
     virtual bool OnSetActive() { return true; }
+    // Shows what others have stored meanwhile, but for what the user has changed here.
+    void RefreshRows();
     // Validates and stores; false keeps the sheet open on this page.
     virtual bool OnApply();
     // Called after the rows are loaded, and after they are stored but before the shared settings
@@ -32,7 +34,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     virtual void OnUpdate() {}
     // WM_NOTIFY of a control.
     virtual std::optional<INT_PTR> OnControlNotification(const NMHDR&) { return std::nullopt; }
-    // What OnApply answers when a control holds what cannot be stored: says why and goes there.
+    // What OnApply answers when a control holds what cannot be stored: comes to the front, says why
+    // and goes there.
     bool Refuse(int control, const std::wstring& reason);
 
     bool OnInit() override;
@@ -49,12 +52,14 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     void SetSelection(int control, int index) override;
     int ItemCount(int control) const override;
     std::int32_t ItemValue(int control, int index) const override;
+    void SetItemValue(int control, int index, std::int32_t value) override;
     std::wstring ItemText(int control, int index) const override;
 
   private:
     std::optional<INT_PTR> OnPageNotification(const NMHDR& header);
 
     PageRows rows_;
+    HPROPSHEETPAGE handle_ = nullptr;  // the sheet's
 };
 
 // For descriptions: makes a page of a class of its own.

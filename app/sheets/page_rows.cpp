@@ -4,24 +4,22 @@
 
 namespace {
 
-// A whole decimal number; `stored` for any other text.
-std::int32_t NumberOf(const std::wstring& text, std::int32_t stored) {
+// A whole decimal number; kNoNumber for any other text.
+std::int32_t NumberOf(const std::wstring& text) {
     constexpr std::size_t kMostDigits = 9;
-    if (text.empty() || text.size() > kMostDigits) return stored;
+    if (text.empty() || text.size() > kMostDigits) return kNoNumber;
     std::int32_t number = 0;
     for (const wchar_t c : text) {
-        if (c < L'0' || c > L'9') return stored;
+        if (c < L'0' || c > L'9') return kNoNumber;
         number = number * 10 + (c - L'0');
     }
     return number;
 }
 
-int IndexOfText(const PageControls& controls, int control, const std::wstring& text) {
-    const int count = controls.ItemCount(control);
-    for (int i = 0; i < count; ++i) {
-        if (controls.ItemText(control, i) == text) return i;
+void AddChoices(PageControls& controls, int control, const ValueLabel* choices) {
+    for (int i = 0; choices[i].label; ++i) {
+        controls.AddItem(control, choices[i].label, choices[i].value);
     }
-    return -1;
 }
 
 void Show(PageControls& controls, const Row& row, std::int32_t number) {
@@ -33,11 +31,8 @@ void Show(PageControls& controls, const Row& row, std::int32_t number) {
             controls.SetSelection(row.control, listed ? number : -1);
             break;
         }
-        case Row::Kind::kNumberText:
-            controls.SetSelection(row.control,
-                                  IndexOfText(controls, row.control, std::to_wstring(number)));
-            break;
-        case Row::Kind::kChoice: FillChoices(controls, row.control, row.choices, number); break;
+        case Row::Kind::kNumberText: SelectValue(controls, row.control, number); break;
+        case Row::Kind::kChoice: SelectValue(controls, row.control, number, 0); break;
         case Row::Kind::kNoValue:
         case Row::Kind::kOwn: break;
     }
@@ -49,14 +44,23 @@ bool HasValue(const Row& row) {
 
 }  // namespace
 
+void KeepNumbers(PageControls& controls, int control) {
+    const int count = controls.ItemCount(control);
+    for (int i = 0; i < count; ++i) {
+        controls.SetItemValue(control, i, NumberOf(controls.ItemText(control, i)));
+    }
+}
+
+void SelectValue(PageControls& controls, int control, std::int32_t value, int otherwise) {
+    int selected = controls.ItemCount(control) - 1;
+    while (selected >= 0 && controls.ItemValue(control, selected) != value) --selected;
+    controls.SetSelection(control, selected < 0 ? otherwise : selected);
+}
+
 void FillChoices(PageControls& controls, int control, const ValueLabel* choices,
                  std::int32_t value) {
-    int selected = 0;
-    for (int i = 0; choices[i].label; ++i) {
-        controls.AddItem(control, choices[i].label, choices[i].value);
-        if (choices[i].value == value) selected = i;
-    }
-    controls.SetSelection(control, selected);
+    AddChoices(controls, control, choices);
+    SelectValue(controls, control, value, 0);
 }
 
 std::int32_t ChosenValue(const PageControls& controls, int control, std::int32_t stored) {
@@ -77,12 +81,37 @@ void PageRows::Load(PageControls& controls, PageValues& values, const CDiarySett
             controls.Enable(row.control, false);
         }
         if (!HasValue(row)) continue;
-        NumberSetting setting = row.setting;
-        if (!state.present && row.defaultWithout) setting.defaultValue = *row.defaultWithout;
-        state.loaded =
-            row.shared ? shared.*row.shared : static_cast<std::int32_t>(values.Read(setting));
+        state.loaded = Stored(i, values, shared);
+        if (row.kind == Row::Kind::kNumberText) KeepNumbers(controls, row.control);
+        if (row.kind == Row::Kind::kChoice) AddChoices(controls, row.control, row.choices);
         Show(controls, row, state.loaded);
     }
+}
+
+void PageRows::Refresh(PageControls& controls, PageValues& values, const CDiarySettings& shared) {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const Row& row = rows_[i];
+        State& state = states_[i];
+        if (!HasValue(row) || (row.removedWithout && !state.present)) continue;
+        const std::int32_t stored = Stored(i, values, shared);
+        if (row.whileOff != Row::WhileOff::kShown && !state.enabled) {
+            state.loaded = stored;
+            state.keptChecked = stored != 0;
+            continue;
+        }
+        if (stored == state.loaded || Edited(controls, i) != state.loaded) continue;
+        state.loaded = stored;
+        Show(controls, row, stored);
+    }
+}
+
+std::int32_t PageRows::Stored(std::size_t index, PageValues& values,
+                              const CDiarySettings& shared) const {
+    const Row& row = rows_[index];
+    if (row.shared) return shared.*row.shared;
+    NumberSetting setting = row.setting;
+    if (!states_[index].present && row.defaultWithout) setting.defaultValue = *row.defaultWithout;
+    return static_cast<std::int32_t>(values.Read(setting));
 }
 
 std::int32_t PageRows::Edited(const PageControls& controls, std::size_t index) const {
@@ -98,9 +127,8 @@ std::int32_t PageRows::Edited(const PageControls& controls, std::size_t index) c
             return selection < 0 ? state.loaded : selection;
         }
         case Row::Kind::kNumberText: {
-            const int selection = controls.Selection(row.control);
-            if (selection < 0) return state.loaded;
-            return NumberOf(controls.ItemText(row.control, selection), state.loaded);
+            const std::int32_t number = ChosenValue(controls, row.control, kNoNumber);
+            return number == kNoNumber ? state.loaded : number;
         }
         case Row::Kind::kChoice: return ChosenValue(controls, row.control, state.loaded);
         case Row::Kind::kNoValue:

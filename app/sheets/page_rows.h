@@ -23,6 +23,7 @@ class PageControls {
     virtual void SetSelection(int control, int index) = 0;
     virtual int ItemCount(int control) const = 0;
     virtual std::int32_t ItemValue(int control, int index) const = 0;  // as given to AddItem
+    virtual void SetItemValue(int control, int index, std::int32_t value) = 0;
     virtual std::wstring ItemText(int control, int index) const = 0;
 };
 
@@ -150,6 +151,14 @@ constexpr Row Own(int control, DisplayPattern CDiarySettings::*pattern) {
 
 }  // namespace rows
 
+// For a fixed list whose texts are numbers: keeps them as the entries' values, before the texts are
+// translated; an entry that is no number selects as kNoNumber.
+inline constexpr std::int32_t kNoNumber = INT32_MIN;
+void KeepNumbers(PageControls& controls, int control);
+
+// Selects the entry of a value, or that of an index (-1: none) when the list has no such value.
+void SelectValue(PageControls& controls, int control, std::int32_t value, int otherwise = -1);
+
 // Fills a list and selects the entry of `value`, or the first one when the list has no such value.
 void FillChoices(PageControls& controls, int control, const ValueLabel* choices,
                  std::int32_t value);
@@ -165,6 +174,8 @@ class PageRows {
 
     // Shows the stored numbers, in the order of the rows: a first read creates the value.
     void Load(PageControls& controls, PageValues& values, const CDiarySettings& shared);
+    // Shows what others have stored meanwhile, but for what the user has changed here.
+    void Refresh(PageControls& controls, PageValues& values, const CDiarySettings& shared);
     // Stores every row. An entry that the list does not have stays as it was loaded.
     void Save(const PageControls& controls, PageValues& values, CDiarySettings& shared) const;
     // Enables what the check boxes enable; to be called when all is loaded and after each click.
@@ -179,6 +190,7 @@ class PageRows {
         bool present = true;  // what the row needs of the device
     };
 
+    std::int32_t Stored(std::size_t index, PageValues& values, const CDiarySettings& shared) const;
     std::int32_t Edited(const PageControls& controls, std::size_t index) const;
 
     std::span<const Row> rows_;

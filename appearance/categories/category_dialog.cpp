@@ -58,7 +58,10 @@ bool CategoryDialog::OnInit() {
         SetWindowLongPtrW(slider, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SliderProcedure)));
     FitListToScreen();
     CreateListColumn();
-    ListCategories(0);
+    // The first that still has a name.
+    int first = 0;
+    while (first < categories_.Count() && categories_.At(first).name.empty()) ++first;
+    ListCategories(first);
     categories_.AddListener(this);
     return false;
 }

@@ -2,7 +2,6 @@
 
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
-#include "pages/shared/title_draft.h"
 #include "pages/shared/title_page.h"
 #include "resources/ids.h"
 
@@ -67,15 +66,12 @@ void CalendarTitlesPage::OnLoad(PageValues& values) {
 }
 
 DisplayPattern& CalendarTitlesPage::Edited() const {
-    return GetTitleDraft().*kLists[Selection(IDC_TITLE_LIST)].pattern;
+    return Draft().*kLists[Selection(IDC_TITLE_LIST)].pattern;
 }
 
 // An unknown mode shows as none, and stays unless another is chosen.
 bool CalendarTitlesPage::OnSetActive() {
-    SetSelection(IDC_TITLE_MODE, -1);
-    for (int i = 0; kSubjectModes[i].label; ++i) {
-        if (kSubjectModes[i].value == Edited().mode) SetSelection(IDC_TITLE_MODE, i);
-    }
+    SelectValue(*this, IDC_TITLE_MODE, Edited().mode);
     return TitlePage::OnSetActive();
 }
 

@@ -24,7 +24,8 @@ class ContactsCommonPage : public OptionsPage {
     using OptionsPage::OptionsPage;
 
   protected:
-    void OnLoad(PageValues& values) override;
+    bool OnSetActive() override;
+    void OnTranslated() override;
     void OnSave(PageValues& values) override;
     bool OnCommand(int id, int code) override;
 
@@ -32,7 +33,13 @@ class ContactsCommonPage : public OptionsPage {
     LayoutDropDown layouts_{IDC_CONTACT_LAYOUT, L"Contacts"};
 };
 
-void ContactsCommonPage::OnLoad(PageValues&) { layouts_.Load(hwnd()); }
+// Other programs may have changed the settings while another page was in front.
+bool ContactsCommonPage::OnSetActive() {
+    RefreshRows();
+    return true;
+}
+
+void ContactsCommonPage::OnTranslated() { layouts_.Load(hwnd()); }
 
 void ContactsCommonPage::OnSave(PageValues&) { layouts_.Save(); }
 

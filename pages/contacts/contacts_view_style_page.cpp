@@ -3,7 +3,6 @@
 #include <vector>
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
-#include "pages/shared/title_draft.h"
 #include "pages/shared/title_page.h"
 #include "resources/ids.h"
 #include "settings/contact_name.h"
@@ -60,7 +59,7 @@ class ContactsViewStylePage : public TitlePage {
     std::vector<PreviewedContact> samples_;
 };
 
-DisplayPattern& ContactsViewStylePage::Edited() const { return GetTitleDraft().contact; }
+DisplayPattern& ContactsViewStylePage::Edited() const { return Draft().contact; }
 
 void ContactsViewStylePage::OnLoad(PageValues& values) {
     samples_ = SampleContacts();

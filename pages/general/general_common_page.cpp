@@ -43,14 +43,18 @@ class GeneralCommonPage : public OptionsPage {
 
   protected:
     void OnLoad(PageValues& values) override;
+    void OnTranslated() override;
     void OnSave(PageValues& values) override;
     void OnUpdate() override;
     bool OnApply() override;
 
   private:
     void FillPims(std::int32_t current);
+    // What a height that adjusts itself was before is neither checked nor stored.
+    bool HeightIsEdited() const { return IsWindowEnabled(Item(IDC_HEIGHT)) != FALSE; }
 
     int smallest_ = 0;  // pixels
+    int shown_ = 0;     // the height in pixels that the page opens with
     bool landscape_ = false;
 };
 
@@ -72,9 +76,14 @@ void GeneralCommonPage::OnLoad(PageValues& values) {
     UDACCEL step = {0, kHeightStep};
     SendMessageW(spin, UDM_SETRANGE32, smallest_, kLargestHeight);
     SendMessageW(spin, UDM_SETACCEL, 1, reinterpret_cast<LPARAM>(&step));
-    SendMessageW(spin, UDM_SETPOS32, 0, std::min(shown, kLargestHeight));
+    shown_ = std::min(shown, kLargestHeight);
 
     FillPims(static_cast<std::int32_t>(values.Read(settings::CurrentPIM)));
+}
+
+// A number in an edit field is no text of the program's.
+void GeneralCommonPage::OnTranslated() {
+    SendDlgItemMessageW(hwnd(), IDC_HEIGHT_SPIN, UDM_SETPOS32, 0, shown_);
 }
 
 void GeneralCommonPage::FillPims(std::int32_t current) {
@@ -98,6 +107,7 @@ void GeneralCommonPage::OnUpdate() {
 }
 
 bool GeneralCommonPage::OnApply() {
+    if (!HeightIsEdited()) return OptionsPage::OnApply();
     const int height = static_cast<int>(GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
     if (height < smallest_ || height > kLargestHeight) {
         return Refuse(IDC_HEIGHT, FillIn(GetLanguageTable().LoadString(IDS_HEIGHT_REFUSED),
@@ -107,8 +117,10 @@ bool GeneralCommonPage::OnApply() {
 }
 
 void GeneralCommonPage::OnSave(PageValues& values) {
-    values.Write(settings::HeightFor(landscape_, smallest_),
-                 GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+    if (HeightIsEdited()) {
+        values.Write(settings::HeightFor(landscape_, smallest_),
+                     GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+    }
     values.Write(settings::CurrentPIM, static_cast<std::uint32_t>(ChosenValue(*this, IDC_PIM, 0)));
 }
 

@@ -36,6 +36,7 @@ class GeneralFontPage : public OptionsPage {
 
   protected:
     void OnLoad(PageValues& values) override;
+    void OnTranslated() override;
     void OnSave(PageValues& values) override;
     void OnUpdate() override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
@@ -54,13 +55,17 @@ class GeneralFontPage : public OptionsPage {
 
 void GeneralFontPage::OnLoad(PageValues& values) {
     metricsMessage_ = RegisterWindowMessageW(L"SH_UIMETRIC_CHANGE");
-    FillFaces();
+    KeepNumbers(*this, IDC_FONT_SIZE);
     current_.clearType = values.Read(settings::ClearTypeOnPage);
     current_.height = static_cast<std::int32_t>(values.Read(settings::FontHeight));
     current_.face = values.Read(settings::FontName);
     SetDlgItemTextW(hwnd(), IDC_FONT_EXPLANATION,
                     GetLanguageTable().LoadString(IDS_FONT_EXPLANATION).c_str());
     if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem();
+}
+
+void GeneralFontPage::OnTranslated() {
+    FillFaces();
     ShowFont();
 }
 
@@ -71,13 +76,11 @@ void GeneralFontPage::FillFaces() {
 
 // Selects the current font in the lists; what a list does not have leaves it without a selection.
 void GeneralFontPage::ShowFont() {
-    const auto select = [this](int control, const std::wstring& text) {
-        SetSelection(control, static_cast<int>(SendDlgItemMessageW(
-                                  hwnd(), control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                  reinterpret_cast<LPARAM>(text.c_str()))));
-    };
-    select(IDC_FONT_FACE, current_.face);
-    select(IDC_FONT_SIZE, std::to_wstring(current_.height));
+    SetSelection(IDC_FONT_FACE,
+                 static_cast<int>(SendDlgItemMessageW(
+                     hwnd(), IDC_FONT_FACE, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                     reinterpret_cast<LPARAM>(current_.face.c_str()))));
+    SelectValue(*this, IDC_FONT_SIZE, current_.height);
     SetSelection(IDC_FONT_CLEARTYPE,
                  current_.clearType < static_cast<unsigned>(ItemCount(IDC_FONT_CLEARTYPE))
                      ? static_cast<int>(current_.clearType)
@@ -104,10 +107,7 @@ void GeneralFontPage::OnUpdate() {
     if (const int face = Selection(IDC_FONT_FACE); face >= 0) {
         chosen.face = ItemText(IDC_FONT_FACE, face);
     }
-    if (const int size = Selection(IDC_FONT_SIZE); size >= 0) {
-        chosen.height =
-            static_cast<std::int32_t>(wcstol(ItemText(IDC_FONT_SIZE, size).c_str(), nullptr, 10));
-    }
+    chosen.height = ChosenValue(*this, IDC_FONT_SIZE, chosen.height);
     if (const int clearType = Selection(IDC_FONT_CLEARTYPE); clearType >= 0) {
         chosen.clearType = static_cast<std::uint32_t>(clearType);
     }

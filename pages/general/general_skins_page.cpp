@@ -25,7 +25,7 @@ class GeneralSkinsPage : public OptionsPage {
     using OptionsPage::OptionsPage;
 
   protected:
-    bool OnInitDialog() override;
+    void OnTranslated() override;
     bool OnCommand(int id, int code) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
@@ -37,11 +37,9 @@ class GeneralSkinsPage : public OptionsPage {
     std::wstring startingSkin_;
 };
 
-bool GeneralSkinsPage::OnInitDialog() {
-    const bool focus = OptionsPage::OnInitDialog();
+void GeneralSkinsPage::OnTranslated() {
     GetSkinArt().Reset();  // Imported settings may name another skin.
-    ListSkins();           // Now, as the page's texts are translated and names must not be.
-    return focus;
+    ListSkins();
 }
 
 void GeneralSkinsPage::ListSkins() {

@@ -63,7 +63,7 @@ class MessagesFilterPage : public OptionsPage {
     using OptionsPage::OptionsPage;
 
   protected:
-    bool OnInitDialog() override;
+    void OnTranslated() override;
     bool OnApply() override;
     void OnSave(PageValues& values) override;
     void OnUpdate() override;
@@ -100,9 +100,7 @@ class MessagesFilterPage : public OptionsPage {
     bool activeDeleted_ = false;
 };
 
-bool MessagesFilterPage::OnInitDialog() {
-    const bool focus = OptionsPage::OnInitDialog();
-    // Now, as the page's texts are translated and names of folders and filters must not be.
+void MessagesFilterPage::OnTranslated() {
     const WaitCursor wait;
     LoadFilters();
     SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER_NAME, CB_LIMITTEXT, kLongestName, 0);
@@ -110,7 +108,6 @@ bool MessagesFilterPage::OnInitDialog() {
     const int active = GetMailFoldersFilters().FindByName(active_);
     const bool listed = active >= 0 && !GetMailFoldersFilters().filters()[active].entries.empty();
     Choose(listed ? active : kNewFilter);
-    return focus;
 }
 
 void MessagesFilterPage::LoadFilters() {

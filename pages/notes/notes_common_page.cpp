@@ -56,7 +56,7 @@ class NotesCommonPage : public OptionsPage {
     using OptionsPage::OptionsPage;
 
   protected:
-    void OnLoad(PageValues& values) override;
+    void OnTranslated() override;
     void OnSave(PageValues& values) override;
     bool OnCommand(int id, int code) override;
     void OnUpdate() override;
@@ -66,7 +66,7 @@ class NotesCommonPage : public OptionsPage {
     LayoutDropDown layouts_{IDC_NOTES_LAYOUT, L"Notes"};
 };
 
-void NotesCommonPage::OnLoad(PageValues&) { layouts_.Load(hwnd()); }
+void NotesCommonPage::OnTranslated() { layouts_.Load(hwnd()); }
 
 void NotesCommonPage::OnSave(PageValues&) { layouts_.Save(); }
 

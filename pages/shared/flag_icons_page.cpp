@@ -35,8 +35,9 @@ class FlagIconsPage : public OptionsPage {
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
   private:
-    DisplayPattern& Edited() const { return GetTitleDraft().*pattern_; }
+    DisplayPattern& Edited() const { return titles_.Draft().*pattern_; }
 
+    SheetTitles& titles_ = SheetTitles::Innermost();
     DisplayPattern TitleDraft::*pattern_;
     ItemIcon icon_;
     unsigned sample_;
@@ -59,7 +60,7 @@ bool FlagIconsPage::OnCommand(int id, int code) {
     return OptionsPage::OnCommand(id, code);
 }
 
-void FlagIconsPage::OnSave(PageValues&) { StoreTitleDraft(); }
+void FlagIconsPage::OnSave(PageValues&) { titles_.Store(); }
 
 void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     if (item.CtlID == IDC_TITLE_PREVIEW) {

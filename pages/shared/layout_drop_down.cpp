@@ -21,7 +21,9 @@ void LayoutDropDown::Load(HWND page) {
     Fill();
 }
 
-void LayoutDropDown::Save() const {
+void LayoutDropDown::Save() {
+    // In a list that is still down the keys have moved, but nothing has been chosen yet.
+    if (SelectedValue() != kSelectLayouts) TakeSelection();
     OfferedLayouts offered = selection_.offered;
     if (!offered.Active()) offered.active = -1;
     GetKeyboardLayouts().SaveOffered(tab_, offered);
@@ -41,8 +43,7 @@ void LayoutDropDown::Fill() {
     const LanguageTable& language = GetLanguageTable();
     Send(CB_RESETCONTENT);
     for (const KeyboardLayout* const layout : selection_.offered.layouts) {
-        Add(language.Translate(GetKeyboardLayouts().NameOf(layout)),
-            reinterpret_cast<LPARAM>(layout));
+        Add(LayoutLabel(GetKeyboardLayouts().NameOf(layout)), reinterpret_cast<LPARAM>(layout));
     }
     Add(language.LoadString(IDS_NO_LAYOUT), kNoLayout);
     Add(language.LoadString(IDS_SELECT_LAYOUTS), kSelectLayouts);
@@ -76,14 +77,17 @@ void LayoutDropDown::OnCommand(int id, int code) {
 void LayoutDropDown::OnChosen() {
     // While the list is down, its keys only move over the entries.
     if (Send(CB_GETDROPPEDSTATE)) return;
-    const LRESULT index = Send(CB_GETCURSEL);
     if (SelectedValue() == kSelectLayouts) {
         // Later: the list has not done with its closing yet.
         PostMessageW(page_, WM_COMMAND, MAKEWPARAM(control_, kOpenDialog), 0);
     } else {
-        selection_.offered.active = static_cast<std::int32_t>(index);
-        if (!selection_.offered.Active()) selection_.offered.active = -1;
+        TakeSelection();
     }
+}
+
+void LayoutDropDown::TakeSelection() {
+    selection_.offered.active = static_cast<std::int32_t>(Send(CB_GETCURSEL));
+    if (!selection_.offered.Active()) selection_.offered.active = -1;
 }
 
 void LayoutDropDown::OpenDialog() {

@@ -14,10 +14,11 @@ class LayoutDropDown {
     // `tab` is the tab's name in the registry.
     LayoutDropDown(int control, const wchar_t* tab) : control_(control), tab_(tab) {}
 
-    // Shows what is stored, in a page that has just loaded the shared settings.
+    // Shows what is stored, in a page that has just loaded the shared settings and whose texts are
+    // translated.
     void Load(HWND page);
     // Stores the choice; the page has yet to save the shared settings.
-    void Save() const;
+    void Save();
     void OnCommand(int id, int code);
 
   private:
@@ -27,6 +28,7 @@ class LayoutDropDown {
     void ShowActive();
     LPARAM SelectedValue() const;
     void OnChosen();
+    void TakeSelection();
     void OpenDialog();
 
     int control_;

@@ -8,6 +8,10 @@
 #include "resources/ids.h"
 #include "settings/keyboard_layouts.h"
 
+std::wstring LayoutLabel(const std::wstring& name) {
+    return KeyboardLayouts::IsBuiltIn(name) ? GetLanguageTable().Translate(name) : name;
+}
+
 LayoutsDialog::LayoutsDialog(std::wstring title, LayoutSelection& selection)
     : FullScreenDialog(IDD_LAYOUTS_SELECT, L"options_layouts_select"),
       title_(std::move(title)),
@@ -28,7 +32,7 @@ void LayoutsDialog::ShowRows() {
     for (int i = 0; i < layouts.Count(); ++i) {
         const KeyboardLayout* const layout = layouts.At(i);
         if (!layout) continue;
-        list_.Insert(list_.Count(), GetLanguageTable().Translate(layouts.NameAt(i)), i,
+        list_.Insert(list_.Count(), LayoutLabel(layouts.NameAt(i)), i,
                      selection_.offered.Contains(layout));
     }
     list_.FitColumn();

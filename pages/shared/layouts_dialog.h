@@ -12,6 +12,9 @@ struct LayoutSelection {
     std::int32_t noLanguageSwitch = 0;
 };
 
+// A layout's name as it is shown: translated where it is the program's own.
+std::wstring LayoutLabel(const std::wstring& name);
+
 // Chooses among all keyboard layouts those that a tab offers.
 class LayoutsDialog : public FullScreenDialog {
   public:

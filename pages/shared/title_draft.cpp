@@ -1,29 +1,33 @@
 #include "pages/shared/title_draft.h"
 
-#include <optional>
-
 #include "settings/diary_settings.h"
 
 namespace {
 
-std::optional<TitleDraft> draft;
+void StoreChanges(const DisplayPattern& edited, DisplayPattern& stored, DisplayPattern& shared) {
+    if (edited.mode != stored.mode) shared.mode = edited.mode;
+    if (edited.before != stored.before || edited.after != stored.after) {
+        shared.before = edited.before;
+        shared.after = edited.after;
+    }
+    stored = edited;
+}
 
 }  // namespace
 
-TitleDraft& GetTitleDraft() {
-    if (!draft) {
+TitleDraft& SheetTitles::Draft() {
+    if (!draft_) {
         const CDiarySettings& shared = GetDiarySettings();
-        draft = {shared.taskPattern, shared.appointmentPattern, shared.contactPattern};
+        stored_ = {shared.taskPattern, shared.appointmentPattern, shared.contactPattern};
+        draft_ = stored_;
     }
-    return *draft;
+    return *draft_;
 }
 
-void StoreTitleDraft() {
+void SheetTitles::Store() {
     CDiarySettings& shared = GetDiarySettings();
-    const TitleDraft& edited = GetTitleDraft();
-    shared.taskPattern = edited.task;
-    shared.appointmentPattern = edited.appointment;
-    shared.contactPattern = edited.contact;
+    const TitleDraft& edited = Draft();
+    StoreChanges(edited.task, stored_.task, shared.taskPattern);
+    StoreChanges(edited.appointment, stored_.appointment, shared.appointmentPattern);
+    StoreChanges(edited.contact, stored_.contact, shared.contactPattern);
 }
-
-void ForgetTitleDraft() { draft.reset(); }

@@ -1,6 +1,5 @@
 #include "pages/shared/title_page.h"
 
-#include "pages/shared/title_draft.h"
 #include "resources/ids.h"
 
 // Another page of the sheet may have changed the pattern meanwhile.
@@ -12,7 +11,7 @@ bool TitlePage::OnSetActive() {
 
 void TitlePage::OnLoad(PageValues&) { editor_.Attach(hwnd()); }
 
-void TitlePage::OnSave(PageValues&) { StoreTitleDraft(); }
+void TitlePage::OnSave(PageValues&) { titles_.Store(); }
 
 void TitlePage::OnUpdate() { InvalidateRect(Item(IDC_TITLE_PREVIEW), nullptr, TRUE); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/sheets/options_page.h"
+#include "pages/shared/title_draft.h"
 #include "pages/shared/title_editor.h"
 
 // A page that edits a title pattern of the sheet's draft, with a preview (IDC_TITLE_PREVIEW) that
@@ -20,6 +21,9 @@ class TitlePage : public OptionsPage {
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
 
+    TitleDraft& Draft() const { return titles_.Draft(); }
+
   private:
+    SheetTitles& titles_ = SheetTitles::Innermost();
     TitleEditor editor_;
 };

@@ -23,15 +23,18 @@ class TasksCommonPage : public OptionsPage {
     void OnLoad(PageValues& values) override;
     bool OnCommand(int id, int code) override;
     void OnSave(PageValues& values) override;
+
+  private:
+    SheetTitles& titles_ = SheetTitles::Innermost();
 };
 
 // The way the subject is shown is the digit of the tasks' title pattern.
 void TasksCommonPage::OnLoad(PageValues&) {
-    FillChoices(*this, IDC_TASK_SUBJECT, kSubjectModes, GetTitleDraft().task.mode);
+    FillChoices(*this, IDC_TASK_SUBJECT, kSubjectModes, titles_.Draft().task.mode);
 }
 
 bool TasksCommonPage::OnCommand(int id, int code) {
-    std::int32_t& mode = GetTitleDraft().task.mode;
+    std::int32_t& mode = titles_.Draft().task.mode;
     if (id == IDC_TASK_SUBJECT && code == CBN_SELCHANGE) {
         mode = ChosenValue(*this, IDC_TASK_SUBJECT, mode);
     }
@@ -39,8 +42,8 @@ bool TasksCommonPage::OnCommand(int id, int code) {
 }
 
 void TasksCommonPage::OnSave(PageValues&) {
-    GetTitleDraft().task.mode = ChosenValue(*this, IDC_TASK_SUBJECT, 0);
-    StoreTitleDraft();
+    titles_.Draft().task.mode = ChosenValue(*this, IDC_TASK_SUBJECT, 0);
+    titles_.Store();
 }
 
 }  // namespace

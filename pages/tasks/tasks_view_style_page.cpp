@@ -2,7 +2,6 @@
 
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
-#include "pages/shared/title_draft.h"
 #include "pages/shared/title_page.h"
 #include "resources/ids.h"
 
@@ -26,7 +25,7 @@ class TasksViewStylePage : public TitlePage {
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 };
 
-DisplayPattern& TasksViewStylePage::Edited() const { return GetTitleDraft().task; }
+DisplayPattern& TasksViewStylePage::Edited() const { return Draft().task; }
 
 void TasksViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     SampleList list(item.hDC, item.rcItem, 3);

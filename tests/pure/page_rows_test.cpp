@@ -38,6 +38,9 @@ class FakeControls : public PageControls {
     std::int32_t ItemValue(int control, int index) const override {
         return controls.at(control).items.at(index).value;
     }
+    void SetItemValue(int control, int index, std::int32_t value) override {
+        controls.at(control).items.at(index).value = value;
+    }
     std::wstring ItemText(int control, int index) const override {
         return controls.at(control).items.at(index).text;
     }
