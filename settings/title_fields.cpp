@@ -2,21 +2,12 @@
 
 #include <algorithm>
 
-namespace {
-
-bool IsField(wchar_t letter) {
-    return std::ranges::any_of(kTitleFields,
-                               [letter](const TitleField& f) { return f.letter == letter; });
-}
-
-}  // namespace
-
-TitleRows::TitleRows(const DisplayPattern& pattern) {
-    const auto add = [this](const std::wstring& letters) {
+TitleRows::TitleRows(const DisplayPattern& pattern, std::wstring_view offered) {
+    const auto add = [this, offered](const std::wstring& letters) {
         for (const wchar_t letter : letters) {
             const bool again = std::ranges::any_of(
                 rows_, [letter](const Row& row) { return row.letter == letter; });
-            if (IsField(letter)) {
+            if (offered.find(letter) != offered.npos) {
                 if (!again) rows_.push_back({letter, true, {}});
             } else {
                 (rows_.empty() ? front_ : rows_.back().kept) += letter;
@@ -27,6 +18,7 @@ TitleRows::TitleRows(const DisplayPattern& pattern) {
     rows_.push_back({kSubject, true, {}});
     add(pattern.after);
     for (const TitleField& field : kTitleFields) {
+        if (offered.find(field.letter) == offered.npos) continue;
         if (!ShowsField(pattern, field.letter)) rows_.push_back({field.letter, false, {}});
     }
 }

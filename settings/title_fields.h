@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "resources/ids.h"
@@ -20,18 +21,24 @@ inline constexpr std::array kTitleFields = {
     TitleField{L'a', IDS_FIELD_ATTENDEES},
 };
 
-// A title pattern as rows for the user to order: every field, and the subject among them.
+// The letters of the fields that items of a list can have: all of them, and those of contacts,
+// which are neither due nor urgent.
+inline constexpr std::wstring_view kItemFields = L"pnrqsca";
+inline constexpr std::wstring_view kContactFields = L"nsc";
+
+// A title pattern as rows for the user to order: the fields that are offered, and the subject among
+// them.
 class TitleRows {
   public:
     struct Row {
         wchar_t letter;     // of a field; kSubject
         bool shown;         // the subject always is
-        std::wstring kept;  // letters behind it that stand for no field
+        std::wstring kept;  // letters behind it that stand for no field, or for none offered
         bool operator==(const Row&) const = default;
     };
     static constexpr wchar_t kSubject = 0;
 
-    explicit TitleRows(const DisplayPattern& pattern);
+    explicit TitleRows(const DisplayPattern& pattern, std::wstring_view offered = kItemFields);
 
     const std::vector<Row>& rows() const { return rows_; }
     void Show(std::size_t row, bool shown) { rows_[row].shown = shown; }

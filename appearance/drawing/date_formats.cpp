@@ -52,3 +52,12 @@ std::wstring FormatToday(const std::wstring& picture) {
     GetDateFormatW(LOCALE_USER_DEFAULT, 0, &now, picture.c_str(), text, kTextLength);
     return text;
 }
+
+std::wstring FormatTime(unsigned hour, unsigned minute) {
+    SYSTEMTIME time = {2008, 5, 0, 13, 0, 0, 0, 0};
+    time.wHour = static_cast<WORD>(hour);
+    time.wMinute = static_cast<WORD>(minute);
+    wchar_t text[kTextLength] = {};
+    GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &time, nullptr, text, kTextLength);
+    return text;
+}

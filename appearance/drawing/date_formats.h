@@ -20,3 +20,5 @@ std::wstring ShortDatePicture(bool keepYear, bool shortYear);
 
 // Today's date.
 std::wstring FormatToday(const std::wstring& picture);
+// A time of the day as the user writes it, without seconds.
+std::wstring FormatTime(unsigned hour, unsigned minute);

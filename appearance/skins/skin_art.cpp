@@ -26,6 +26,12 @@ constexpr ItemIcon kIconPieces[kSkinIconCount] = {
 
 bool IsHighResolution() { return ScaleX(1) >= 2; }
 
+const char* IconsMember() { return IsHighResolution() ? "icons_vga.bmp" : "icons.bmp"; }
+const char* ScrollBarMember() { return IsHighResolution() ? "scrollbar_vga.bmp" : "scrollbar.bmp"; }
+std::string TabIconsMember() {
+    return "tab_icons_" + std::to_string(ScaleX(kTabIconSize)) + ".bmp";
+}
+
 // Cuts a bitmap into squares, row by row from its upper left corner.
 OwnedImageList CutSquares(const BitmapView& view, int size) {
     OwnedImageList list(ImageList_Create(size, size, ILC_COLOR | ILC_MASK, kTabIconCount, 1));
@@ -82,32 +88,38 @@ SkinArt::LoadResult SkinArt::LoadStrip(std::optional<SkinStrip>& strip, const ch
 }
 
 SkinArt::LoadResult SkinArt::LoadIcons() {
-    return IsHighResolution() ? LoadStrip(icons_, "icons_vga.bmp", IDB_ICONS_HIGH)
-                              : LoadStrip(icons_, "icons.bmp", IDB_ICONS);
+    return LoadStrip(icons_, IconsMember(), IsHighResolution() ? IDB_ICONS_HIGH : IDB_ICONS);
 }
 
 SkinArt::LoadResult SkinArt::LoadScrollBar() {
-    return IsHighResolution() ? LoadStrip(scrollBar_, "scrollbar_vga.bmp", IDB_SCROLL_BAR_HIGH)
-                              : LoadStrip(scrollBar_, "scrollbar.bmp", IDB_SCROLL_BAR);
+    return LoadStrip(scrollBar_, ScrollBarMember(),
+                     IsHighResolution() ? IDB_SCROLL_BAR_HIGH : IDB_SCROLL_BAR);
 }
 
 SkinArt::LoadResult SkinArt::LoadTabIcons() {
     if (!OpenSkin()) return kFailed;
     if (!tabIcons_) {
-        const int size = ScaleX(kTabIconSize);
-        const std::string member = "tab_icons_" + std::to_string(size) + ".bmp";
-        const std::optional<std::vector<std::uint8_t>> file = source_.ReadMember(member.c_str());
+        const auto file = source_.ReadMember(TabIconsMember().c_str());
         const std::optional<BitmapView> view = file ? ParseBitmapFile(*file) : std::nullopt;
-        if (view) tabIcons_ = CutSquares(*view, size);
+        if (view) tabIcons_ = CutSquares(*view, ScaleX(kTabIconSize));
     }
     return tabIcons_ ? kFromSkin : kFailed;
 }
 
-bool SkinArt::IsValid() {
+std::optional<SkinArt::Fault> SkinArt::FindFault() {
     Reset();
-    return LoadIcons() == kFromSkin && icons_->Count() >= kItemIconCount &&
-           LoadScrollBar() == kFromSkin && scrollBar_->Count() >= kScrollBarPartCount &&
-           LoadTabIcons() == kFromSkin && ImageList_GetImageCount(tabIcons_.get()) >= kTabIconCount;
+    if (!OpenSkin()) return Fault{{}, true};
+    const auto fault = [this](const std::string& member) {
+        return Fault{member, !source_.GetMemberSize(member.c_str())};
+    };
+    if (LoadIcons() != kFromSkin || icons_->Count() < kItemIconCount) return fault(IconsMember());
+    if (LoadScrollBar() != kFromSkin || scrollBar_->Count() < kScrollBarPartCount) {
+        return fault(ScrollBarMember());
+    }
+    if (LoadTabIcons() != kFromSkin || ImageList_GetImageCount(tabIcons_.get()) < kTabIconCount) {
+        return fault(TabIconsMember());
+    }
+    return {};
 }
 
 void SkinArt::Reset() {

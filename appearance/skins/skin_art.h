@@ -35,7 +35,13 @@ class SkinArt {
     // There are no tab icons but a skin's own: kFailed or kFromSkin.
     LoadResult LoadTabIcons();
     // Whether the skin, which is loaded anew, opens and has all it needs.
-    bool IsValid();
+    bool IsValid() { return !FindFault(); }
+    // What keeps the skin, which is loaded anew, from being valid.
+    struct Fault {
+        std::string member;  // the first file that is not as it must be; empty: none can be opened
+        bool missing;        // else it is incomplete, or no such picture
+    };
+    std::optional<Fault> FindFault();
     // Forgets what is loaded, so that the skin chosen then is opened next, and calls the listeners.
     void Reset();
     // `listener` is called after each reset, for as long as the process runs.

@@ -1,6 +1,7 @@
 #include "pages/calendar/calendar_pages.h"
 
 #include "app/language/language_table.h"
+#include "appearance/drawing/date_formats.h"
 #include "appearance/drawing/sample_list.h"
 #include "pages/shared/title_page.h"
 #include "resources/ids.h"
@@ -28,12 +29,16 @@ struct TitledList {
     unsigned label;
     ItemIcon icon;
     DisplayPattern TitleDraft::*pattern;
+    std::wstring_view fields;
 };
 constexpr TitledList kLists[] = {
-    {IDS_VIEW_CALENDAR, ItemIcon::kAppointment, &TitleDraft::appointment},
-    {IDS_VIEW_TASKS, ItemIcon::kTaskOpen, &TitleDraft::task},
-    {IDS_VIEW_CONTACTS, ItemIcon::kContact, &TitleDraft::contact},
+    {IDS_VIEW_CALENDAR, ItemIcon::kAppointment, &TitleDraft::appointment, kItemFields},
+    {IDS_VIEW_TASKS, ItemIcon::kTaskOpen, &TitleDraft::task, kItemFields},
+    {IDS_VIEW_CONTACTS, ItemIcon::kContact, &TitleDraft::contact, kContactFields},
 };
+
+// The entries of the list that says where an appointment's time stands; the index is stored.
+enum class TimePlace { kNone, kOwnLine, kBehind, kBefore };
 
 // The states of the sample appointments.
 constexpr int kTentative = 1, kBusy = 2;
@@ -52,10 +57,16 @@ class CalendarTitlesPage : public TitlePage {
 
   protected:
     DisplayPattern& Edited() const override;
+    std::wstring_view OfferedFields() const override {
+        return kLists[Selection(IDC_TITLE_LIST)].fields;
+    }
     bool OnSetActive() override;
     void OnLoad(PageValues& values) override;
     bool OnCommand(int id, int code) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+  private:
+    std::wstring SampleTime(WORD begin, WORD end) const;
 };
 
 void CalendarTitlesPage::OnLoad(PageValues& values) {
@@ -83,6 +94,14 @@ bool CalendarTitlesPage::OnCommand(int id, int code) {
     return TitlePage::OnCommand(id, code);
 }
 
+// A time span between whole hours: from beginning to end or, in the new style, with its length.
+std::wstring CalendarTitlesPage::SampleTime(WORD begin, WORD end) const {
+    const std::wstring start = FormatTime(begin, 0);
+    if (IsChecked(IDC_APP_START_ONLY)) return start;
+    if (!IsChecked(IDC_TIME_SPAN_NEW_STYLE)) return start + L" - " + FormatTime(end, 0);
+    return start + L" (" + std::to_wstring(end - begin) + L":00)";
+}
+
 void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     const TitledList& shown = kLists[Selection(IDC_TITLE_LIST)];
     SampleList list(item.hDC, item.rcItem, 3);
@@ -97,6 +116,17 @@ void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         const std::wstring text = texts.LoadString(id);
         return place ? text + L" (" + texts.LoadString(IDS_SAMPLE_PLACE) + L")" : text;
     };
+    const auto add = [&](const std::wstring& time, std::wstring text, TitleLook look) {
+        if (shown.icon == ItemIcon::kAppointment) {
+            switch (static_cast<TimePlace>(Selection(IDC_APP_SUBJECT_STYLE))) {
+                case TimePlace::kNone: break;
+                case TimePlace::kOwnLine: list.AddDetail(time); break;
+                case TimePlace::kBehind: look.details = time; break;
+                case TimePlace::kBefore: text = time + L" " + text; break;
+            }
+        }
+        list.AddTitle(shown.icon, Edited(), text, look);
+    };
     TitleLook first, second;
     first.selected = true;
     second.color = SampleColor();
@@ -105,8 +135,8 @@ void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
         second.status = kTentative;
         second.conflicting = GetDiarySettings().markConflicting != 0;
     }
-    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_LONG_SUBJECT), first);
-    list.AddTitle(shown.icon, Edited(), subject(IDS_SAMPLE_APPOINTMENT), second);
+    add(SampleTime(9, 10), subject(IDS_SAMPLE_LONG_SUBJECT), first);
+    add(SampleTime(9, 11), subject(IDS_SAMPLE_APPOINTMENT), second);
 }
 
 }  // namespace

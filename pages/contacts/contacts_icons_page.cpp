@@ -5,7 +5,11 @@
 
 namespace {
 
-constexpr auto kRows = FlagRows(&CDiarySettings::contactPattern);
+// A contact is neither due nor urgent.
+constexpr Row kRows[] = {
+    rows::Own(IDC_FLAG_PRIVATE, &CDiarySettings::contactPattern),
+    rows::Own(IDC_FLAG_NOTE, &CDiarySettings::contactPattern),
+};
 
 std::unique_ptr<OptionsPage> Make(const PageDescription& description) {
     return MakeFlagIconsPage(description, &TitleDraft::contact, ItemIcon::kContact,

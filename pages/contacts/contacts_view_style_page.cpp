@@ -51,6 +51,7 @@ class ContactsViewStylePage : public TitlePage {
 
   protected:
     DisplayPattern& Edited() const override;
+    std::wstring_view OfferedFields() const override { return kContactFields; }
     void OnLoad(PageValues& values) override;
     void OnUpdate() override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;

@@ -4,6 +4,7 @@
 #include "app/sheets/options_page.h"
 #include "appearance/drawing/fonts.h"
 #include "base/scale.h"
+#include "controls/explanation.h"
 
 namespace {
 
@@ -59,8 +60,8 @@ void GeneralFontPage::OnLoad(PageValues& values) {
     current_.clearType = values.Read(settings::ClearTypeOnPage);
     current_.height = static_cast<std::int32_t>(values.Read(settings::FontHeight));
     current_.face = values.Read(settings::FontName);
-    SetDlgItemTextW(hwnd(), IDC_FONT_EXPLANATION,
-                    GetLanguageTable().LoadString(IDS_FONT_EXPLANATION).c_str());
+    ShowExplanation(Item(IDC_FONT_EXPLANATION),
+                    GetLanguageTable().LoadString(IDS_FONT_EXPLANATION));
     if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem();
 }
 

@@ -5,6 +5,7 @@
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "appearance/drawing/date_formats.h"
+#include "controls/explanation.h"
 
 namespace {
 
@@ -35,8 +36,8 @@ class GeneralLongDatePage : public OptionsPage {
 void GeneralLongDatePage::OnLoad(PageValues& values) {
     const auto stored = static_cast<std::int32_t>(values.Read(settings::LongDateCustomFormat));
     customFormat_ = std::max(stored, 0);
-    SetDlgItemTextW(hwnd(), IDC_LONG_EXPLANATION,
-                    GetLanguageTable().LoadString(IDS_LONG_DATE_EXPLANATION).c_str());
+    ShowExplanation(Item(IDC_LONG_EXPLANATION),
+                    GetLanguageTable().LoadString(IDS_LONG_DATE_EXPLANATION));
 }
 
 // The list previews what the boxes say, so that each change fills it anew.

@@ -3,6 +3,7 @@
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "appearance/drawing/date_formats.h"
+#include "controls/explanation.h"
 
 namespace {
 
@@ -22,8 +23,8 @@ class GeneralShortDatePage : public OptionsPage {
 };
 
 void GeneralShortDatePage::OnLoad(PageValues&) {
-    SetDlgItemTextW(hwnd(), IDC_SHORT_EXPLANATION,
-                    GetLanguageTable().LoadString(IDS_SHORT_DATE_EXPLANATION).c_str());
+    ShowExplanation(Item(IDC_SHORT_EXPLANATION),
+                    GetLanguageTable().LoadString(IDS_SHORT_DATE_EXPLANATION));
 }
 
 void GeneralShortDatePage::OnUpdate() {

@@ -5,6 +5,7 @@
 #include "app/sheets/options_page.h"
 #include "appearance/skins/skin_art.h"
 #include "appearance/skins/skin_list.h"
+#include "base/fill_in.h"
 #include "base/find_files.h"
 #include "pages/general/skin_preview.h"
 #include "resources/ids.h"
@@ -33,6 +34,7 @@ class GeneralSkinsPage : public OptionsPage {
     void ListSkins();
     void SelectSkin(const std::wstring& name);
     void OnSkinChosen();
+    static std::wstring HintOf(const std::wstring& skin, const SkinArt::Fault& fault);
 
     std::wstring startingSkin_;
 };
@@ -60,6 +62,15 @@ void GeneralSkinsPage::ListSkins() {
     }
 }
 
+// Says of a skin why it is not taken.
+std::wstring GeneralSkinsPage::HintOf(const std::wstring& skin, const SkinArt::Fault& fault) {
+    const LanguageTable& texts = GetLanguageTable();
+    if (fault.member.empty()) return FillIn(texts.LoadString(IDS_SKIN_UNREADABLE), {skin});
+    const std::wstring member(fault.member.begin(), fault.member.end());
+    return FillIn(texts.LoadString(fault.missing ? IDS_SKIN_LACKS : IDS_SKIN_INCOMPLETE),
+                  {skin, member});
+}
+
 // Selects the entry of that name, case aside; nothing changes when there is none.
 void GeneralSkinsPage::SelectSkin(const std::wstring& name) {
     const LRESULT index = SendDlgItemMessageW(hwnd(), IDC_SKIN, CB_FINDSTRINGEXACT, -1,
@@ -77,14 +88,14 @@ void GeneralSkinsPage::OnSkinChosen() {
     const int chosen = Selection(IDC_SKIN);
     if (chosen < 0) return;
     OpenProductKey().Write(settings::SkinName, ItemText(IDC_SKIN, chosen));
-    const bool valid = GetSkinArt().IsValid();
-    if (!valid) {
+    const std::optional<SkinArt::Fault> fault = GetSkinArt().FindFault();
+    if (fault) {
+        // The selection stays, so that the keys can go on from there.
         OpenProductKey().Write(settings::SkinName, startingSkin_);
         GetSkinArt().Reset();
-        SelectSkin(startingSkin_);
     }
-    SetWindowTextW(Item(IDC_SKIN_HINT),
-                   valid ? L"" : GetLanguageTable().LoadString(IDS_SKIN_INCOMPLETE).c_str());
+    const std::wstring hint = fault ? HintOf(ItemText(IDC_SKIN, chosen), *fault) : L"";
+    SetWindowTextW(Item(IDC_SKIN_HINT), hint.c_str());
     for (const int preview : {IDC_SKIN_ICONS, IDC_SKIN_SCROLL_BAR, IDC_SKIN_SAMPLE}) {
         InvalidateRect(Item(preview), nullptr, TRUE);
     }

@@ -2,6 +2,7 @@
 
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
+#include "appearance/drawing/date_formats.h"
 #include "appearance/drawing/note_label.h"
 #include "appearance/drawing/sample_list.h"
 #include "pages/shared/layout_drop_down.h"
@@ -43,13 +44,6 @@ std::wstring DecimalSeparator() {
     return text;
 }
 
-std::wstring SampleTime() {
-    constexpr SYSTEMTIME kTime = {2008, 5, 0, 13, 9, 41, 0, 0};
-    wchar_t text[40] = {};
-    GetTimeFormatW(LOCALE_USER_DEFAULT, TIME_NOSECONDS, &kTime, nullptr, text, 40);
-    return text;
-}
-
 // Which notes the notes tab lists, in which order, and what it says of each.
 class NotesCommonPage : public OptionsPage {
   public:
@@ -79,7 +73,7 @@ void NotesCommonPage::OnUpdate() { InvalidateRect(Item(IDC_NOTES_PREVIEW), nullp
 
 void NotesCommonPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     const auto details = [this](const std::wstring& size) {
-        std::wstring text = IsChecked(IDC_NOTES_TIME) ? SampleTime() : L"";
+        std::wstring text = IsChecked(IDC_NOTES_TIME) ? FormatTime(9, 41) : L"";
         if (IsChecked(IDC_NOTES_SIZE)) text += (text.empty() ? L"" : L"  ") + size;
         return text;
     };

@@ -4,6 +4,7 @@
 #include "app/sheets/options_page.h"
 #include "appearance/drawing/sample_list.h"
 #include "appearance/skins/skin_art.h"
+#include "resources/ids.h"
 
 namespace {
 
@@ -74,7 +75,7 @@ void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     GetWindowRect(item.hwndItem, &place);
     for (const Flag& flag : kFlags) {
         RECT box;
-        GetWindowRect(Item(flag.control), &box);
+        if (!GetWindowRect(Item(flag.control), &box)) continue;  // not on this page
         const SIZE size = art.Icons()->PieceSize(static_cast<int>(flag.icon));
         art.DrawItemIcon(item.hDC, flag.icon, 0, (box.top + box.bottom - size.cy) / 2 - place.top);
     }

@@ -22,8 +22,9 @@ void TitleEditor::Attach(HWND page) {
     list_.Attach(GetDlgItem(page, IDC_TITLE_FIELDS), CheckList::Order::kFixed);
 }
 
-void TitleEditor::Show(DisplayPattern& pattern) {
+void TitleEditor::Show(DisplayPattern& pattern, std::wstring_view offered) {
     pattern_ = &pattern;
+    offered_ = offered;
     FillList(0);
 }
 
@@ -33,7 +34,7 @@ void TitleEditor::FillList(int selected) {
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
     list_.Clear();
     int position = 0;
-    const TitleRows rows(*pattern_);
+    const TitleRows rows = Rows();
     for (const TitleRows::Row& row : rows.rows()) {
         list_.Insert(position++, LabelOf(row.letter), row.letter, row.shown);
     }
@@ -73,7 +74,7 @@ bool TitleEditor::OnNotify(const NMHDR& header) {
 // Fields that are not shown have no place of their own: they stand last, in their usual order.
 bool TitleEditor::Move(int by) {
     const int from = list_.Selected(), to = from + by;
-    TitleRows rows(*pattern_);
+    TitleRows rows = Rows();
     if (from < 0 || to < 0 || to >= list_.Count()) return false;
     if (!rows.rows()[static_cast<std::size_t>(from)].shown ||
         !rows.rows()[static_cast<std::size_t>(to)].shown) {
@@ -86,7 +87,7 @@ bool TitleEditor::Move(int by) {
 }
 
 bool TitleEditor::OnChecked(int row) {
-    TitleRows rows(*pattern_);
+    TitleRows rows = Rows();
     const TitleRows::Row& changed = rows.rows()[static_cast<std::size_t>(row)];
     const wchar_t letter = changed.letter;
     if (letter != TitleRows::kSubject) {
@@ -94,7 +95,7 @@ bool TitleEditor::OnChecked(int row) {
         *pattern_ = rows.Pattern(pattern_->mode);
     }
     // The field may have another place now; the subject cannot be left out.
-    const std::vector<TitleRows::Row> now = TitleRows(*pattern_).rows();
+    const std::vector<TitleRows::Row> now = Rows().rows();
     int place = 0;
     while (now[static_cast<std::size_t>(place)].letter != letter) ++place;
     FillList(place);
@@ -103,7 +104,7 @@ bool TitleEditor::OnChecked(int row) {
 
 void TitleEditor::UpdateButtons() const {
     const int selected = list_.Selected();
-    const std::vector<TitleRows::Row> rows = TitleRows(*pattern_).rows();
+    const std::vector<TitleRows::Row> rows = Rows().rows();
     const auto shown = [&](int row) {
         return row >= 0 && row < static_cast<int>(rows.size()) &&
                rows[static_cast<std::size_t>(row)].shown;

@@ -9,14 +9,16 @@
 class TitleEditor {
   public:
     void Attach(HWND page);
-    // Lists a pattern and edits it from now on; it must outlive that.
-    void Show(DisplayPattern& pattern);
+    // Lists a pattern with the fields that are offered and edits it from now on; it must outlive
+    // that.
+    void Show(DisplayPattern& pattern, std::wstring_view offered);
 
     // The page's WM_COMMAND and WM_NOTIFY; true when the pattern has changed.
     bool OnCommand(int id, int code);
     bool OnNotify(const NMHDR& header);
 
   private:
+    TitleRows Rows() const { return TitleRows(*pattern_, offered_); }
     void FillList(int selected);
     bool Move(int by);
     bool OnChecked(int row);
@@ -25,5 +27,6 @@ class TitleEditor {
     HWND page_ = nullptr;
     CheckList list_;
     DisplayPattern* pattern_ = nullptr;
+    std::wstring_view offered_;
     bool filling_ = false;
 };

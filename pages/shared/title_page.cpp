@@ -4,7 +4,7 @@
 
 // Another page of the sheet may have changed the pattern meanwhile.
 bool TitlePage::OnSetActive() {
-    editor_.Show(Edited());
+    editor_.Show(Edited(), OfferedFields());
     OnUpdate();
     return true;
 }

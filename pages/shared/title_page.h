@@ -13,6 +13,7 @@ class TitlePage : public OptionsPage {
   protected:
     // The pattern that the editor shows.
     virtual DisplayPattern& Edited() const = 0;
+    virtual std::wstring_view OfferedFields() const { return kItemFields; }
 
     bool OnSetActive() override;
     void OnLoad(PageValues& values) override;

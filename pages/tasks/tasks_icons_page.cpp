@@ -5,7 +5,12 @@
 
 namespace {
 
-constexpr auto kRows = FlagRows(&CDiarySettings::taskPattern);
+constexpr auto kPattern = &CDiarySettings::taskPattern;
+constexpr Row kRows[] = {
+    rows::Own(IDC_FLAG_PRIVATE, kPattern),      rows::Own(IDC_FLAG_REMINDER, kPattern),
+    rows::Own(IDC_FLAG_RECURRENCE, kPattern),   rows::Own(IDC_FLAG_IMPORTANCE, kPattern),
+    rows::Own(IDC_FLAG_LOW_PRIORITY, kPattern), rows::Own(IDC_FLAG_NOTE, kPattern),
+};
 
 std::unique_ptr<OptionsPage> Make(const PageDescription& description) {
     return MakeFlagIconsPage(description, &TitleDraft::task, ItemIcon::kTaskOpen, IDS_SAMPLE_TASK);

@@ -171,10 +171,16 @@ TEST_F(CategoryDialogTest, FollowsTheDevice) {
     for (const wchar_t* name : {L"Personal", L"\"\""})
         ASSERT_TRUE(Control(std::wstring(L"add") + kPlace + L"1:recid 3:i4=0 2:string=" + name));
     EXPECT_TRUE(RowsAre(13, 1)) << "two of one name, and one without";
+    ASSERT_TRUE(Ok(dialog_));
+    ASSERT_TRUE(Control(std::wstring(L"delete") + kPlace + L"1"));
+    program_->Open(7, 0);
+    dialog_ = program_->Sheet(L"Category Icons");
+    list_ = GetDlgItem(dialog_, IDC_CATEGORY_LIST);
+    EXPECT_TRUE(RowsAre(12, 0)) << "the first that is left is not selected";
     Press({VK_END});
-    ASSERT_TRUE(RowsAre(13, 12));
+    ASSERT_TRUE(RowsAre(12, 11));
     ASSERT_TRUE(Control(std::wstring(L"drop") + kPlace));
-    EXPECT_TRUE(RowsAre(13, 12));
+    EXPECT_TRUE(RowsAre(12, 11));
     EXPECT_EQ(program_->CloseAndWait(), 0u);
     Open();
     EXPECT_TRUE(RowsAre(0, -1));

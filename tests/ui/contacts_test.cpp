@@ -78,4 +78,29 @@ TEST_F(Contacts, LayoutsAreChosenInTheirDialog) {
     EXPECT_EQ(program_.CloseAndWait(), 0u) << "stays open below the dialog";
 }
 
+TEST_F(Contacts, WhatOthersStoreMeanwhileShowsUnlessItWasTouched) {
+    HWND page = OpenPage();
+    ASSERT_TRUE(page);
+    Click(page, IDC_CONTACTS_ALL_CATEGORIES);
+    TurnTo(sheet_, 1);
+    ASSERT_TRUE(Page(sheet_, IDC_CONTACT_DISPLAY));
+    Put(L"ContactsShowPhotoContacts", 1);
+    Put(L"ContactsOneTap", 1);
+    Put(L"ContactsGroupBy", 558);
+    Put(L"ShowContactsInAllCategories", 0);
+    TurnTo(sheet_, 0);
+    EXPECT_TRUE(Until([&] { return IsChecked(page, IDC_CONTACT_PHOTOS); }));
+    EXPECT_TRUE(IsEnabled(page, IDC_CONTACT_PHOTO_TEXT));
+    EXPECT_EQ(SendDlgItemMessageW(page, IDC_CONTACT_ONE_TAP, CB_GETCURSEL, 0, 0), 1);
+    EXPECT_EQ(SendDlgItemMessageW(page, IDC_CONTACT_GROUPS, CB_GETCURSEL, 0, 0), 1);
+    EXPECT_TRUE(IsChecked(page, IDC_CONTACTS_ALL_CATEGORIES));
+    // A layout chosen by keys in a list that is still down.
+    SendDlgItemMessageW(page, IDC_CONTACT_LAYOUT, CB_SHOWDROPDOWN, TRUE, 0);
+    SendDlgItemMessageW(page, IDC_CONTACT_LAYOUT, WM_KEYDOWN, VK_DOWN, 0);
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Stored(L"Contacts_layout_active"), 0xFFFFFFFFu);
+    EXPECT_EQ(Stored(L"ShowContactsInAllCategories"), 1u);
+    EXPECT_EQ(Stored(L"ContactsGroupBy"), 558u);
+}
+
 }  // namespace

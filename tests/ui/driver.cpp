@@ -202,6 +202,12 @@ void Press(HWND focus, WPARAM key) {
     PostMessageW(focus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }
 
+}  // namespace
+
+bool FocusIs(HWND page, int control) { return FocusOf(page) == GetDlgItem(page, control); }
+
+namespace {
+
 bool TabTo(HWND page, int control) {
     constexpr int kMostControls = 40;
     const HWND wanted = GetDlgItem(page, control);

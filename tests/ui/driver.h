@@ -59,6 +59,8 @@ void Select(HWND page, int control, int index);
 // or chooses an entry of its list. False when the focus does not come there or nothing changes.
 bool ClickByKeys(HWND page, int control);
 bool SelectByKeys(HWND page, int control, int index);
+// Whether a control of the page or dialog has the focus.
+bool FocusIs(HWND page, int control);
 // As F1 does while the window has the focus.
 void AskForHelp(HWND window);
 // The text of the selected entry; empty when none is.

@@ -39,12 +39,29 @@ TEST_F(General, HeightKeepsItsRange) {
         ASSERT_TRUE(Ok(box));
         EXPECT_TRUE(IsWindow(page));
     }
+    // From another page the refusing one comes to the front, and stays there.
+    TurnTo(sheet_, 7);
+    ASSERT_TRUE(Page(sheet_, IDC_TIMEOUT_ON));
+    PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
+    const HWND box = program_.Sheet(L"Lum Diary Options");
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(IsWindowVisible(page));
+    ASSERT_TRUE(Ok(box));
+    EXPECT_EQ(Page(sheet_, IDC_HEIGHT), page);
+    EXPECT_TRUE(Until([&] { return FocusIs(page, IDC_HEIGHT); }));
+
     SetDlgItemTextW(page, IDC_HEIGHT, L"125");
-    Click(page, IDC_AUTO_SIZE);
-    EXPECT_FALSE(IsEnabled(page, IDC_HEIGHT));
-    EXPECT_FALSE(IsEnabled(page, IDC_PIM)) << "there is no other program";
-    Select(page, IDC_HEADER_STATE, 2);
-    EXPECT_FALSE(IsEnabled(page, IDC_ALLOW_MINIMIZATION));
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Stored(L"TotalHeightL"), 125u);
+
+    // A height that adjusts itself is neither checked nor stored.
+    const HWND again = OpenPage(0, IDC_HEIGHT);
+    SetDlgItemTextW(again, IDC_HEIGHT, L"5");
+    Click(again, IDC_AUTO_SIZE);
+    EXPECT_FALSE(IsEnabled(again, IDC_HEIGHT));
+    EXPECT_FALSE(IsEnabled(again, IDC_PIM)) << "there is no other program";
+    Select(again, IDC_HEADER_STATE, 2);
+    EXPECT_FALSE(IsEnabled(again, IDC_ALLOW_MINIMIZATION));
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(Stored(L"TotalHeightL"), 125u);
     EXPECT_EQ(Stored(L"TotalHeight"), 80u);

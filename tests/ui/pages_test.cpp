@@ -370,6 +370,34 @@ TEST_F(Pages, TitlePatternsAreOneOverASheet) {
     EXPECT_EQ(StoredText(L"CurContactPattern"), L"c3n");
 }
 
+// What is cancelled in the inner sheet is gone; the outer one stores what was changed in it alone.
+TEST_F(Pages, ASheetOverAnotherHasTitlesOfItsOwn) {
+    Program program(L"-P2:1");
+    const HWND outer = program.Sheet(L"Task options");
+    const HWND titles = Page(outer, IDC_TASK_CHECKBOX);
+    ASSERT_TRUE(titles);
+    const auto openInner = [&] {
+        program.Open(1, 3);
+        const HWND inner = program.Sheet(L"Calendar options");
+        Select(Page(inner, IDC_TITLE_LIST), IDC_TITLE_LIST, 1);
+        return inner;
+    };
+    const auto select = [](HWND inner, int mode) {
+        Select(Page(inner, IDC_TITLE_MODE), IDC_TITLE_MODE, mode);
+    };
+    HWND inner = openInner();
+    select(inner, 1);
+    ASSERT_TRUE(Cancel(inner));
+    inner = openInner();
+    EXPECT_EQ(Selected(Page(inner, IDC_TITLE_MODE), IDC_TITLE_MODE), L"One line");
+    select(inner, 0);
+    ASSERT_TRUE(Ok(inner));
+    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"p2nqrsc");
+    SendDlgItemMessageW(titles, IDC_TITLE_FIELDS, WM_KEYDOWN, VK_RIGHT, 0);
+    ASSERT_TRUE(Ok(outer));
+    EXPECT_EQ(StoredText(L"CurTaskPattern"), L"2pnqrsc");
+}
+
 TEST_F(Pages, HiddenNoteFolders) {
     const std::wstring filters = std::wstring(kProductKey) + L"\\Filters";
     CSettingsKey key(HKEY_LOCAL_MACHINE, filters.c_str(), true, true);

@@ -30,8 +30,8 @@ TEST_F(SkinsPage, AChoiceIsStoredAtOnceAndTakenBackWhenInvalid) {
     };
     choose(L"Empty");
     EXPECT_EQ(StoredText(L"SkinName"), L"blue");
-    EXPECT_EQ(Selected(page, IDC_SKIN), L"Blue");
-    EXPECT_NE(Text(page, IDC_SKIN_HINT), L"");
+    EXPECT_EQ(Selected(page, IDC_SKIN), L"Empty") << "the keys could not go on";
+    EXPECT_EQ(Text(page, IDC_SKIN_HINT), L"Empty has no tab_icons_16.bmp");
     choose(L"Classic");
     EXPECT_EQ(StoredText(L"SkinName"), L"Classic");
     EXPECT_EQ(Text(page, IDC_SKIN_HINT), L"");

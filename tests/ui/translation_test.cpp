@@ -19,6 +19,13 @@ class Translation : public DeviceTest {
         const std::string bytes = ReadBytes(kLanguageFile);
         return {reinterpret_cast<const wchar_t*>(bytes.data()), bytes.size() / sizeof(wchar_t)};
     }
+    // Whether a message box has a text.
+    static bool BoxSays(HWND box, const std::wstring& text) {
+        for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+            if (Text(child) == text) return true;
+        }
+        return false;
+    }
 };
 
 TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
@@ -57,6 +64,60 @@ TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
     EXPECT_EQ(Stored(L"Calendar_FirstYearWeek"), 1u);
     EXPECT_TRUE(PressInMenu(program.Main(), 0, L'b'));
     EXPECT_EQ(program.WaitForExit(), 0u) << "\"Exit\" has no b to press";
+}
+
+// Names and numbers are no texts of the program's, whatever a line of the file says; and a text is
+// no format.
+TEST_F(Translation, LeavesNamesAndNumbersAlone) {
+    ASSERT_TRUE(WriteLanguageFile(
+        L"Tahoma|Falsch\r\n14|vierzehn\r\n12|zw\xF6lf\r\n120|hoch\r\nMine|Meine\r\n"
+        L"Latin|Lateinisch\r\nClassic|Klassisch\r\n"
+        L"The height goes from %d to %d pixels.|%s bis %n%s\r\n"));
+    Put(L"UseSystem", 0);
+    Put(L"AutoSizeAdjust", 0);
+    Put(L"TotalHeightL", 120);
+    Put(L"CalendarPeriod", 14);
+    CSettingsKey(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\Layouts").c_str(), true, true)
+        .WriteString(L"Mine", L"labc(abc)");
+    OpenProductKey().WriteString(L"Contacts_layouts", L"Mine,Latin");
+    Program program(L"-P0:3");
+    HWND sheet = program.Sheet(L"General options");
+    HWND page = Page(sheet, IDC_FONT_FACE);
+    ASSERT_TRUE(page);
+    EXPECT_EQ(Selected(page, IDC_FONT_FACE), L"Tahoma");
+    EXPECT_EQ(Selected(page, IDC_FONT_SIZE), L"zw\xF6lf");
+    TurnTo(sheet, 0);
+    page = Page(sheet, IDC_HEIGHT);
+    ASSERT_TRUE(page);
+    EXPECT_EQ(Text(page, IDC_HEIGHT), L"120");
+    SetDlgItemTextW(page, IDC_HEIGHT, L"999");
+    PostMessageW(sheet, WM_COMMAND, IDOK, 0);
+    const HWND box = program.Sheet(L"Lum Diary Options");
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(Until([&] { return BoxSays(box, L"%s bis %n%s"); }));
+    ASSERT_TRUE(Ok(box));
+    SetDlgItemTextW(page, IDC_HEIGHT, L"130");
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(StoredText(L"FontName"), L"Tahoma");
+    EXPECT_EQ(Stored(L"FontHeight"), 12u);
+
+    program.Open(1, 0);
+    sheet = program.Sheet(L"Calendar options");
+    page = Page(sheet, IDC_CALENDAR_PERIOD);
+    ASSERT_TRUE(page);
+    EXPECT_EQ(Selected(page, IDC_CALENDAR_PERIOD), L"vierzehn");
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(Stored(L"CalendarPeriod"), 14u);
+
+    program.Open(3, 0);
+    sheet = program.Sheet(L"Contact options");
+    page = Page(sheet, IDC_CONTACT_LAYOUT);
+    ASSERT_TRUE(page);
+    EXPECT_EQ(Selected(page, IDC_CONTACT_LAYOUT), L"Mine");
+    Select(page, IDC_CONTACT_LAYOUT, 1);
+    EXPECT_EQ(Selected(page, IDC_CONTACT_LAYOUT), L"Lateinisch");
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Mine,Latin");
 }
 
 TEST_F(Translation, MissingFileIsWrittenWithEveryText) {
