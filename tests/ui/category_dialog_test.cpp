@@ -172,7 +172,7 @@ TEST_F(CategoryDialogTest, FollowsTheDevice) {
         ASSERT_TRUE(Control(std::wstring(L"add") + kPlace + L"1:recid 3:i4=0 2:string=" + name));
     EXPECT_TRUE(RowsAre(13, 1)) << "two of one name, and one without";
     ASSERT_TRUE(Ok(dialog_));
-    ASSERT_TRUE(Control(std::wstring(L"delete") + kPlace + L"1"));
+    ASSERT_TRUE(Control(std::wstring(L"delete") + kPlace + L"3"));  // of the first
     program_->Open(7, 0);
     dialog_ = program_->Sheet(L"Category Icons");
     list_ = GetDlgItem(dialog_, IDC_CATEGORY_LIST);
