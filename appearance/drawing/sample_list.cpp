@@ -46,6 +46,15 @@ SampleList::SampleList(HDC dc, const RECT& area, int rows)
     textColor_ = GetTextColor(dc);
 }
 
+// Two parts of the text's colour and one of the window's, which can be read on any picture.
+COLORREF SampleList::DetailColor() const {
+    const COLORREF window = GetSysColor(COLOR_WINDOW);
+    const auto mix = [](int text, int paper) { return (2 * text + paper) / 3; };
+    return RGB(mix(GetRValue(textColor_), GetRValue(window)),
+               mix(GetGValue(textColor_), GetGValue(window)),
+               mix(GetBValue(textColor_), GetBValue(window)));
+}
+
 bool SampleList::NextRow(RECT& row, int lines) {
     const LONG top = area_.top + next_ * rowHeight_;
     row = {area_.left, top, area_.right, top + lines * rowHeight_};
@@ -133,7 +142,7 @@ void SampleList::AddTitle(std::optional<ItemIcon> icon, const DisplayPattern& pa
     text.right -= icons * iconWidth + ScaleX(kGap);
     const SelectedObject font(dc_, ListFont(FontStyle::kNormal, look.done));
     if (!look.details.empty()) {
-        SetTextColor(dc_, GetSysColor(COLOR_GRAYTEXT));
+        SetTextColor(dc_, DetailColor());
         const int size = static_cast<int>(look.details.size());
         RECT measured = {};
         DrawTextW(dc_, look.details.c_str(), size, &measured, kMeasure);
@@ -156,6 +165,6 @@ void SampleList::AddDetail(const std::wstring& text) {
     if (!NextRow(row)) return;
     row.left += ScaleX(kTextLeft + (indented_ ? kIndent : 0));
     const SelectedObject font(dc_, ListFont(FontStyle::kNormal));
-    SetTextColor(dc_, GetSysColor(COLOR_GRAYTEXT));
+    SetTextColor(dc_, DetailColor());
     DrawTextW(dc_, text.c_str(), static_cast<int>(text.size()), &row, kText);
 }

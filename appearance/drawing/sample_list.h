@@ -19,7 +19,7 @@ struct TitleLook {
     bool conflicting = false;            // half of that bar is in the colour of conflicts
     std::optional<CategoryColor> color;  // of its category: the line's background
     std::vector<SkinIcon> marks;         // at the right
-    std::wstring details;                // left of them, in grey
+    std::wstring details;                // left of them, paler
 };
 
 // Paints a few sample lines as the diary would show them on the Today screen: headings of groups,
@@ -36,7 +36,7 @@ class SampleList {
     // The subject takes one line, or two where its mode says so of this item.
     void AddTitle(std::optional<ItemIcon> icon, const DisplayPattern& pattern,
                   const std::wstring& subject, const TitleLook& look = {});
-    // A line of its own below an item's text, in grey.
+    // A line of its own with more of an item, paler than its text.
     void AddDetail(const std::wstring& text);
     // Whether the items that follow stand indented below their group.
     void SetIndented(bool indented) { indented_ = indented; }
@@ -44,6 +44,7 @@ class SampleList {
   private:
     // The next lines; false when there is no room for them.
     bool NextRow(RECT& row, int lines = 1);
+    COLORREF DetailColor() const;
     int DrawIcon(ItemIcon icon, int x, const RECT& row) const;
 
     HDC dc_;

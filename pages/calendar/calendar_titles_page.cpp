@@ -105,38 +105,48 @@ std::wstring CalendarTitlesPage::SampleTime(WORD begin, WORD end) const {
 void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     const TitledList& shown = kLists[Selection(IDC_TITLE_LIST)];
     SampleList list(item.hDC, item.rcItem, 3);
-    list.SetIndented(shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_INDENT));
+    const bool timed = shown.icon == ItemIcon::kAppointment;
+    list.SetIndented(timed && IsChecked(IDC_APP_INDENT));
     const LanguageTable& texts = GetLanguageTable();
     if (shown.icon == ItemIcon::kContact) {
         list.AddTitle(shown.icon, Edited(), texts.LoadString(IDS_SAMPLE_CONTACT));
         return;
     }
-    const bool place = shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_LOCATION);
+    const bool place = timed && IsChecked(IDC_APP_LOCATION);
     const auto subject = [&](unsigned id) {
         const std::wstring text = texts.LoadString(id);
         return place ? text + L" (" + texts.LoadString(IDS_SAMPLE_PLACE) + L")" : text;
     };
-    const auto add = [&](const std::wstring& time, std::wstring text, TitleLook look) {
-        if (shown.icon == ItemIcon::kAppointment) {
-            switch (static_cast<TimePlace>(Selection(IDC_APP_SUBJECT_STYLE))) {
+    const auto timePlace = static_cast<TimePlace>(Selection(IDC_APP_SUBJECT_STYLE));
+    const auto add = [&](const DisplayPattern& pattern, const std::wstring& time, std::wstring text,
+                         TitleLook look) {
+        if (timed) {
+            switch (timePlace) {
                 case TimePlace::kNone: break;
                 case TimePlace::kOwnLine: list.AddDetail(time); break;
                 case TimePlace::kBehind: look.details = time; break;
                 case TimePlace::kBefore: text = time + L" " + text; break;
             }
         }
-        list.AddTitle(shown.icon, Edited(), text, look);
+        list.AddTitle(shown.icon, pattern, text, look);
     };
     TitleLook first, second;
     first.selected = true;
     second.color = SampleColor();
-    if (shown.icon == ItemIcon::kAppointment && IsChecked(IDC_APP_STATUS_BAR)) {
+    if (timed && IsChecked(IDC_APP_STATUS_BAR)) {
         first.status = kBusy;
         second.status = kTentative;
         second.conflicting = GetDiarySettings().markConflicting != 0;
     }
-    add(SampleTime(9, 10), subject(IDS_SAMPLE_LONG_SUBJECT), first);
-    add(SampleTime(9, 11), subject(IDS_SAMPLE_APPOINTMENT), second);
+    add(Edited(), SampleTime(9, 10), subject(IDS_SAMPLE_LONG_SUBJECT), first);
+    // With a line for the time there is room for one item. The other has no more than a note, so
+    // that its text shows.
+    if (timed && timePlace == TimePlace::kOwnLine) return;
+    DisplayPattern plain = Edited();
+    for (std::wstring* letters : {&plain.before, &plain.after}) {
+        std::erase_if(*letters, [](wchar_t letter) { return letter != L'n'; });
+    }
+    add(plain, SampleTime(9, 11), subject(IDS_SAMPLE_APPOINTMENT), second);
 }
 
 }  // namespace
