@@ -7,6 +7,7 @@
 #include "base/owned_handle.h"
 #include "base/read_file.h"
 #include "settings/settings_file.h"
+#include "settings/settings_key.h"
 
 namespace {
 
@@ -20,11 +21,6 @@ constexpr std::uint32_t kUnreadableNumber = 0xDEF0;
 std::wstring UpperCase(std::wstring text) {
     CharUpperW(text.data());
     return text;
-}
-
-OwnedKey OpenKey(HKEY parent, const wchar_t* name) {
-    HKEY key = nullptr;
-    return OwnedKey(RegOpenKeyExW(parent, name, 0, 0, &key) == ERROR_SUCCESS ? key : nullptr);
 }
 
 OwnedKey CreateKey(HKEY parent, const wchar_t* name) {

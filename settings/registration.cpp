@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include "base/owned_handle.h"
 #include "settings/catalogue.h"
 #include "settings/settings_key.h"
 
@@ -29,9 +28,8 @@ bool Exists(const std::wstring& path) {
 // The key's first key; empty when it has none, or is not there itself. The tab host makes one in
 // the key of a plug-in that it holds.
 std::wstring FirstSubKey(const std::wstring& path) {
-    HKEY opened = nullptr;
-    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, 0, &opened) != ERROR_SUCCESS) return {};
-    const OwnedKey key(opened);
+    const OwnedKey key = OpenKey(HKEY_LOCAL_MACHINE, path.c_str());
+    if (!key) return {};
     wchar_t name[kNameLength] = {};
     DWORD length = kNameLength;
     if (RegEnumKeyExW(key.get(), 0, name, &length, nullptr, nullptr, nullptr, nullptr) !=

@@ -123,21 +123,23 @@ CSettingsKey OpenProductKey(const wchar_t* name) {
     return CSettingsKey(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
 }
 
+OwnedKey OpenKey(HKEY parent, const wchar_t* name) {
+    HKEY key = nullptr;
+    return OwnedKey(RegOpenKeyExW(parent, name, 0, 0, &key) == ERROR_SUCCESS ? key : nullptr);
+}
+
 bool DeleteKeyTree(HKEY parent, const wchar_t* name) {
     if (!name) return false;
-    HKEY key = nullptr;
-    if (RegOpenKeyExW(parent, name, 0, 0, &key) != ERROR_SUCCESS) return false;
+    OwnedKey key = OpenKey(parent, name);
+    if (!key) return false;
     wchar_t child[kNameLength];
     DWORD length = kNameLength;
     // Always the first one: the others move up as their predecessors go.
-    while (RegEnumKeyExW(key, 0, child, &length, nullptr, nullptr, nullptr, nullptr) ==
+    while (RegEnumKeyExW(key.get(), 0, child, &length, nullptr, nullptr, nullptr, nullptr) ==
            ERROR_SUCCESS) {
-        if (!DeleteKeyTree(key, child)) {
-            RegCloseKey(key);
-            return false;
-        }
+        if (!DeleteKeyTree(key.get(), child)) return false;
         length = kNameLength;
     }
-    RegCloseKey(key);
+    key.Reset();  // An open key cannot be deleted.
     return RegDeleteKeyW(parent, name) == ERROR_SUCCESS;
 }

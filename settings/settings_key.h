@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/owned_handle.h"
 #include "settings/catalogue.h"
 
 // The default of a number that has none: a missing value then reads as this, and nothing is
@@ -82,6 +83,9 @@ inline CSettingsKey OpenProductKey() {
 
 // A key below it, which is made likewise when missing.
 CSettingsKey OpenProductKey(const wchar_t* name);
+
+// Any key that is there; null when it cannot be opened.
+OwnedKey OpenKey(HKEY parent, const wchar_t* name);
 
 // Deletes a key with everything below it. False when it is missing or a part cannot be deleted.
 bool DeleteKeyTree(HKEY parent, const wchar_t* name);

@@ -17,12 +17,11 @@ void EndWithBackslash(std::wstring& folder) {
 
 // A number of this type only; 0 otherwise.
 DWORD ReadBuild() {
-    HKEY key = nullptr;
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, kMail2Key, 0, 0, &key) != ERROR_SUCCESS) return 0;
+    const OwnedKey key = OpenKey(HKEY_CURRENT_USER, kMail2Key);
+    if (!key) return 0;
     DWORD build = 0, type = REG_NONE, size = sizeof build;
-    const LSTATUS status =
-        RegQueryValueExW(key, L"Build", nullptr, &type, reinterpret_cast<BYTE*>(&build), &size);
-    RegCloseKey(key);
+    const LSTATUS status = RegQueryValueExW(key.get(), L"Build", nullptr, &type,
+                                            reinterpret_cast<BYTE*>(&build), &size);
     return status == ERROR_SUCCESS && type == REG_DWORD ? build : 0;
 }
 
