@@ -1,9 +1,11 @@
 #include "app/registry_exporter.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <utility>
 
+#include "base/names.h"
 #include "base/owned_handle.h"
 #include "base/read_file.h"
 #include "settings/settings_file.h"
@@ -17,11 +19,6 @@ constexpr DWORD kNameLength = 256;
 constexpr std::size_t kBufferSize = 64 * 1024;
 // Written in place of a number that cannot be read as one; the file's readers know it.
 constexpr std::uint32_t kUnreadableNumber = 0xDEF0;
-
-std::wstring UpperCase(std::wstring text) {
-    CharUpperW(text.data());
-    return text;
-}
 
 OwnedKey CreateKey(HKEY parent, const wchar_t* name) {
     HKEY key = nullptr;
@@ -97,12 +94,8 @@ class Export {
     }
 
     bool IsExcluded(const std::wstring& name) const {
-        if (excluded_.empty()) return false;
-        const std::wstring upper = UpperCase(name);
-        for (const std::wstring& excluded : excluded_) {
-            if (upper == excluded) return true;
-        }
-        return false;
+        return std::ranges::any_of(
+            excluded_, [&](const std::wstring& excluded) { return IsSameName(excluded, name); });
     }
 
     // Up to the first terminator, if there is one.
@@ -173,9 +166,7 @@ class RegistrySink : public SettingsSink {
 
 }  // namespace
 
-void RegistryExporter::Exclude(const wchar_t* valueName) {
-    excluded_.push_back(UpperCase(valueName));
-}
+void RegistryExporter::Exclude(const wchar_t* valueName) { excluded_.push_back(valueName); }
 
 bool RegistryExporter::Export(const wchar_t* path, HKEY root, const wchar_t* keyPath) const {
     const OwnedKey key = OpenKey(root, keyPath);

@@ -1,5 +1,6 @@
 #include "settings/keyboard_layouts.h"
 
+#include "base/names.h"
 #include "settings/catalogue.h"
 #include "settings/settings_key.h"
 
@@ -73,7 +74,7 @@ const KeyboardLayout* KeyboardLayouts::Find(const std::wstring& name) {
 
 int KeyboardLayouts::PositionOf(const std::wstring& name) const {
     for (int i = 0; i < Count(); ++i) {
-        if (_wcsicmp(NameAt(i).c_str(), name.c_str()) == 0) return i;
+        if (IsSameName(NameAt(i), name)) return i;
     }
     return -1;
 }

@@ -4,6 +4,7 @@
 
 #include "app/language/language_table.h"
 #include "app/language/module.h"
+#include "base/names.h"
 #include "resources/ids.h"
 #include "settings/diary_settings.h"
 #include "settings/settings_key.h"
@@ -174,4 +175,11 @@ std::wstring OptionsPage::ItemText(int control, int index) const {
     SendDlgItemMessageW(hwnd(), control, CB_GETLBTEXT, index,
                         reinterpret_cast<LPARAM>(text.data()));
     return text;
+}
+
+int OptionsPage::FindItem(int control, const std::wstring& name) const {
+    for (int i = 0; i < ItemCount(control); ++i) {
+        if (IsSameName(ItemText(control, i), name)) return i;
+    }
+    return -1;
 }

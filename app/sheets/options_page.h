@@ -54,6 +54,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     std::int32_t ItemValue(int control, int index) const override;
     void SetItemValue(int control, int index, std::int32_t value) override;
     std::wstring ItemText(int control, int index) const override;
+    // The entry of a name; -1 when there is none.
+    int FindItem(int control, const std::wstring& name) const;
 
   private:
     std::optional<INT_PTR> OnPageNotification(const NMHDR& header);

@@ -7,6 +7,7 @@
 #include "appearance/categories/category_color_store.h"
 #include "appearance/categories/category_icon_files.h"
 #include "appearance/categories/category_icons.h"
+#include "base/names.h"
 #include "pages/stores/database_record.h"
 #include "settings/device.h"
 
@@ -167,7 +168,7 @@ void CategoryList::RemoveIcon(int index) {
     if (!HasName(index) || Folder().empty()) return;
     DeleteCategoryIcon(Folder(), At(index).name);
     for (int i = 0; i < Count(); ++i) {
-        if (_wcsicmp(At(i).name.c_str(), At(index).name.c_str()) == 0) GetCategoryIcons().Remove(i);
+        if (IsSameName(At(i).name, At(index).name)) GetCategoryIcons().Remove(i);
     }
 }
 
@@ -186,8 +187,7 @@ bool CategoryList::SetIntensity(int index, int percent) {
 bool CategoryList::WriteColor(int index) {
     const CategoryColor& color = colors_[static_cast<std::size_t>(index)];
     for (int i = 0; i < Count(); ++i) {
-        if (_wcsicmp(At(i).name.c_str(), At(index).name.c_str()) == 0)
-            colors_[static_cast<std::size_t>(i)] = color;
+        if (IsSameName(At(i).name, At(index).name)) colors_[static_cast<std::size_t>(i)] = color;
     }
     return WriteCategoryColor(At(index).name, color);
 }

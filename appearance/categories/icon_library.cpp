@@ -8,6 +8,7 @@
 #include "appearance/categories/icon_files.h"
 #include "appearance/categories/icon_size.h"
 #include "base/mapped_file.h"
+#include "base/names.h"
 #include "base/scale.h"
 #include "settings/install_path.h"
 
@@ -19,9 +20,7 @@ IconLibrary::IconLibrary() {
 void IconLibrary::LoadFolder(const std::wstring& folder) {
     std::wstring name = folder;
     while (name.ends_with(L'\\')) name.pop_back();
-    const auto isSame = [&](const std::wstring& other) {
-        return _wcsicmp(other.c_str(), name.c_str()) == 0;
-    };
+    const auto isSame = [&](const std::wstring& other) { return IsSameName(other, name); };
     if (std::any_of(loadedFolders_.begin(), loadedFolders_.end(), isSame)) return;
 
     const IconDigester digester;

@@ -1,8 +1,13 @@
 #include "pages/general/general_pages.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "appearance/drawing/fonts.h"
+#include "base/names.h"
 #include "base/scale.h"
 #include "controls/explanation.h"
 
@@ -20,13 +25,11 @@ constexpr Row kRows[] = {
 constexpr int kSampleMargin = 4;
 
 // Faces that begin with "@" are turned for vertical writing.
-int CALLBACK AddFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM list) {
-    const auto combo = reinterpret_cast<HWND>(list);
-    const auto face = reinterpret_cast<LPARAM>(font->lfFaceName);
-    const auto all = static_cast<WPARAM>(-1);
-    if (font->lfFaceName[0] != L'@' && SendMessageW(combo, CB_FINDSTRINGEXACT, all, face) < 0) {
-        SendMessageW(combo, CB_ADDSTRING, 0, face);
-    }
+int CALLBACK CollectFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM context) {
+    auto& faces = *reinterpret_cast<std::vector<std::wstring>*>(context);
+    const std::wstring face = font->lfFaceName;
+    const auto isSame = [&](const std::wstring& other) { return IsSameName(other, face); };
+    if (!face.starts_with(L'@') && std::ranges::none_of(faces, isSame)) faces.push_back(face);
     return 1;
 }
 
@@ -71,16 +74,14 @@ void GeneralFontPage::OnTranslated() {
 }
 
 void GeneralFontPage::FillFaces() {
-    EnumFontFamiliesW(WindowDc().get(), nullptr, AddFace,
-                      reinterpret_cast<LPARAM>(Item(IDC_FONT_FACE)));
+    std::vector<std::wstring> faces;
+    EnumFontFamiliesW(WindowDc().get(), nullptr, CollectFace, reinterpret_cast<LPARAM>(&faces));
+    for (const std::wstring& face : faces) AddItem(IDC_FONT_FACE, face, 0);
 }
 
 // Selects the current font in the lists; what a list does not have leaves it without a selection.
 void GeneralFontPage::ShowFont() {
-    SetSelection(IDC_FONT_FACE,
-                 static_cast<int>(SendDlgItemMessageW(
-                     hwnd(), IDC_FONT_FACE, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                     reinterpret_cast<LPARAM>(current_.face.c_str()))));
+    SetSelection(IDC_FONT_FACE, FindItem(IDC_FONT_FACE, current_.face));
     SelectValue(*this, IDC_FONT_SIZE, current_.height);
     SetSelection(IDC_FONT_CLEARTYPE,
                  current_.clearType < static_cast<unsigned>(ItemCount(IDC_FONT_CLEARTYPE))

@@ -71,11 +71,10 @@ std::wstring GeneralSkinsPage::HintOf(const std::wstring& skin, const SkinArt::F
                   {skin, member});
 }
 
-// Selects the entry of that name, case aside; nothing changes when there is none.
+// Nothing changes when there is no such skin.
 void GeneralSkinsPage::SelectSkin(const std::wstring& name) {
-    const LRESULT index = SendDlgItemMessageW(hwnd(), IDC_SKIN, CB_FINDSTRINGEXACT, -1,
-                                              reinterpret_cast<LPARAM>(name.c_str()));
-    if (index >= 0) SetSelection(IDC_SKIN, static_cast<int>(index));
+    const int index = FindItem(IDC_SKIN, name);
+    if (index >= 0) SetSelection(IDC_SKIN, index);
 }
 
 bool GeneralSkinsPage::OnCommand(int id, int code) {

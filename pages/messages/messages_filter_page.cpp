@@ -8,6 +8,7 @@
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "base/fill_in.h"
+#include "base/names.h"
 #include "base/wait_cursor.h"
 #include "controls/focus_keeper.h"
 #include "pages/messages/mail_folders_view.h"
@@ -157,7 +158,8 @@ MailFilter& MessagesFilterPage::Edited() {
 
 bool MessagesFilterPage::IsBuiltIn(int filter) const {
     const std::wstring& name = GetMailFoldersFilters().filters().at(filter).name;
-    return std::find(builtInNames_.begin(), builtInNames_.end(), name) != builtInNames_.end();
+    return std::ranges::any_of(
+        builtInNames_, [&](const std::wstring& builtIn) { return IsSameName(builtIn, name); });
 }
 
 void MessagesFilterPage::OnToggled(const MailFolderNode& folder) {
@@ -220,16 +222,13 @@ void MessagesFilterPage::AddNewFilter() {
     const std::wstring typed = TypedName();
     new_.name = typed.empty() ? AutomaticName() : typed;
     std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
-    // In the registry names differ by more than the case of their letters.
-    const auto known = std::find_if(filters.begin(), filters.end(), [this](const MailFilter& one) {
-        return _wcsicmp(one.name.c_str(), new_.name.c_str()) == 0;
-    });
-    const int place = static_cast<int>(known - filters.begin());
-    if (known == filters.end()) {
+    int place = GetMailFoldersFilters().FindByName(new_.name);
+    if (place < 0) {
+        place = static_cast<int>(filters.size());
         filters.push_back(new_);
     } else {
         // Nobody shall lose a filter by giving its name again: it gets the folders in addition.
-        for (const auto& [folder, name] : new_.entries) known->Add(folder, name);
+        for (const auto& [folder, name] : new_.entries) filters[place].Add(folder, name);
     }
     new_ = {};
     Choose(place);
@@ -238,7 +237,7 @@ void MessagesFilterPage::AddNewFilter() {
 void MessagesFilterPage::DeleteFilter() {
     if (chosen_ < 0 || IsBuiltIn(chosen_)) return;
     std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
-    if (filters.at(chosen_).name == active_) activeDeleted_ = true;
+    if (IsSameName(filters.at(chosen_).name, active_)) activeDeleted_ = true;
     filters.erase(filters.begin() + chosen_);
     Choose(kNewFilter);
 }
@@ -273,10 +272,7 @@ void MessagesFilterPage::ListSuggestedNames() {
             if (filter.Contains(folder->folder)) containing.push_back(filter.name);
         }
         for (const std::wstring& name :
-             SuggestedFilterNames(NamesOf(folder->folder), containing,
-                                  [](std::wstring_view left, std::wstring_view right) {
-                                      return StandsAfter(std::wstring(right), std::wstring(left));
-                                  })) {
+             SuggestedFilterNames(NamesOf(folder->folder), containing, StandsBefore)) {
             AddItem(IDC_MAIL_FILTER_NAME, name, 0);
         }
     }

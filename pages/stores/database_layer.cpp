@@ -4,6 +4,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "base/names.h"
 #include "settings/device.h"
 
 namespace {
@@ -57,7 +58,7 @@ const CEGUID& DatabaseLayer::PimVolume() {
     }
     wchar_t name[MAX_PATH];
     while (CeEnumDBVolumes(&volume, name, MAX_PATH)) {
-        if (_wcsicmp(name, kPimVolume) != 0) continue;
+        if (!IsSameName(name, kPimVolume)) continue;
         pimVolume_ = volume;
         break;
     }

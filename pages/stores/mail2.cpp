@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/names.h"
 #include "pages/stores/read_settings_ini.h"
 #include "settings/settings_key.h"
 
@@ -26,8 +27,7 @@ DWORD ReadBuild() {
 }
 
 bool DescribesService(const SettingsIniSection& section) {
-    const std::wstring kind = section.name.substr(0, section.name.find(L'.'));
-    return _wcsicmp(kind.c_str(), L"SERVICE") == 0;
+    return IsSameName(section.name.substr(0, section.name.find(L'.')), L"SERVICE");
 }
 
 }  // namespace

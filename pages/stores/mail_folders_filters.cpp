@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/names.h"
 #include "settings/catalogue.h"
 #include "settings/settings_key.h"
 
@@ -82,7 +83,7 @@ std::vector<int> CMailFoldersFilters::SortedIndices() const {
     }
     for (std::size_t i = 0; i < sorted.size(); ++i) {
         for (std::size_t j = i + 1; j < sorted.size(); ++j) {
-            if (StandsAfter(filters_[sorted[i]].name, filters_[sorted[j]].name)) {
+            if (StandsBefore(filters_[sorted[j]].name, filters_[sorted[i]].name)) {
                 std::swap(sorted[i], sorted[j]);
             }
         }
@@ -91,8 +92,9 @@ std::vector<int> CMailFoldersFilters::SortedIndices() const {
 }
 
 int CMailFoldersFilters::FindByName(const std::wstring& name) const {
-    const auto found = std::find_if(filters_.begin(), filters_.end(),
-                                    [&](const MailFilter& filter) { return filter.name == name; });
+    const auto found =
+        std::find_if(filters_.begin(), filters_.end(),
+                     [&](const MailFilter& filter) { return IsSameName(filter.name, name); });
     return found == filters_.end() ? -1 : static_cast<int>(found - filters_.begin());
 }
 
@@ -137,11 +139,4 @@ void CMailFoldersFilters::AddMail2Folders(const Mail2& mail2, const BuiltIns& bu
 CMailFoldersFilters& GetMailFoldersFilters() {
     static CMailFoldersFilters filters;
     return filters;
-}
-
-bool StandsAfter(const std::wstring& left, const std::wstring& right) {
-    return CompareStringW(LOCALE_USER_DEFAULT,
-                          NORM_IGNORECASE | NORM_IGNOREKANATYPE | NORM_IGNOREWIDTH, left.c_str(),
-                          static_cast<int>(left.size()), right.c_str(),
-                          static_cast<int>(right.size())) == CSTR_GREATER_THAN;
 }

@@ -32,7 +32,7 @@ class CMailFoldersFilters {
 
     // The filters that have folders, by their names.
     std::vector<int> SortedIndices() const;
-    // -1 when there is none.
+    // -1 when there is none. In the registry names differ by more than the case of their letters.
     int FindByName(const std::wstring& name) const;
 
     // Finds the filters that every device has, adding those that are missing.
@@ -52,7 +52,3 @@ class CMailFoldersFilters {
 
 // The process's one.
 CMailFoldersFilters& GetMailFoldersFilters();
-
-// Whether a name stands after another one in the user's alphabet, without regard to case, kana type
-// and width.
-bool StandsAfter(const std::wstring& left, const std::wstring& right);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "base/names.h"
 #include "base/owned_handle.h"
 
 namespace {
@@ -30,8 +31,6 @@ std::vector<std::wstring> NoteFolders() {
             GetProcAddress(library.get(), MAKEINTRESOURCEW(kEnumProjectsEx))))) {
         enumerate(AddFolder, 0, PRJ_ENUM_ALL_DEVICES, reinterpret_cast<LPARAM>(&names));
     }
-    std::sort(names.begin(), names.end(), [](const std::wstring& a, const std::wstring& b) {
-        return _wcsicmp(a.c_str(), b.c_str()) < 0;
-    });
+    std::ranges::sort(names, StandsBefore);
     return names;
 }

@@ -3,6 +3,6 @@
 #include <string>
 #include <vector>
 
-// The names of the device's note folders, sorted without regard to case; none where the device has
+// The names of the device's note folders, sorted as the user would; none where the device has
 // no notes.
 std::vector<std::wstring> NoteFolders();

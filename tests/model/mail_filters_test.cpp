@@ -204,6 +204,18 @@ TEST_F(MailFilters, WithstandShortTables) {
     }
 }
 
+// A filter of the name that the registry does not tell from a built-in one's is that one.
+TEST_F(MailFilters, OfOneNameAreOne) {
+    CMailFoldersFilters filters;
+    filters.filters() = {{L"\x44F\x449\x438\x43A", {{{{1}, false}, L"One"}}}, {L"INBOX", {}}};
+    const auto builtIns =
+        filters.FindBuiltIns({L"a", L"b", L"Inbox", L"\x42F\x429\x418\x41A", L"e"});
+    EXPECT_EQ(builtIns, (CMailFoldersFilters::BuiltIns{2, 3, 1, 0, 4}));
+    filters.filters() = {{L"\x42F", {{{{1}, false}, L"One"}}},
+                         {L"\x430", {{{{1}, false}, L"One"}}}};
+    EXPECT_EQ(filters.SortedIndices(), (std::vector<int>{1, 0}));
+}
+
 TEST_F(MailFilters, AreStoredAndLoaded) {
     const std::wstring path = std::wstring(kProductKey) + L"\\MailFilters";
     CMailFoldersFilters filters;
@@ -218,7 +230,8 @@ TEST_F(MailFilters, AreStoredAndLoaded) {
         key.WriteBinary(L"gone", "M\1\7\1x", 6);
     }
     EXPECT_EQ(filters.SortedIndices(), (std::vector<int>{2, 0, 4, 3}));
-    EXPECT_EQ(filters.FindByName(L"a"), -1);
+    EXPECT_EQ(filters.FindByName(L"LONG"), 3);
+    EXPECT_EQ(filters.FindByName(L"lon"), -1);
     filters.Save();
     {
         CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), false, false);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "pages/stores/handwriting.h"
 #include "pages/stores/note_folders.h"
 #include "settings/settings_key.h"
@@ -10,14 +12,16 @@
 namespace {
 
 TEST(Notes, FoldersAreSortedByName) {
-    for (const wchar_t* const name : {L"zebra", L"Apple", L"apricot"}) {
-        CreateDirectoryW((std::wstring(L"\\My Documents\\") + name).c_str(), nullptr);
+    const std::vector<std::wstring> sorted = {L"Ähre",  L"Apple", L"apricot", L"azure",
+                                              L"zebra", L"архив", L"Ящик"};
+    for (const std::wstring& name : sorted) {
+        CreateDirectoryW((L"\\My Documents\\" + name).c_str(), nullptr);
     }
-    const std::vector<std::wstring> folders = NoteFolders();
-    ASSERT_GE(folders.size(), 3u);
-    EXPECT_EQ(folders[0], L"Apple");
-    EXPECT_EQ(folders[1], L"apricot");
-    EXPECT_EQ(folders.back(), L"zebra");
+    std::vector<std::wstring> folders = NoteFolders();
+    std::erase_if(folders, [&](const std::wstring& name) {
+        return std::ranges::find(sorted, name) == sorted.end();
+    });
+    EXPECT_EQ(folders, sorted);
 }
 
 TEST(Notes, HandwritingPrograms) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "base/names.h"
 #include "settings/diary_settings.h"
 #include "settings/install_path.h"
 #include "settings/settings_key.h"
@@ -196,6 +197,38 @@ TEST_F(Settings, SaveWritesAllButTheTextOffset) {
     EXPECT_EQ(Stored(L"App_TaskShowMultiday").data, (std::vector<BYTE>{0xFB, 0xFF, 0xFF, 0xFF}));
     EXPECT_EQ(Stored(L"EmailConfirmDeletion").data, (std::vector<BYTE>{1, 0, 0, 0}));
     EXPECT_EQ(Stored(L"dbgTextOffset").status, ERROR_FILE_NOT_FOUND);
+}
+
+// Names are the same where a key of the registry has but one value for both.
+TEST_F(Settings, SameNamesShareAValue) {
+    struct Case {
+        std::wstring one, other;
+        bool same;
+    };
+    for (const Case& c : {
+             Case{L"\x00C4RZTE", L"\x00E4rzte", true},
+             Case{L"\x042F\x0449\x0438\x043A", L"\x044F\x0429\x0418\x041A", true},
+             Case{L"\x03A3", L"\x03C3", true},
+             Case{L"Stra\x00DF"
+                  L"e",
+                  L"STRASSE", false},
+             Case{L"\x00C4rzte", L"Arzte", false},
+             Case{L"a", L"ab", false},
+             Case{L"ab",
+                  L"a\x00AD"
+                  L"b",
+                  false},
+             Case{L"\xFF21", L"A", false},
+         }) {
+        CSettingsKey key = OpenProductKey();
+        key.WriteDword(c.one.c_str(), 1);
+        key.WriteDword(c.other.c_str(), 2);
+        const bool shared = key.ReadDword(c.one.c_str(), 0) == 2;
+        EXPECT_EQ(shared, c.same) << testing::PrintToString(c.one);
+        EXPECT_EQ(IsSameName(c.one, c.other), c.same) << testing::PrintToString(c.one);
+        key.DeleteValue(c.one.c_str());
+        key.DeleteValue(c.other.c_str());
+    }
 }
 
 }  // namespace
