@@ -24,9 +24,7 @@ void CheckList::Insert(int position, const std::wstring& text, LPARAM data, bool
     item.pszText = const_cast<wchar_t*>(text.c_str());  // Only read.
     item.lParam = data;
     SendMessageW(list_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    item.stateMask = LVIS_STATEIMAGEMASK;
-    item.state = INDEXTOSTATEIMAGEMASK(checked ? kChecked : kUnchecked);
-    SendMessageW(list_, LVM_SETITEMSTATE, position, reinterpret_cast<LPARAM>(&item));
+    SetChecked(position, checked);
 }
 
 void CheckList::FitColumn() {
@@ -52,6 +50,13 @@ LPARAM CheckList::Data(int position) const {
 bool CheckList::IsChecked(int position) const {
     return SendMessageW(list_, LVM_GETITEMSTATE, position, LVIS_STATEIMAGEMASK) ==
            INDEXTOSTATEIMAGEMASK(kChecked);
+}
+
+void CheckList::SetChecked(int position, bool checked) {
+    LVITEMW item = {};
+    item.stateMask = LVIS_STATEIMAGEMASK;
+    item.state = INDEXTOSTATEIMAGEMASK(checked ? kChecked : kUnchecked);
+    SendMessageW(list_, LVM_SETITEMSTATE, position, reinterpret_cast<LPARAM>(&item));
 }
 
 int CheckList::Selected() const {

@@ -18,6 +18,7 @@ class CheckList {
     int Count() const;
     LPARAM Data(int position) const;
     bool IsChecked(int position) const;
+    void SetChecked(int position, bool checked);
     int Selected() const;  // -1: none
     void Select(int position);
     // Moves the selected row up (-1) or down (1); false when it cannot go further.

@@ -40,6 +40,8 @@ class NotesFilterPage : public OptionsPage {
     std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
 
   private:
+    void TickSameNames(int row);
+
     CheckList list_;
     std::vector<std::wstring> folders_;  // of the rows, in lower case
 };
@@ -64,10 +66,9 @@ void NotesFilterPage::OnSave(PageValues&) {
     std::vector<std::wstring> hidden = LoadHidden();
     for (int i = 0; i < list_.Count(); ++i) {
         const std::wstring& name = folders_[static_cast<std::size_t>(i)];
-        const auto found = std::ranges::find(hidden, name);
         if (list_.IsChecked(i)) {
-            if (found != hidden.end()) hidden.erase(found);
-        } else if (found == hidden.end()) {
+            std::erase(hidden, name);
+        } else if (std::ranges::find(hidden, name) == hidden.end()) {
             hidden.push_back(name);
         }
     }
@@ -75,8 +76,25 @@ void NotesFilterPage::OnSave(PageValues&) {
 }
 
 std::optional<INT_PTR> NotesFilterPage::OnControlNotification(const NMHDR& header) {
-    if (header.idFrom == IDC_NOTES_FOLDERS && header.code == LVN_KEYDOWN) list_.OnKeyDown(header);
+    if (header.idFrom != IDC_NOTES_FOLDERS) return std::nullopt;
+    switch (header.code) {
+        case LVN_ITEMCHANGED:
+            TickSameNames(reinterpret_cast<const NMLISTVIEW&>(header).iItem);
+            break;
+        case LVN_KEYDOWN: list_.OnKeyDown(header); break;
+    }
     return std::nullopt;
+}
+
+// A name hides the folder of the device and that of a storage card alike.
+void NotesFilterPage::TickSameNames(int row) {
+    if (row < 0) return;
+    const bool ticked = list_.IsChecked(row);
+    for (int i = 0; i < list_.Count(); ++i) {
+        const bool same =
+            folders_[static_cast<std::size_t>(i)] == folders_[static_cast<std::size_t>(row)];
+        if (same && list_.IsChecked(i) != ticked) list_.SetChecked(i, ticked);
+    }
 }
 
 }  // namespace

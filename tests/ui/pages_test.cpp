@@ -1,5 +1,6 @@
 // Pages: what they show, what they store and when.
 #include <optional>
+#include <ranges>
 
 #include "resources/ids.h"
 #include "tests/ui/device.h"
@@ -401,17 +402,22 @@ TEST_F(Pages, ASheetOverAnotherHasTitlesOfItsOwn) {
 TEST_F(Pages, HiddenNoteFolders) {
     const std::wstring filters = std::wstring(kProductKey) + L"\\Filters";
     CSettingsKey key(HKEY_LOCAL_MACHINE, filters.c_str(), true, true);
-    key.WriteString(L"HiddenFolders", L"gone|PERSONAL");
+    key.WriteString(L"HiddenFolders", L"gone|PERSONAL|personal");
+    const wchar_t* const card[] = {L"\\Storage Card", L"\\Storage Card\\My Documents",
+                                   L"\\Storage Card\\My Documents\\BUSINESS"};
+    for (const wchar_t* const folder : card) CreateDirectoryW(folder, nullptr);
     Program program(L"-P4:0");
     const HWND sheet = program.Sheet(L"Note options");
     TurnTo(sheet, 1);
     const HWND list = GetDlgItem(Page(sheet, IDC_NOTES_FOLDERS), IDC_NOTES_FOLDERS);
     ASSERT_TRUE(list);
-    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Business
+    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Business, of the device or the card
+    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
     SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
     SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Personal
     ASSERT_TRUE(Ok(sheet));
     EXPECT_EQ(key.ReadString(L"HiddenFolders"), L"gone|business");
+    for (const wchar_t* const folder : std::views::reverse(card)) RemoveDirectoryW(folder);
 }
 
 TEST_F(Pages, UnlistedNumbersShowNothingAndStay) {
