@@ -12,6 +12,7 @@
 #include "base/scale.h"
 #include "controls/launch_help.h"
 #include "controls/title_band.h"
+#include "resources/ids.h"
 
 namespace {
 
@@ -54,8 +55,7 @@ INT_PTR FullScreenDialog::DoModal(HWND parent) {
 }
 
 bool FullScreenDialog::OnInitDialog() {
-    const bool isPage = (GetWindowLongW(hwnd(), GWL_STYLE) & WS_CHILD) != 0;
-    if (!isPage) modal_ = std::make_unique<ModalWindow>(hwnd());
+    if (!IsPage()) modal_ = std::make_unique<ModalWindow>(hwnd());
     InitFullScreenDialog();
     return false;
 }
@@ -115,6 +115,18 @@ bool FullScreenDialog::OnCommand(int id, int) {
     if (id != IDOK && id != IDCANCEL) return false;
     EndDialog(hwnd(), id == IDOK ? 1 : 0);
     return true;
+}
+
+bool FullScreenDialog::IsPage() const {
+    return (GetWindowLongW(hwnd(), GWL_STYLE) & WS_CHILD) != 0;
+}
+
+bool FullScreenDialog::Refuse(int control, const std::wstring& reason) const {
+    ComeToFront();
+    MessageBoxW(IsPage() ? GetParent(hwnd()) : hwnd(), reason.c_str(),
+                GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), MB_ICONHAND);
+    SetFocus(Item(control));
+    return false;
 }
 
 void FullScreenDialog::ShowHelp() const { LaunchHelp(helpAnchor_.c_str()); }

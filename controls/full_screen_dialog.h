@@ -40,6 +40,11 @@ class FullScreenDialog : public Dialog {
     virtual HWND FillingControl() const { return nullptr; }
     virtual std::wstring BandTitle() const;
 
+    // What is answered when a control holds what cannot be stored: comes to the front, says why,
+    // goes there, and is false.
+    bool Refuse(int control, const std::wstring& reason) const;
+    // For a page behind others of its sheet.
+    virtual void ComeToFront() const {}
     // Opens the help at the dialog's section.
     void ShowHelp() const;
     // Scrolls until a control shows. Controls that say in WM_COMMAND that they have the focus are
@@ -50,6 +55,7 @@ class FullScreenDialog : public Dialog {
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
+    bool IsPage() const;  // of a sheet
     void InitFullScreenDialog();
     void FillListsFromResource();
     int BandHeight() const;  // pixels; 0 without a band

@@ -1,8 +1,9 @@
-// Resource ids of DiaryRes.Dll. Included by resource scripts as well, so it holds nothing but defines.
+// Resource ids of DiaryRes.Dll. Included by resource scripts as well, so it holds nothing but
+// defines.
 //
-// Ranges: dialogs 2000-2999, a page's controls 100 apart from 3000 on, own strings from 1000 on. Dialog
-// ids stay at or below 30720, and no string lies in 57344-64999: the language file's template stops there
-// and skips those.
+// Ranges: dialogs 2000-2999, a page's controls 100 apart from 3000 on, own strings from 1000 on.
+// Dialog ids stay at or below 30720, and no string lies in 57344-64999: the language file's
+// template stops there and skips those.
 #pragma once
 
 // Icons of the main screen; the ids are the ones the plug-in's skins and documentation know.
@@ -130,6 +131,8 @@
 #define IDS_LAYOUT_HEBREW 1302
 #define IDS_LAYOUT_GREEK 1303
 #define IDS_LAYOUTS_TITLE 1304
+#define IDS_LAYOUT_UNLISTABLE 1305
+#define IDS_TOO_MANY_LAYOUTS 1306
 
 // What the program says when an action failed.
 #define IDS_EXPORT_FAILED 1100
@@ -280,6 +283,7 @@
 #define IDS_SAMPLE_RECORDING 1554
 #define IDS_SAMPLE_FOLDER 1555
 #define IDS_SAMPLE_CATEGORY 1556
+#define IDS_TOO_MANY_HIDDEN 1557
 #define IDD_NOTES_COMMON 2080
 #define IDC_NOTES_GROUP_BY 5300
 #define IDC_NOTES_SORT 5301

@@ -63,6 +63,10 @@ OfferedLayouts OfferedLayouts::Parse(std::wstring_view names, std::int32_t activ
     return offered;
 }
 
+bool OfferedLayouts::CanBeListed(std::wstring_view name) {
+    return !name.empty() && name.find(L',') == std::wstring_view::npos;
+}
+
 bool OfferedLayouts::Contains(const KeyboardLayout* layout) const {
     return std::find(layouts.begin(), layouts.end(), layout) != layouts.end();
 }

@@ -38,6 +38,8 @@ struct OfferedLayouts {
     // Every piece that stands for no layout lowers the active position by one, wherever it is: the
     // plug-in counts the same way.
     static OfferedLayouts Parse(std::wstring_view names, std::int32_t active, const Find& find);
+    // Whether a layout's name can be a piece of such a text.
+    static bool CanBeListed(std::wstring_view name);
     bool Contains(const KeyboardLayout* layout) const;
     const KeyboardLayout* Active() const;  // null: none
     // Makes a layout of the list the active one; none when the list does not have it.

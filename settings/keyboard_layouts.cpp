@@ -104,16 +104,25 @@ OfferedLayouts KeyboardLayouts::LoadOffered(const std::wstring& tab) {
                                  [this](const std::wstring& name) { return Find(name); });
 }
 
-void KeyboardLayouts::SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const {
+std::wstring KeyboardLayouts::NamesOf(const OfferedLayouts& offered) const {
     std::wstring names;
     for (const KeyboardLayout* const layout : offered.layouts) {
         if (!names.empty()) names += L',';
         names += NameOf(layout);
     }
+    return names;
+}
+
+bool KeyboardLayouts::CanStore(const OfferedLayouts& offered) const {
+    return FitsValue(NamesOf(offered));
+}
+
+bool KeyboardLayouts::SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const {
+    if (!CanStore(offered)) return false;
     CSettingsKey key = OpenProductKey();
-    key.WriteString((tab + settings::TabLayouts.name).c_str(), names.c_str());
-    key.WriteDword((tab + settings::TabLayoutActive.name).c_str(),
-                   static_cast<std::uint32_t>(offered.active));
+    return key.WriteString((tab + settings::TabLayouts.name).c_str(), NamesOf(offered).c_str()) &&
+           key.WriteDword((tab + settings::TabLayoutActive.name).c_str(),
+                          static_cast<std::uint32_t>(offered.active));
 }
 
 KeyboardLayouts& GetKeyboardLayouts() {

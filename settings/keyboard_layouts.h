@@ -30,7 +30,10 @@ class KeyboardLayouts {
 
     // A tab's list as it is stored; `tab` is the tab's name in the registry, such as "Notes".
     OfferedLayouts LoadOffered(const std::wstring& tab);
-    void SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const;
+    // Whether a list is short enough to be stored.
+    bool CanStore(const OfferedLayouts& offered) const;
+    // Stores nothing of a list that is too long.
+    bool SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const;
 
   private:
     struct Entry {
@@ -38,6 +41,7 @@ class KeyboardLayouts {
         std::unique_ptr<KeyboardLayout> layout;  // null until its text is read
     };
     int PositionOf(const std::wstring& name) const;  // -1: not there
+    std::wstring NamesOf(const OfferedLayouts& offered) const;
 
     std::vector<Entry> entries_;
 };

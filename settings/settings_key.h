@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -14,6 +15,14 @@ inline constexpr std::uint32_t SETTINGS_NO_DEFAULT = 0xDEF0;
 
 // The key, under HKEY_LOCAL_MACHINE, that this program and the plug-in share.
 inline constexpr const wchar_t kProductKey[] = L"\\Software\\Lum Software House\\Lum Diary";
+
+// The most bytes that a value of the registry holds.
+inline constexpr std::size_t kLargestValue = 4096;
+
+// Whether a text, with its terminator, can be stored.
+inline bool FitsValue(const std::wstring& text) {
+    return (text.size() + 1) * sizeof(wchar_t) <= kLargestValue;
+}
 
 // One registry key, opened for the length of one load or save. Reads never fail: a value that
 // cannot be read yields its default, and a missing one is created with it, so that the plug-in,

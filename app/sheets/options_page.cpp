@@ -102,12 +102,8 @@ std::optional<INT_PTR> OptionsPage::OnMessage(UINT message, WPARAM wParam, LPARA
     return FullScreenDialog::OnMessage(message, wParam, lParam);
 }
 
-bool OptionsPage::Refuse(int control, const std::wstring& reason) {
+void OptionsPage::ComeToFront() const {
     SendMessageW(GetParent(hwnd()), PSM_SETCURSEL, 0, reinterpret_cast<LPARAM>(handle_));
-    MessageBoxW(GetParent(hwnd()), reason.c_str(),
-                GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), MB_ICONHAND);
-    SetFocus(Item(control));
-    return false;
 }
 
 std::optional<INT_PTR> OptionsPage::OnPageNotification(const NMHDR& header) {

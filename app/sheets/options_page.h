@@ -34,10 +34,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     virtual void OnUpdate() {}
     // WM_NOTIFY of a control.
     virtual std::optional<INT_PTR> OnControlNotification(const NMHDR&) { return std::nullopt; }
-    // What OnApply answers when a control holds what cannot be stored: comes to the front, says why
-    // and goes there.
-    bool Refuse(int control, const std::wstring& reason);
 
+    void ComeToFront() const override;
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -15,6 +15,7 @@
 #include "pages/stores/mail_filter.h"
 #include "pages/stores/mail_filter_names.h"
 #include "pages/stores/mail_folders_filters.h"
+#include "settings/settings_key.h"
 
 namespace {
 
@@ -31,8 +32,7 @@ constexpr unsigned kBuiltInNames[] = {IDS_DELETED_ITEMS, IDS_DRAFTS, IDS_INBOX, 
                                       IDS_SENT_ITEMS};
 static_assert(std::size(kBuiltInNames) == kSpecialFolderCount);
 
-constexpr std::size_t kLongestName = 255;     // of a value in the registry
-constexpr std::size_t kLargestFilter = 4096;  // the most bytes that a value holds there
+constexpr std::size_t kLongestName = 255;  // of a value in the registry
 constexpr int kNewFilter = -1;
 
 std::wstring Trimmed(const std::wstring& text) {
@@ -293,7 +293,7 @@ bool MessagesFilterPage::OnApply() {
     if (chosen_ < 0) AddNewFilter();
     for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
         const auto bytes = MailFilterBytes(filter.entries);
-        if (!bytes || bytes->size() <= kLargestFilter) continue;
+        if (!bytes || bytes->size() <= kLargestValue) continue;
         return Refuse(
             IDC_MAIL_FOLDERS,
             FillIn(GetLanguageTable().LoadString(IDS_MAIL_FILTER_TOO_LARGE), {filter.name}));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "controls/check_list.h"
 #include "pages/stores/note_folders.h"
@@ -25,22 +26,20 @@ std::vector<std::wstring> LoadHidden() {
     return SplitHiddenNames(LowerCase(OpenProductKey(hidden.key).Read(hidden)));
 }
 
-void SaveHidden(const std::vector<std::wstring>& names) {
-    const TextSetting& hidden = settings::HiddenFolders;
-    OpenProductKey(hidden.key).Write(hidden, JoinHiddenNames(names));
-}
-
 class NotesFilterPage : public OptionsPage {
   public:
     using OptionsPage::OptionsPage;
 
   protected:
     void OnLoad(PageValues& values) override;
+    bool OnApply() override;
     void OnSave(PageValues& values) override;
     std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
 
   private:
     void TickSameNames(int row);
+    // What is to be stored.
+    std::wstring HiddenNames() const;
 
     CheckList list_;
     std::vector<std::wstring> folders_;  // of the rows, in lower case
@@ -61,7 +60,7 @@ void NotesFilterPage::OnLoad(PageValues&) {
     list_.Select(0);
 }
 
-void NotesFilterPage::OnSave(PageValues&) {
+std::wstring NotesFilterPage::HiddenNames() const {
     // Read anew: names of folders that are not there now stay hidden.
     std::vector<std::wstring> hidden = LoadHidden();
     for (int i = 0; i < list_.Count(); ++i) {
@@ -72,7 +71,19 @@ void NotesFilterPage::OnSave(PageValues&) {
             hidden.push_back(name);
         }
     }
-    SaveHidden(hidden);
+    return JoinHiddenNames(hidden);
+}
+
+bool NotesFilterPage::OnApply() {
+    if (!FitsValue(HiddenNames())) {
+        return Refuse(IDC_NOTES_FOLDERS, GetLanguageTable().LoadString(IDS_TOO_MANY_HIDDEN));
+    }
+    return OptionsPage::OnApply();
+}
+
+void NotesFilterPage::OnSave(PageValues&) {
+    const TextSetting& hidden = settings::HiddenFolders;
+    OpenProductKey(hidden.key).Write(hidden, HiddenNames());
 }
 
 std::optional<INT_PTR> NotesFilterPage::OnControlNotification(const NMHDR& header) {

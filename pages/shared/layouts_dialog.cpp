@@ -8,6 +8,13 @@
 #include "resources/ids.h"
 #include "settings/keyboard_layouts.h"
 
+namespace {
+
+// Posted to the dialog as the list's notification code; no list sends it.
+constexpr int kRefuseTick = 0x1000;
+
+}  // namespace
+
 std::wstring LayoutLabel(const std::wstring& name) {
     return KeyboardLayouts::IsBuiltIn(name) ? GetLanguageTable().Translate(name) : name;
 }
@@ -46,30 +53,52 @@ void LayoutsDialog::UpdateSwitch() {
     EnableWindow(Item(IDC_LAYOUTS_SWITCH), checked >= 2);
 }
 
-void LayoutsDialog::TakeRows() {
-    selection_.offered.layouts.clear();
+void LayoutsDialog::OnRowChanged(int row) {
+    if (row >= 0 && list_.IsChecked(row)) {
+        const auto position = static_cast<int>(list_.Data(row));
+        if (!OfferedLayouts::CanBeListed(GetKeyboardLayouts().NameAt(position))) {
+            list_.SetChecked(row, false);
+            // Later: the list has not done with the tap yet.
+            PostMessageW(hwnd(), WM_COMMAND, MAKEWPARAM(IDC_LAYOUTS_LIST, kRefuseTick), 0);
+        }
+    }
+    UpdateSwitch();
+}
+
+// False when they cannot be stored.
+bool LayoutsDialog::TakeRows() {
+    OfferedLayouts offered = selection_.offered;
+    offered.layouts.clear();
     for (int i = 0; i < list_.Count(); ++i) {
         if (!list_.IsChecked(i)) continue;
         const auto position = static_cast<int>(list_.Data(i));
-        selection_.offered.layouts.push_back(GetKeyboardLayouts().At(position));
+        offered.layouts.push_back(GetKeyboardLayouts().At(position));
     }
+    if (!GetKeyboardLayouts().CanStore(offered)) {
+        return Refuse(IDC_LAYOUTS_LIST, GetLanguageTable().LoadString(IDS_TOO_MANY_LAYOUTS));
+    }
+    selection_.offered = std::move(offered);
     const bool switches =
         SendDlgItemMessageW(hwnd(), IDC_LAYOUTS_SWITCH, BM_GETCHECK, 0, 0) == BST_CHECKED;
     selection_.noLanguageSwitch = switches ? 0 : 1;
+    return true;
 }
 
 bool LayoutsDialog::OnCommand(int id, int code) {
-    if (id == IDOK) TakeRows();
+    if (id == IDOK && !TakeRows()) return true;
+    if (id == IDC_LAYOUTS_LIST && code == kRefuseTick) {
+        Refuse(IDC_LAYOUTS_LIST, GetLanguageTable().LoadString(IDS_LAYOUT_UNLISTABLE));
+    }
     return FullScreenDialog::OnCommand(id, code);
 }
 
 std::optional<INT_PTR> LayoutsDialog::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NOTIFY && wParam == IDC_LAYOUTS_LIST) {
         const NMHDR& header = *reinterpret_cast<const NMHDR*>(lParam);
-        if (header.code == LVN_ITEMCHANGED) UpdateSwitch();
-        if (header.code == LVN_KEYDOWN) {
-            list_.OnKeyDown(header);
+        if (header.code == LVN_ITEMCHANGED) {
+            OnRowChanged(reinterpret_cast<const NMLISTVIEW&>(header).iItem);
         }
+        if (header.code == LVN_KEYDOWN) list_.OnKeyDown(header);
     }
     return FullScreenDialog::OnMessage(message, wParam, lParam);
 }

@@ -29,7 +29,8 @@ class LayoutsDialog : public FullScreenDialog {
   private:
     void ShowRows();
     void UpdateSwitch();
-    void TakeRows();
+    void OnRowChanged(int row);
+    bool TakeRows();
 
     std::wstring title_;
     LayoutSelection& selection_;

@@ -63,6 +63,16 @@ TEST_F(Layouts, TabsListsAreStored) {
     EXPECT_EQ(OpenProductKey().ReadString(L"Notes_layouts"), L"Latin,Greek");
     EXPECT_EQ(OpenProductKey().ReadDword(L"Notes_layout_active", 9), 1u);
 
+    // Of a list that no value has room for nothing is stored.
+    OfferedLayouts offered;
+    offered.layouts.assign(4096 / 2 / 6, layouts.Find(L"Latin"));  // "Latin," and a terminator
+    EXPECT_TRUE(layouts.SaveOffered(L"Notes", offered));
+    offered.layouts.push_back(layouts.Find(L"Latin"));
+    offered.active = 7;
+    EXPECT_FALSE(layouts.SaveOffered(L"Notes", offered));
+    EXPECT_EQ(OpenProductKey().ReadString(L"Notes_layouts").size(), 2045u);
+    EXPECT_EQ(OpenProductKey().ReadDword(L"Notes_layout_active", 9), 0xFFFFFFFFu);
+
     OpenProductKey().WriteBinary(L"Notes_layouts", "\xFF\xD8,", 3);
     EXPECT_TRUE(layouts.LoadOffered(L"Notes").layouts.empty());
 }

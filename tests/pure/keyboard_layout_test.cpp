@@ -47,4 +47,16 @@ TEST(OfferedLayouts, UnknownPiecesShiftTheActivePosition) {
     EXPECT_EQ(parse(L",", INT32_MIN).active, INT32_MAX);
 }
 
+TEST(OfferedLayouts, ActivatesWhatItHas) {
+    const KeyboardLayout a, b, c;
+    OfferedLayouts offered = {{&a, &b}, 0};
+    EXPECT_TRUE(offered.Contains(&a) && offered.Contains(&b) && !offered.Contains(&c));
+    offered.Activate(&b);
+    EXPECT_EQ(offered.active, 1);
+    for (const KeyboardLayout* const other : {&c, static_cast<const KeyboardLayout*>(nullptr)}) {
+        offered.Activate(other);
+        EXPECT_EQ(offered.active, -1);
+    }
+}
+
 }  // namespace

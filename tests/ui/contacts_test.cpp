@@ -1,4 +1,6 @@
 // The contacts' page and its keyboard layouts.
+#include <commctrl.h>
+
 #include "resources/ids.h"
 #include "tests/ui/device.h"
 
@@ -101,6 +103,41 @@ TEST_F(Contacts, WhatOthersStoreMeanwhileShowsUnlessItWasTouched) {
     EXPECT_EQ(Stored(L"Contacts_layout_active"), 0xFFFFFFFFu);
     EXPECT_EQ(Stored(L"ShowContactsInAllCategories"), 1u);
     EXPECT_EQ(Stored(L"ContactsGroupBy"), 558u);
+}
+
+TEST_F(Contacts, LayoutsThatCannotBeStoredAreRefused) {
+    {
+        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\Layouts").c_str(),
+                         true, true);
+        for (const wchar_t c : {L'a', L'b', L'c', L'd', L'e', L'f', L'g', L'h'}) {
+            key.WriteString((c + std::wstring(254, L'x')).c_str(), L"la(a)");
+        }
+        key.WriteString(L"One, two", L"la(a)");  // the ninth
+    }
+    const HWND page = OpenPage();
+    ASSERT_TRUE(page);
+    const HWND dialog = OpenDialog(page, 2);
+    ASSERT_TRUE(dialog);
+    const HWND list = GetDlgItem(dialog, IDC_LAYOUTS_LIST);
+    const auto ticked = [&] {
+        std::wstring rows;
+        for (int i = 0; i < 13; ++i) {
+            const LRESULT state = SendMessageW(list, LVM_GETITEMSTATE, i, LVIS_STATEIMAGEMASK);
+            rows += state == INDEXTOSTATEIMAGEMASK(2) ? L'x' : L'-';
+        }
+        return rows;
+    };
+    Tick(dialog, 8);
+    ASSERT_TRUE(program_.Dismiss());
+    EXPECT_EQ(ticked(), L"---------x---") << "but Latin";
+    for (int i = 0; i < 8; ++i) Tick(dialog, i);
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+    ASSERT_TRUE(program_.Dismiss());
+    EXPECT_TRUE(IsWindow(dialog));
+    Tick(dialog, 9);
+    ASSERT_TRUE(Ok(dialog));
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(StoredText(L"Contacts_layouts").size(), 8 * 256 - 1u);
 }
 
 }  // namespace

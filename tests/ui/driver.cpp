@@ -135,6 +135,11 @@ HWND Program::Sheet(const std::wstring& title) const {
     return found;
 }
 
+bool Program::Dismiss() const {
+    const HWND box = Sheet(L"Lum Diary Options");
+    return box && Ok(box);
+}
+
 std::vector<std::wstring> Program::OpenSheets() const {
     std::vector<std::wstring> titles;
     for (const HWND dialog : VisibleDialogs(id_)) titles.push_back(Text(dialog));

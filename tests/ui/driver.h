@@ -25,6 +25,8 @@ class Program {
     HWND Main() const;
     // A sheet or dialog of the program with this title once it shows; null when it does not come.
     HWND Sheet(const std::wstring& title) const;
+    // Confirms the message box, once it shows; false when none comes.
+    bool Dismiss() const;
     // The titles of the sheets and dialogs that show now.
     std::vector<std::wstring> OpenSheets() const;
     // Opens an entry of the main screen at a page.

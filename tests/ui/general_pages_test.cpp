@@ -34,9 +34,7 @@ TEST_F(General, HeightKeepsItsRange) {
     for (const wchar_t* refused : {L"301", L"79", L"", L"99999999999"}) {
         SetDlgItemTextW(page, IDC_HEIGHT, refused);
         PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
-        const HWND box = program_.Sheet(L"Lum Diary Options");
-        ASSERT_TRUE(box) << testing::PrintToString(refused);
-        ASSERT_TRUE(Ok(box));
+        ASSERT_TRUE(program_.Dismiss()) << testing::PrintToString(refused);
         EXPECT_TRUE(IsWindow(page));
     }
     // From another page the refusing one comes to the front, and stays there.
@@ -222,9 +220,7 @@ TEST_F(General, SettingsTravelInAFile) {
         return WriteBytes(kFile, exported.data(), static_cast<DWORD>(exported.size() - 4));
     }));
     import(IDYES);
-    const HWND failed = program_.Sheet(L"Lum Diary Options");
-    ASSERT_TRUE(failed);
-    ASSERT_TRUE(Ok(failed));
+    ASSERT_TRUE(program_.Dismiss());
     EXPECT_EQ(program_.CloseAndWait(), 0u);
     EXPECT_EQ(plugin.Updates(), (std::vector<Plugin::Update>{{0, 0}}));
     DeleteFileW(kFile);

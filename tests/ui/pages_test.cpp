@@ -420,6 +420,26 @@ TEST_F(Pages, HiddenNoteFolders) {
     for (const wchar_t* const folder : std::views::reverse(card)) RemoveDirectoryW(folder);
 }
 
+TEST_F(Pages, TooManyHiddenNoteFoldersAreRefused) {
+    const std::wstring filters = std::wstring(kProductKey) + L"\\Filters";
+    CSettingsKey key(HKEY_LOCAL_MACHINE, filters.c_str(), true, true);
+    const std::wstring stored = std::wstring(2046 - 9, L'x') + L"|personal";
+    key.WriteString(L"HiddenFolders", stored.c_str());
+    Program program(L"-P4:0");
+    const HWND sheet = program.Sheet(L"Note options");
+    TurnTo(sheet, 1);
+    const HWND list = GetDlgItem(Page(sheet, IDC_NOTES_FOLDERS), IDC_NOTES_FOLDERS);
+    ASSERT_TRUE(list);
+    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Business
+    PostMessageW(sheet, WM_COMMAND, IDOK, 0);
+    ASSERT_TRUE(program.Dismiss());
+    EXPECT_EQ(key.ReadString(L"HiddenFolders"), stored);
+    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
+    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Personal, whose name is as long
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(key.ReadString(L"HiddenFolders").substr(2046 - 9), L"|business");
+}
+
 TEST_F(Pages, UnlistedNumbersShowNothingAndStay) {
     Put(L"Calendar_FirstYearWeek", 77);
     Put(L"CalendarPeriod", 0x80000000);
