@@ -97,6 +97,13 @@ bool CSettingsKey::DeleteValue(const wchar_t* name) {
     return true;
 }
 
+void CSettingsKey::DeleteValues() {
+    // Always the first one: the others move up as it goes.
+    std::wstring name;
+    while (FirstValueName(name) && DeleteValue(name.c_str())) {
+    }
+}
+
 bool CSettingsKey::FirstValueName(std::wstring& name) {
     enumerationIndex_ = 0;
     return ValueNameAtIndex(name);

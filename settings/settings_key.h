@@ -71,6 +71,9 @@ class CSettingsKey {
     // False as well when there is no such value.
     bool DeleteValue(const wchar_t* name);
 
+    // Deletes all of the key's values.
+    void DeleteValues();
+
     // Walk the names of the key's values; false at the end.
     bool FirstValueName(std::wstring& name);
     bool NextValueName(std::wstring& name);

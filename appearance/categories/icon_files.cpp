@@ -91,6 +91,7 @@ RememberedFolders ReadRememberedFolders() {
 
 void WriteRememberedFolders(const RememberedFolders& remembered) {
     CSettingsKey key = OpenProductKey(settings::keys::IconFolders);
+    key.DeleteValues();  // Of what an import brought, more may be there, with gaps.
     for (std::size_t i = 0; i < remembered.folders().size(); ++i) {
         key.WriteString(std::to_wstring(i + 1).c_str(), remembered.folders()[i].c_str());
     }

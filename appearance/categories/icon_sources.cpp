@@ -22,7 +22,9 @@ RememberedFolders::RememberedFolders(std::vector<std::pair<std::wstring, std::ws
     std::stable_sort(values.begin(), values.end(),
                      [](const auto& a, const auto& b) { return IsSmaller(a.first, b.first); });
     for (auto& [name, folder] : values) {
-        if (!name.empty() && !folder.empty()) folders_.push_back(std::move(folder));
+        const bool known = std::ranges::find(folders_, folder) != folders_.end();
+        if (name.empty() || folder.empty() || known || folders_.size() == kMost) continue;
+        folders_.push_back(std::move(folder));
     }
 }
 

@@ -13,7 +13,8 @@ class RememberedFolders {
 
     RememberedFolders() = default;
     // From values as they are stored: a number from 1 on, which is the place, and a folder. Values
-    // with other names, and empty folders, do not count.
+    // with other names, empty folders and what lies beyond the fifth place do not count, nor does a
+    // folder that was there before.
     explicit RememberedFolders(std::vector<std::pair<std::wstring, std::wstring>> values);
 
     const std::vector<std::wstring>& folders() const { return folders_; }

@@ -49,10 +49,7 @@ bool CMailFoldersFilters::Load(bool force) {
 
 void CMailFoldersFilters::Save() const {
     CSettingsKey key = OpenProductKey(settings::keys::MailFilters);
-    std::wstring name;
-    while (key.FirstValueName(name)) {
-        if (!key.DeleteValue(name.c_str())) break;
-    }
+    key.DeleteValues();
     for (const MailFilter& filter : filters_) {
         const auto bytes = MailFilterBytes(filter.entries);
         if (!bytes) continue;

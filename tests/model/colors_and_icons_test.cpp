@@ -206,6 +206,19 @@ TEST_F(Appearance, SourcesAreFoundAndRemembered) {
     EXPECT_EQ(FindFixedIconSources(), (Folders{kIconSet, folder.kPath}));
     DeleteKeyTree(HKEY_CURRENT_USER, kInformant);
 
+    CSettingsKey key = OpenProductKey(L"IconSets");
+    for (const wchar_t* const name : {L"3", L"7", L"9", L"010", L"11", L"12"}) {
+        key.WriteString(name, (std::wstring(L"imported ") + name).c_str());
+    }
+    WriteRememberedFolders(ReadRememberedFolders());
+    std::wstring stored;
+    for (bool more = key.FirstValueName(stored); more; more = key.NextValueName(stored)) {
+        EXPECT_TRUE(stored.size() == 1 && stored >= L"1" && stored <= L"5")
+            << testing::PrintToString(stored);
+    }
+    EXPECT_EQ(key.ReadString(L"1"), L"imported 3");
+    EXPECT_EQ(key.ReadString(L"5"), L"imported 11");
+
     for (const wchar_t* const each : {L"a", L"b", L"c", L"d", L"e", L"f", L"d"}) {
         RememberedFolders remembered = ReadRememberedFolders();
         remembered.Add(each);

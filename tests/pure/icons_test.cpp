@@ -151,6 +151,18 @@ TEST(IconSources, ShowsAnyOfThem) {
     const RememberedFolders remembered(
         {{L"10", L"c"}, {L"2", L"b"}, {L"x1", L"-"}, {L"0", L"-"}, {L"3", L""}, {L"01", L"a"}});
     EXPECT_EQ(remembered.folders(), (Folders{L"a", L"b", L"c"}));
+    RememberedFolders many({{L"1", L"a"},
+                            {L"2", L"b"},
+                            {L"3", L"a"},
+                            {L"4", L"c"},
+                            {L"5", L"d"},
+                            {L"6", L"e"},
+                            {L"7", L"f"}});
+    EXPECT_EQ(many.folders(), (Folders{L"a", L"b", L"c", L"d", L"e"}));
+    many.Add(L"c");
+    EXPECT_EQ(many.folders(), (Folders{L"c", L"a", L"b", L"d", L"e"}));
+    many.Add(L"g");
+    EXPECT_EQ(many.folders(), (Folders{L"g", L"c", L"a", L"b", L"d"}));
 
     IconSources sources({L"1", L"2"}, RememberedFolders({{L"1", L"a"}, {L"2", L"b"}}));
     EXPECT_EQ(sources.Show(99), (Folders{L"1", L"2", L"a", L"b"}));
