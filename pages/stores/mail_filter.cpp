@@ -45,7 +45,7 @@ std::optional<std::vector<std::uint8_t>> MailFilterBytes(
     const std::vector<MailFilter::Entry>& entries) {
     std::size_t size = 0;
     for (const MailFilter::Entry& entry : entries) {
-        if (entry.folder.identifier.size() > kLongestMailIdentifier) return std::nullopt;
+        if (!entry.folder.CanBeStored()) return std::nullopt;
         size += kLengths + entry.folder.identifier.size() + 2 * StoredLength(entry.name);
     }
     std::vector<std::uint8_t> bytes;

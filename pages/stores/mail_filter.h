@@ -7,18 +7,19 @@
 #include <string>
 #include <vector>
 
+// Longer identifiers and names cannot be stored.
+inline constexpr std::size_t kLongestMailIdentifier = 255;  // bytes
+inline constexpr std::size_t kLongestMailFolderName = 255;  // UTF-16 units
+
 // Names one mail folder: by its identifier in the device's messaging store or in that of Mail2, the
 // second mail program.
 struct MailFolderRef {
     std::vector<std::uint8_t> identifier;
     bool inSecondStore = false;
 
+    bool CanBeStored() const { return identifier.size() <= kLongestMailIdentifier; }
     bool operator==(const MailFolderRef&) const = default;
 };
-
-// Longer identifiers and names cannot be stored.
-inline constexpr std::size_t kLongestMailIdentifier = 255;  // bytes
-inline constexpr std::size_t kLongestMailFolderName = 255;  // UTF-16 units
 
 // A named set of mail folders, in the order in which they were added.
 struct MailFilter {

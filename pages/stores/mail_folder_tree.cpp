@@ -78,15 +78,14 @@ class Walker {
     void Add(const MapiRecord& row, MailFolderNode& parent, int depth) {
         const auto identifier = row.Bytes(0);
         const auto name = row.Text(1);
-        if (!identifier || identifier->empty() || !name || name->empty() ||
-            identifier->size() > kLongestMailIdentifier || !seen_.insert(*identifier).second) {
-            return;
-        }
+        if (!identifier || identifier->empty() || !name || name->empty()) return;
+        const MailFolderRef ref = {*identifier, false};
+        if (!ref.CanBeStored() || !seen_.insert(*identifier).second) return;
         const MapiPointer<IMAPIFolder> folder = OpenFolder(store_, *identifier);
         if (!folder) return;
         const auto special = kinds_.find(*identifier);
         MailFolderNode node =
-            MakeChild(parent, {*identifier, false},
+            MakeChild(parent, ref,
                       special == kinds_.end() ? MailFolderKind::kFolder : special->second, *name);
         if (row.Flag(2)) Walk(*folder.get(), node, depth + 1);
         parent.children.push_back(std::move(node));
@@ -116,9 +115,10 @@ std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const
         return true;
     });
     for (const auto& account : mail2.accounts()) {
-        // The account itself is what no record is.
-        MailFolderNode node =
-            MakeAccount({account->FolderIdentifier(Mail2Folder()), true}, nameOf(account->name()));
+        // The account itself is what no record is. Its folders' identifiers are as long.
+        const MailFolderRef ref = {account->FolderIdentifier(Mail2Folder()), true};
+        if (!ref.CanBeStored()) continue;
+        MailFolderNode node = MakeAccount(ref, nameOf(account->name()));
         for (const Mail2Folder& folder : account->folders()) {
             if (folder.name.empty()) continue;
             node.children.push_back(MakeChild(node, {account->FolderIdentifier(folder), true},

@@ -22,8 +22,8 @@ struct MailFolderNode {
 };
 
 // Every account of the messaging system with its folders, and then those of the second mail
-// program. Stores and folders that cannot be opened are left out; a folder that a store shows more
-// than once, even within itself, is there once.
-// An account without a name is called `unnamed`.
+// program. Stores and folders that cannot be opened, or whose identifiers cannot be stored, are
+// left out; a folder that a store shows more than once, even within itself, is there once. An
+// account without a name is called `unnamed`.
 std::vector<MailFolderNode> ReadMailFolderTree(const MapiSession& session, const Mail2& mail2,
                                                const std::wstring& unnamed);

@@ -107,7 +107,7 @@ CMailFoldersFilters::BuiltIns CMailFoldersFilters::FindBuiltIns(const BuiltInNam
 // An account without a name is called as the filter, as a record without a name could not be read.
 void CMailFoldersFilters::AddTo(int index, const MailFolderRef& folder,
                                 const std::wstring& account) {
-    if (folder.identifier.size() > kLongestMailIdentifier) return;
+    if (!folder.CanBeStored()) return;
     MailFilter& filter = filters_.at(index);
     const std::wstring& name = account.empty() ? filter.name : account;
     filter.Add(folder, name.substr(0, kLongestMailFolderName));

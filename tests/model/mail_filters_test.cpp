@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "pages/stores/mail_folder_tree.h"
 #include "pocketpc/common/mail_store.h"
 #include "settings/settings_key.h"
@@ -113,6 +115,29 @@ TEST_F(MailFilters, TheTreeHasEveryFolderOnce) {
     EXPECT_TRUE(
         Tree(mail2).ends_with(L"B\xFCro/0; B\xFCro - Inbox/4; B\xFCro - Outbox/5; B\xFCro - "
                               L"Sent items/6; B\xFCro - Deleted items/2; B\xFCro - Projects/1; "));
+}
+
+// The key that names a storage is part of its folders' identifiers.
+TEST_F(MailFilters, OfferNoFolderWithTooLongAKey) {
+    const std::string folder = "\\Application Data\\Mail2\\";
+    const std::string volume = folder + "{7A9D2E14-0C58-4B6F-A3D1-92E47F8B5C06}.vol";
+    const std::string settings = folder + "settings.ini", kept = folder + "kept.ini";
+    ASSERT_TRUE(MailStore().Save() && CopyFileA(settings.c_str(), kept.c_str(), FALSE));
+    for (const std::size_t length : {125, 126}) {
+        const std::string copy = folder + std::string(length, 'n') + ".vol";
+        ASSERT_TRUE(CopyFileA(volume.c_str(), copy.c_str(), FALSE));
+        std::ofstream(settings) << "[SERVICE.1]\nStorage=1\nStorageName=Long\nServiceName=x\n"
+                                << "StorageDBFileName=" << copy << "\n";
+        {
+            Mail2 mail2;
+            mail2.Load();
+            ASSERT_EQ(mail2.accounts().size(), 1u);
+            EXPECT_EQ(Tree(mail2).starts_with(L"Long/0; Long - Inbox/4; "), length == 125);
+            EXPECT_EQ(Tree(mail2).empty(), length == 126);
+        }
+        EXPECT_TRUE(DeleteFileA(copy.c_str()));
+    }
+    EXPECT_TRUE(MoveFileExA(kept.c_str(), settings.c_str(), MOVEFILE_REPLACE_EXISTING));
 }
 
 TEST_F(MailFilters, WithstandOddStores) {
