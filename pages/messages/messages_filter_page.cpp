@@ -32,7 +32,6 @@ constexpr unsigned kBuiltInNames[] = {IDS_DELETED_ITEMS, IDS_DRAFTS, IDS_INBOX, 
                                       IDS_SENT_ITEMS};
 static_assert(std::size(kBuiltInNames) == kSpecialFolderCount);
 
-constexpr std::size_t kLongestName = 255;  // of a value in the registry
 constexpr int kNewFilter = -1;
 
 std::wstring Trimmed(const std::wstring& text) {
@@ -81,12 +80,17 @@ class MessagesFilterPage : public OptionsPage {
     void OnToggled(const MailFolderNode& folder);
     bool IsBuiltIn(int filter) const;
 
-    // Makes the new filter, if it has folders, one of the list and chooses it.
-    void AddNewFilter();
+    // Makes the new filter, if it has folders, one of the list and chooses it. False when another
+    // filter has the name that was typed.
+    bool AddNewFilter();
     void DeleteFilter();
+    // Whether a name is that of a filter with other folders than the new one's.
+    bool IsTaken(const std::wstring& name) const;
+    bool RefuseFilter(int filter, unsigned reason);
 
     void ShowAutomaticName();
     std::wstring AutomaticName() const;
+    std::wstring FreeName() const;
     std::wstring TypedName() const;
     void ListSuggestedNames();
     // Of a folder that may no longer be there.
@@ -104,7 +108,7 @@ class MessagesFilterPage : public OptionsPage {
 void MessagesFilterPage::OnTranslated() {
     const WaitCursor wait;
     LoadFilters();
-    SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER_NAME, CB_LIMITTEXT, kLongestName, 0);
+    SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER_NAME, CB_LIMITTEXT, kLongestMailFilterName, 0);
     active_ = CMailFoldersFilters::ActiveName();
     const int active = GetMailFoldersFilters().FindByName(active_);
     const bool listed = active >= 0 && !GetMailFoldersFilters().filters()[active].entries.empty();
@@ -217,21 +221,28 @@ std::optional<INT_PTR> MessagesFilterPage::OnControlNotification(const NMHDR& he
     return answer ? std::optional(Answer(*answer)) : std::nullopt;
 }
 
-void MessagesFilterPage::AddNewFilter() {
-    if (new_.entries.empty()) return;
-    const std::wstring typed = TypedName();
-    new_.name = typed.empty() ? AutomaticName() : typed;
+bool MessagesFilterPage::AddNewFilter() {
+    if (new_.entries.empty()) return true;
+    new_.name = nameTyped_ ? TypedName() : FreeName();
+    if (IsTaken(new_.name)) {
+        return Refuse(IDC_MAIL_FILTER_NAME,
+                      FillIn(GetLanguageTable().LoadString(IDS_MAIL_FILTER_TAKEN), {new_.name}));
+    }
     std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
     int place = GetMailFoldersFilters().FindByName(new_.name);
     if (place < 0) {
         place = static_cast<int>(filters.size());
         filters.push_back(new_);
-    } else {
-        // Nobody shall lose a filter by giving its name again: it gets the folders in addition.
-        for (const auto& [folder, name] : new_.entries) filters[place].Add(folder, name);
     }
     new_ = {};
     Choose(place);
+    return true;
+}
+
+bool MessagesFilterPage::IsTaken(const std::wstring& name) const {
+    const CMailFoldersFilters& filters = GetMailFoldersFilters();
+    const int place = filters.FindByName(name);
+    return place >= 0 && !filters.filters()[place].HasSameFolders(new_);
 }
 
 void MessagesFilterPage::DeleteFilter() {
@@ -248,7 +259,17 @@ std::wstring MessagesFilterPage::AutomaticName() const {
                                       texts.LoadString(IDS_MAIL_FILTER_BASE_NAME)};
     const std::size_t count = new_.entries.size();
     const std::wstring one = count == 1 ? NamesOf(new_.entries.front().folder).folder : L"";
-    return AutomaticFilterName(names, count, one, FilterNames()).substr(0, kLongestName);
+    return AutomaticFilterName(names, count, one, FilterNames()).substr(0, kLongestMailFilterName);
+}
+
+// The automatic name may be that of a filter with other folders, which the new one must not change:
+// every account has an inbox, and all of them together are the filter called so.
+std::wstring MessagesFilterPage::FreeName() const {
+    const bool single = new_.entries.size() == 1;
+    const MailFolderNames one = single ? NamesOf(new_.entries.front().folder) : MailFolderNames();
+    return FreeFilterName(AutomaticName(), single ? &one : nullptr,
+                          GetLanguageTable().LoadString(IDS_MAIL_FILTER_BASE_NAME), StandsBefore,
+                          [this](const std::wstring& name) { return IsTaken(name); });
 }
 
 void MessagesFilterPage::ShowAutomaticName() {
@@ -258,7 +279,7 @@ void MessagesFilterPage::ShowAutomaticName() {
 }
 
 std::wstring MessagesFilterPage::TypedName() const {
-    wchar_t text[kLongestName + 1] = {};
+    wchar_t text[kLongestMailFilterName + 1] = {};
     GetWindowTextW(Item(IDC_MAIL_FILTER_NAME), text, static_cast<int>(std::size(text)));
     return Trimmed(text);
 }
@@ -290,15 +311,20 @@ MailFolderNames MessagesFilterPage::NamesOf(const MailFolderRef& folder) const {
 }
 
 bool MessagesFilterPage::OnApply() {
-    if (chosen_ < 0) AddNewFilter();
-    for (const MailFilter& filter : GetMailFoldersFilters().filters()) {
-        const auto bytes = MailFilterBytes(filter.entries);
-        if (!bytes || bytes->size() <= kLargestValue) continue;
-        return Refuse(
-            IDC_MAIL_FOLDERS,
-            FillIn(GetLanguageTable().LoadString(IDS_MAIL_FILTER_TOO_LARGE), {filter.name}));
+    if (chosen_ < 0 && !AddNewFilter()) return false;
+    const std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
+    for (int i = 0; i < static_cast<int>(filters.size()); ++i) {
+        const auto bytes = MailFilterBytes(filters[i].entries);
+        if (bytes && bytes->size() > kLargestValue) {
+            return RefuseFilter(i, IDS_MAIL_FILTER_TOO_LARGE);
+        }
     }
     return OptionsPage::OnApply();
+}
+
+bool MessagesFilterPage::RefuseFilter(int filter, unsigned reason) {
+    Choose(filter);
+    return Refuse(IDC_MAIL_FOLDERS, FillIn(GetLanguageTable().LoadString(reason), {Edited().name}));
 }
 
 void MessagesFilterPage::OnSave(PageValues&) {

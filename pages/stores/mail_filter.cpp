@@ -27,6 +27,12 @@ bool MailFilter::Contains(const MailFolderRef& folder) const {
     return Find(entries, folder) != entries.end();
 }
 
+bool MailFilter::HasSameFolders(const MailFilter& other) const {
+    return entries.size() == other.entries.size() &&
+           std::ranges::all_of(entries,
+                               [&](const Entry& entry) { return other.Contains(entry.folder); });
+}
+
 void MailFilter::Add(const MailFolderRef& folder, const std::wstring& folderName) {
     const auto found = Find(entries, folder);
     if (found == entries.end()) {

@@ -34,6 +34,8 @@ struct MailFilter {
     std::vector<Entry> entries;  // no two with the same folder
 
     bool Contains(const MailFolderRef& folder) const;
+    // Whatever their order and what the folders are called.
+    bool HasSameFolders(const MailFilter& other) const;
     // Only renames a folder that is already there.
     void Add(const MailFolderRef& folder, const std::wstring& folderName);
     void Remove(const MailFolderRef& folder);

@@ -1,6 +1,7 @@
 #include "pages/stores/mail_filter_names.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -20,6 +21,10 @@ std::optional<int> LeadingNumber(std::wstring_view text) {
     return i > begin ? std::optional(number) : std::nullopt;
 }
 
+std::wstring Numbered(const std::wstring& base, int number) {
+    return base + L' ' + std::to_wstring(number);
+}
+
 // The base name with the number after the largest one that a filter has; the first one is 1.
 std::wstring NumberedName(const std::wstring& base, const std::vector<std::wstring>& filters) {
     int number = 1;
@@ -29,7 +34,11 @@ std::wstring NumberedName(const std::wstring& base, const std::vector<std::wstri
             number = std::max(number, *found + 1);
         }
     }
-    return base + L' ' + std::to_wstring(number);
+    return Numbered(base, number);
+}
+
+std::wstring Joined(const std::wstring& first, const std::wstring& second) {
+    return first + std::wstring(kBetween) + second;
 }
 
 }  // namespace
@@ -46,12 +55,28 @@ std::vector<std::wstring> SuggestedFilterNames(const MailFolderNames& names,
                                                NameStandsBefore before) {
     std::vector<std::wstring> list = {names.account, names.folder};
     list.insert(list.end(), containing.begin(), containing.end());
-    list.push_back(names.account + std::wstring(kBetween) + names.folder);
-    list.push_back(names.folder + std::wstring(kBetween) + names.account);
+    list.push_back(Joined(names.account, names.folder));
+    list.push_back(Joined(names.folder, names.account));
     // First by every unit, so that equal names are neighbours and the order is always the same.
     std::sort(list.begin(), list.end());
     list.erase(std::unique(list.begin(), list.end()), list.end());
     std::erase(list, std::wstring());
     std::stable_sort(list.begin(), list.end(), before);
     return list;
+}
+
+std::wstring FreeFilterName(const std::wstring& automatic, const MailFolderNames* one,
+                            const std::wstring& base, NameStandsBefore before,
+                            const std::function<bool(const std::wstring&)>& isTaken) {
+    std::vector<std::wstring> wanted = {automatic};
+    if (one) {
+        wanted.push_back(Joined(one->account, one->folder));
+        std::ranges::copy(SuggestedFilterNames(*one, {}, before), std::back_inserter(wanted));
+    }
+    for (const std::wstring& name : wanted) {
+        if (name.size() <= kLongestMailFilterName && !isTaken(name)) return name;
+    }
+    int number = 1;
+    while (isTaken(Numbered(base, number))) ++number;
+    return Numbered(base, number);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +11,8 @@ struct MailFolderNames {
     std::wstring account;
     std::wstring folder;
 };
+
+inline constexpr std::size_t kLongestMailFilterName = 255;  // of a value in the registry
 
 // What a new filter is called by itself.
 struct NewMailFilterNames {
@@ -28,3 +32,10 @@ using NameStandsBefore = bool (*)(std::wstring_view left, std::wstring_view righ
 std::vector<std::wstring> SuggestedFilterNames(const MailFolderNames& names,
                                                const std::vector<std::wstring>& containing,
                                                NameStandsBefore before);
+
+// The first name for a new filter that is not taken: the automatic one; for `one` folder, which is
+// null while there are several, "account - folder" and the further suggestions; and the base name
+// with a number.
+std::wstring FreeFilterName(const std::wstring& automatic, const MailFolderNames* one,
+                            const std::wstring& base, NameStandsBefore before,
+                            const std::function<bool(const std::wstring&)>& isTaken);

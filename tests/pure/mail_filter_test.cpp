@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "pages/stores/mail_filter_names.h"
 
 namespace {
@@ -66,6 +68,8 @@ TEST(MailFilter, NamesNewOnes) {
              Case{{L"Set 3", L"Set 1"}, L"Set 4"},
              Case{{L"Sets", L"A Set 9", L"set 8", L"Set x", L"Set -3"}, L"Set 1"},
              Case{{L"Set7", L"Set 99999999999"}, L"Set 8"},
+             Case{{L"Set 10", L"Set 9"}, L"Set 11"},
+             Case{{L"Set 129"}, L"Set 130"},
          }) {
         EXPECT_EQ(AutomaticFilterName(texts, 2, {}, c.filters), c.name);
     }
@@ -73,13 +77,55 @@ TEST(MailFilter, NamesNewOnes) {
     EXPECT_EQ(AutomaticFilterName(texts, 1, L"Inbox", {L"Set"}), L"Inbox");
 }
 
+bool Before(std::wstring_view left, std::wstring_view right) {
+    return towlower(left.front()) < towlower(right.front());
+}
+
 TEST(MailFilter, SuggestsNames) {
-    const auto before = [](std::wstring_view left, std::wstring_view right) {
-        return towlower(left.front()) < towlower(right.front());
-    };
     EXPECT_EQ(
-        SuggestedFilterNames({L"home", L"Inbox"}, {L"Inbox", L"All"}, before),
+        SuggestedFilterNames({L"home", L"Inbox"}, {L"Inbox", L"All"}, Before),
         (std::vector<std::wstring>{L"All", L"home", L"home - Inbox", L"Inbox", L"Inbox - home"}));
+}
+
+TEST(MailFilter, TakesTheFirstFreeName) {
+    const MailFolderNames inbox = {L"home", L"Inbox"};
+    const MailFolderNames longOne = {std::wstring(250, L'a'), L"Inbox"};
+    struct Case {
+        std::set<std::wstring> taken;
+        const MailFolderNames* one;
+        const wchar_t* name;
+    };
+    for (const Case& c : {
+             Case{{}, &inbox, L"Inbox"},
+             Case{{L"Inbox"}, &inbox, L"home - Inbox"},
+             Case{{L"Inbox", L"home - Inbox"}, &inbox, L"home"},
+             Case{{L"Inbox", L"home - Inbox", L"home"}, &inbox, L"Inbox - home"},
+             Case{
+                 {L"Inbox", L"home - Inbox", L"home", L"Inbox - home", L"Set 1"}, &inbox, L"Set 2"},
+             Case{{L"Inbox", longOne.account}, &longOne, L"Set 1"},
+             Case{{L"Inbox", L"Set 1", L"Set 2"}, nullptr, L"Set 3"},
+         }) {
+        EXPECT_EQ(FreeFilterName(L"Inbox", c.one, L"Set", Before,
+                                 [&](const std::wstring& name) { return c.taken.contains(name); }),
+                  c.name);
+    }
+}
+
+TEST(MailFilter, AddsAndRemovesFolders) {
+    MailFilter filter = {L"", kEntries}, other;
+    filter.Remove({{0xAB, 0xCD}, false});  // in the other store
+    EXPECT_EQ(filter.entries, kEntries);
+    for (const auto& [folder, name] : kEntries) {
+        EXPECT_FALSE(filter.HasSameFolders(other) || other.HasSameFolders(filter));
+        filter.Remove(folder);
+        EXPECT_FALSE(filter.Contains(folder));
+        filter.Add(folder, L"behind");
+        other.Add(folder, name);
+    }
+    EXPECT_TRUE(filter.HasSameFolders(other) && other.HasSameFolders(filter));
+    other.Add({{8}, false}, L"one more");
+    filter.Add({{8}, true}, L"and another");
+    EXPECT_FALSE(filter.HasSameFolders(other));
 }
 
 }  // namespace

@@ -45,6 +45,17 @@ class MessagesPages : public DeviceTest {
                static_cast<int>(SendDlgItemMessageW(page_, IDC_MAIL_FILTER, CB_FINDSTRINGEXACT, -1,
                                                     reinterpret_cast<LPARAM>(name))));
     }
+    void TypeName(const wchar_t* name) const {
+        const HWND list = GetDlgItem(page_, IDC_MAIL_FILTER_NAME);
+        SetWindowTextW(list, name);
+        SendMessageW(page_, WM_COMMAND, MAKEWPARAM(IDC_MAIL_FILTER_NAME, CBN_EDITCHANGE),
+                     reinterpret_cast<LPARAM>(list));
+    }
+    // Says ok and confirms the message that keeps the sheet open.
+    bool IsRefused(const Program& program) const {
+        PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
+        return program.Dismiss() && IsWindow(sheet_);
+    }
     // The kinds of a filter's records: "MMF"; "-" when there is no such filter.
     static std::string Kinds(const wchar_t* filter) {
         CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\MailFilters").c_str(),
@@ -83,7 +94,8 @@ TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
     EXPECT_EQ(name(), L"Mail filter 1");
     Press(kOutlook, kArchive);
     EXPECT_EQ(name(), L"Inbox");
-    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"");
+    TypeName(L"Mine");
+    TypeName(L"");
     Press(kHomeMail, 0);
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(StoredText(L"EmailFilter"), L"Mail filter 1");
@@ -127,17 +139,40 @@ TEST_F(MessagesPages, WhatCannotBeStoredKeepsTheSheetOpen) {
     }
     Program program;
     Open(program);
+    ChooseFilter(L"Large");
     Press(kOutlook, kArchive);
-    SetWindowTextW(GetDlgItem(page_, IDC_MAIL_FILTER_NAME), L"lARGE");
-    PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
-    ASSERT_TRUE(program.Dismiss());
-    EXPECT_TRUE(IsWindow(sheet_));
+    ChooseFilter(L"Inbox");
+    ASSERT_TRUE(IsRefused(program));
     EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"Large");
     EXPECT_EQ(Kinds(L"Inbox"), "-");
     Press(kOutlook, kArchive);
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(Kinds(L"Large"), std::string(17, 'M'));
     EXPECT_EQ(StoredText(L"EmailFilter"), L"Large");
+}
+
+TEST_F(MessagesPages, ANewFilterChangesNoOther) {
+    Program program;
+    Open(program);
+    Press(kOutlook, kInbox);
+    EXPECT_EQ(Text(page_, IDC_MAIL_FILTER_NAME), L"Inbox");
+    Click(page_, IDC_MAIL_FILTER_ADD);
+    EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"Outlook E-mail - Inbox");
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Outlook E-mail - Inbox");
+    EXPECT_EQ(Kinds(L"Outlook E-mail - Inbox") + Kinds(L"Inbox"), "MMMFF");
+
+    Open(program);
+    ChooseFilter(L"(new filter)");
+    Press(kOutlook, kInbox);
+    TypeName(L"iNBOX");
+    ASSERT_TRUE(IsRefused(program));
+    EXPECT_EQ(Kinds(L"Inbox"), "MMFF");
+    TypeName(L"");
+    ASSERT_TRUE(Ok(sheet_)) << "the same folders are the same filter";
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"Outlook E-mail - Inbox");
+    EXPECT_EQ(Kinds(L"Inbox"), "MMFF");
+    EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
 }  // namespace
