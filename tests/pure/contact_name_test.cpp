@@ -43,7 +43,10 @@ TEST(ContactName, NamesAreMadeOnce) {
     EXPECT_EQ(contact.Name(2, true), L"Filed");
     EXPECT_EQ(contact.AlternativeName(2), L"Cole, Ann");
     EXPECT_EQ(contact.AlternativeName(0, true), L"Filed");
-    EXPECT_EQ(contact.AlternativeName(3, true), L"Ann \"Annie\" Cole");
+    for (const int unknown : {-1, 4}) {
+        EXPECT_EQ(contact.AlternativeName(3, true), L"Ann \"Annie\" Cole");
+        EXPECT_EQ(contact.AlternativeName(unknown, true), L"Filed");
+    }
 }
 
 }  // namespace

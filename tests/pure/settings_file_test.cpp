@@ -15,7 +15,14 @@ struct Notes : SettingsSink {
         text += line + ";";
         return text.size() < refuseAfter;
     }
-    static std::string Narrow(const std::wstring& wide) { return {wide.begin(), wide.end()}; }
+    // Other than ASCII by its number.
+    static std::string Narrow(const std::wstring& wide) {
+        std::string text;
+        for (const wchar_t c : wide) {
+            text += c < 0x80 ? std::string(1, static_cast<char>(c)) : "\\" + std::to_string(c);
+        }
+        return text;
+    }
 
     bool OpenRoot(std::uint32_t root, const std::wstring& path) override {
         return Note("root " + std::to_string(root) + " " + Narrow(path));
@@ -46,8 +53,8 @@ Bytes File(std::initializer_list<std::uint32_t> numbers) {
     return bytes;
 }
 // Two UTF-16 units in a number.
-constexpr std::uint32_t Two(char first, char second) {
-    return static_cast<std::uint32_t>(first) | static_cast<std::uint32_t>(second) << 16;
+constexpr std::uint32_t Two(char16_t first, char16_t second) {
+    return first | std::uint32_t{second} << 16;
 }
 constexpr std::uint32_t kLocalMachine = 0x80000002;
 
@@ -66,7 +73,7 @@ const Bytes kGolden = File({0,
                             0,
                             1,
                             4,
-                            Two('h', 'i'),  // a text
+                            Two('h', 0x2026),  // a text
                             2,
                             4,
                             Two('S', 'b'),
@@ -85,7 +92,7 @@ TEST(SettingsFile, WritesAndReadsTheSameBytes) {
     writer.Begin(kLocalMachine, L"\\S");
     writer.BeginKey(L"");
     writer.Number(L"On", 258);
-    writer.Text(L"", L"hi");
+    writer.Text(L"", L"h\x2026");
     writer.BeginKey(L"Sb");
     writer.Binary(L"Bn", Bytes(4, 0xFF));
     writer.EndKey();
@@ -95,7 +102,7 @@ TEST(SettingsFile, WritesAndReadsTheSameBytes) {
 
     Notes notes;
     EXPECT_TRUE(ReadSettingsFile(kGolden, notes));
-    EXPECT_EQ(notes.text, "root 2147483650 \\S;{;On=#258;=hi;{Sb;Bn=4 bytes;};};");
+    EXPECT_EQ(notes.text, "root 2147483650 \\S;{;On=#258;=h\\8230;{Sb;Bn=4 bytes;};};");
 }
 
 TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
@@ -136,7 +143,7 @@ TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
     Notes full;
     full.refuseAfter = 30;
     EXPECT_FALSE(ReadSettingsFile(kGolden, full));
-    EXPECT_EQ(full.text, "root 2147483650 \\S;{;On=#258;=hi;");
+    EXPECT_EQ(full.text, "root 2147483650 \\S;{;On=#258;=h\\8230;");
 }
 
 TEST(SettingsFile, DeepNestingTakesNoStack) {
