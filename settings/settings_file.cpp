@@ -1,36 +1,38 @@
 #include "settings/settings_file.h"
 
-#include "base/byte_reader.h"
+#include "settings/settings_file_search.h"
+#include "settings/settings_records.h"
 
 namespace {
 
 class Reader {
   public:
-    Reader(std::span<const std::uint8_t> bytes, SettingsSink& sink) : reader_(bytes), sink_(sink) {}
+    Reader(std::span<const std::uint8_t> bytes, std::span<const std::size_t> empty,
+           SettingsSink& sink)
+        : records_(bytes), empty_(empty), sink_(sink) {}
 
     bool Read() {
         std::uint32_t root = 0;
         std::wstring path;
-        return Expect(SettingsTag::kStart) && Number(root) && Text(path) &&
-               sink_.OpenRoot(root, path) && Expect(SettingsTag::kKey) && Keys() &&
-               Expect(SettingsTag::kEnd);
+        SettingsRecord key;
+        return records_.TakeStart(root, path) && sink_.OpenRoot(root, path) &&
+               records_.TakeHead(key) && key.tag == SettingsTag::kKey &&
+               sink_.EnterKey(TextOf(key.name)) && Records() && records_.TakeEnd();
     }
 
   private:
-    // Up to the end of the outermost key, whose tag has been read.
-    bool Keys() {
-        if (!EnterKey()) return false;
-        std::size_t depth = 1;
-        while (depth > 0) {
-            std::uint32_t tag = 0;
-            if (!Number(tag)) return false;
-            switch (static_cast<SettingsTag>(tag)) {
+    // Up to the end of the outermost key.
+    bool Records() {
+        SettingsRecord record;
+        for (std::size_t depth = 1; depth > 0;) {
+            if (!records_.TakeHead(record)) return false;
+            switch (record.tag) {
                 case SettingsTag::kKey:
-                    if (!EnterKey()) return false;
+                    if (!sink_.EnterKey(TextOf(record.name))) return false;
                     ++depth;
                     break;
                 case SettingsTag::kValue:
-                    if (!Value()) return false;
+                    if (!Data(record) || !Put(record)) return false;
                     break;
                 case SettingsTag::kKeyEnd:
                 case SettingsTag::kEnd:
@@ -43,60 +45,36 @@ class Reader {
         return true;
     }
 
-    bool EnterKey() {
-        std::wstring name;
-        return Text(name) && sink_.EnterKey(name);
+    bool Data(SettingsRecord& record) {
+        if (empty_.empty() || empty_.front() != records_.position()) {
+            return records_.TakeData(record);
+        }
+        empty_ = empty_.subspan(1);
+        records_.TakeNoData(record);
+        return true;
     }
 
-    bool Value() {
-        std::wstring name;
-        std::uint32_t type = 0;
-        if (!Text(name) || !Number(type)) return false;
-        switch (static_cast<SettingsType>(type)) {
-            case SettingsType::kText: {
-                std::wstring text;
-                return Text(text) && sink_.PutText(name, text);
-            }
-            case SettingsType::kNumber: {
-                std::uint32_t number = 0;
-                return Number(number) && sink_.PutNumber(name, number);
-            }
-            case SettingsType::kBinary: {
-                std::span<const std::uint8_t> bytes;
-                return CountedBytes(bytes) && sink_.PutBinary(name, bytes);
-            }
+    bool Put(const SettingsRecord& record) {
+        const std::wstring name = TextOf(record.name);
+        switch (record.type) {
+            case SettingsType::kText: return sink_.PutText(name, TextOf(record.data));
+            case SettingsType::kNumber:
+                return sink_.PutNumber(name, ByteReader(record.data).TakeNumber());
+            case SettingsType::kBinary: return sink_.PutBinary(name, record.data);
         }
         return false;
     }
 
-    bool Expect(SettingsTag expected) {
-        std::uint32_t tag = 0;
-        return Number(tag) && tag == static_cast<std::uint32_t>(expected);
-    }
-
-    bool Number(std::uint32_t& number) {
-        number = reader_.TakeNumber();
-        return !reader_.failed();
-    }
-
-    bool CountedBytes(std::span<const std::uint8_t>& bytes) {
-        bytes = reader_.Take(reader_.TakeNumber());
-        return !reader_.failed();
-    }
-
-    bool Text(std::wstring& text) {
-        text = reader_.TakeText(reader_.TakeNumber());
-        return !reader_.failed();
-    }
-
-    ByteReader reader_;
+    SettingsRecords records_;
+    std::span<const std::size_t> empty_;  // those that are still to come
     SettingsSink& sink_;
 };
 
 }  // namespace
 
 bool ReadSettingsFile(std::span<const std::uint8_t> bytes, SettingsSink& sink) {
-    return Reader(bytes, sink).Read();
+    const SettingsFileReading reading = FindSettingsFileReading(bytes);
+    return Reader(bytes, reading.empty, sink).Read();
 }
 
 void SettingsFileWriter::Begin(std::uint32_t root, std::wstring_view path) {

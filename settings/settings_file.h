@@ -13,6 +13,8 @@
 //   file   = kStart, root key number, path of the key, key, kEnd
 //   key    = kKey, name (empty for the outermost), values, keys, kKeyEnd
 //   value  = kValue, name, type, text | number | byte count and bytes
+//
+// Of a binary value without bytes the count is missing, too.
 
 enum class SettingsTag : std::uint32_t { kStart = 0, kEnd = 1, kKey = 2, kKeyEnd = 3, kValue = 4 };
 
@@ -34,10 +36,10 @@ class SettingsSink {
     virtual bool PutBinary(const std::wstring& name, std::span<const std::uint8_t> bytes) = 0;
 };
 
-// Hands everything to the sink while it reads, so that what stands before a fault has been handed
-// over. False for a file that ends early, an unknown type, tags that are not where they must be, or
-// a sink that refuses. Takes memory for no more than the longest text, however long the file claims
-// a text to be, and no stack for nested keys.
+// Looks the file through for its binary values without bytes, and then hands everything to the sink
+// while it reads, so that what stands before a fault has been handed over. False for a file that
+// ends early, an unknown type, tags that are not where they must be, or a sink that refuses. Takes
+// no stack for nested keys, and memory in proportion to the file, whatever length a text claims.
 bool ReadSettingsFile(std::span<const std::uint8_t> bytes, SettingsSink& sink);
 
 // Writes the records into `bytes`, which its user may empty between two calls.
@@ -49,8 +51,7 @@ class SettingsFileWriter {
     void EndKey() { Put(SettingsTag::kKeyEnd); }
     void Text(std::wstring_view name, std::wstring_view text);
     void Number(std::wstring_view name, std::uint32_t number);
-    // Of no bytes not even their count is written; such a record cannot be read back, and the
-    // format has always been so.
+    // Of no bytes not even their count is written; the format has always been so.
     void Binary(std::wstring_view name, std::span<const std::uint8_t> value);
 
     std::vector<std::uint8_t> bytes;

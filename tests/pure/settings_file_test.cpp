@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "settings/settings_file_search.h"
+
 namespace {
 
 // Notes what it is given as text.
@@ -128,8 +130,8 @@ TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
              Case{"gigantic name", File({0, 1, 0, 2, 0x7FFFFFFF, 3, 1}), false, "root 1 ;"},
              Case{"gigantic bytes", File({0, 1, 0, 2, 0, 4, 0, 3, 0x80000000}), false,
                   "root 1 ;{;"},
-             // Of no bytes there is no count, so that what follows is taken for one.
-             Case{"bytes without a count", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 1}), false,
+             // Where a value of no bytes cannot be meant, what follows it is its count.
+             Case{"bytes without a count", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 7}), false,
                   "root 1 ;{;=3 bytes;"},
          }) {
         Notes notes;
@@ -144,6 +146,55 @@ TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
     full.refuseAfter = 30;
     EXPECT_FALSE(ReadSettingsFile(kGolden, full));
     EXPECT_EQ(full.text, "root 2147483650 \\S;{;On=#258;=h\\8230;");
+}
+
+TEST(SettingsFile, ValuesWithoutBytes) {
+    constexpr std::uint32_t kAb = Two('a', 'b'), kCd = Two('c', 'd');
+    struct Case {
+        const char* what;
+        Bytes file;
+        const char* seen;
+    };
+    for (const Case& c : {
+             Case{"before the key's end", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 1}),
+                  "root 1 ;{;=0 bytes;};"},
+             Case{"before a value", File({0, 1, 0, 2, 0, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 1}),
+                  "root 1 ;{;=0 bytes;ab=#7;};"},
+             Case{"before a key", File({0, 1, 0, 2, 0, 4, 0, 3, 2, 4, kAb, 3, 3, 1}),
+                  "root 1 ;{;=0 bytes;{ab;};};"},
+             Case{"several", File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 3, 1}),
+                  "root 1 ;{;ab=0 bytes;cd=0 bytes;};"},
+             Case{"before a value with bytes",
+                  File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 4, 7, 3, 1}),
+                  "root 1 ;{;ab=0 bytes;cd=4 bytes;};"},
+             Case{"in a key that seems to end earlier",
+                  File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 3, 1}),
+                  "root 1 ;{;{;=0 bytes;=0 bytes;ab=#7;};};"},
+             Case{"behind an unknown tag", File({0, 1, 0, 2, 0, 9, 4, 0, 3, 3, 1}),
+                  "root 1 ;{;=0 bytes;};"},
+             Case{"before what seems to be the file's end",
+                  File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 1, 0x377, 0x100, 0}),
+                  "root 1 ;{;ab=0 bytes;cd=1 bytes;};"},
+             Case{"none, as what no writer wrote reads well as it stands",
+                  File({0, 1, 0, 2, 0, 9, 4, 0, 3, 4, 0, 3, 1, 0x300, 0x100, 0}),
+                  "root 1 ;{;=4 bytes;};"},
+         }) {
+        Notes notes;
+        EXPECT_TRUE(ReadSettingsFile(c.file, notes)) << c.what;
+        EXPECT_EQ(notes.text, c.seen) << c.what;
+    }
+}
+
+// Each round is two values of which either may be empty, at any of the depths before it.
+TEST(SettingsFile, SearchHasAnEnd) {
+    Bytes file = File({0, 1, 0, 2, 0});
+    const Bytes round = File({4, 0, 3, 4, 0, 3, 2, 0, 2, 0});
+    for (int i = 0; i < 200; ++i) file.insert(file.end(), round.begin(), round.end());
+    const SettingsFileReading reading = FindSettingsFileReading(file);
+    EXPECT_FALSE(reading.whole);
+    EXPECT_TRUE(reading.empty.empty());
+    EXPECT_GE(reading.states, file.size()) << "no such file";
+    EXPECT_LE(reading.states, file.size() * kStatesPerByte);
 }
 
 TEST(SettingsFile, DeepNestingTakesNoStack) {
