@@ -9,6 +9,7 @@
 
 #include "app/language/language_table.h"
 #include "app/registry_exporter.h"
+#include "app/reload_after_import.h"
 #include "base/fill_in.h"
 #include "base/wait_cursor.h"
 #include "resources/ids.h"
@@ -66,6 +67,8 @@ bool ImportSettings(HWND owner) {
         FillIn(GetLanguageTable().LoadString(IDS_CONFIRM_IMPORT), {*path});
     if (Say(question.c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES) return false;
     const WaitCursor wait;
-    if (!RegistryExporter().Import(path->c_str())) SayThatItFailed(IDS_IMPORT_FAILED);
+    const bool done = RegistryExporter().Import(path->c_str());
+    ReloadAfterImport();  // Even of a file that failed, something was stored.
+    if (!done) SayThatItFailed(IDS_IMPORT_FAILED);
     return true;
 }

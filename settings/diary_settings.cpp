@@ -40,6 +40,8 @@ std::int32_t DefaultOf(const SharedNumber& number) {
     return number.defaultValue;
 }
 
+bool loaded = false;  // the process's one
+
 }  // namespace
 
 void CDiarySettings::Load() {
@@ -65,12 +67,16 @@ void CDiarySettings::Save() const {
 }
 
 CDiarySettings& GetDiarySettings() {
-    static CDiarySettings* const settings = [] {
-        static CDiarySettings instance;
-        instance.Load();
-        return &instance;
-    }();
-    return *settings;
+    static CDiarySettings settings;
+    if (!loaded) {
+        loaded = true;
+        settings.Load();
+    }
+    return settings;
+}
+
+void ReloadDiarySettings() {
+    if (loaded) GetDiarySettings().Load();
 }
 
 const wchar_t* NameOf(std::int32_t CDiarySettings::*member) {

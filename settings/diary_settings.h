@@ -22,6 +22,8 @@ class CDiarySettings {
 
 // The one object of the process, loaded by the first call.
 CDiarySettings& GetDiarySettings();
+// Loads it anew if it was loaded.
+void ReloadDiarySettings();
 
 // The value behind a member that rows name.
 const wchar_t* NameOf(std::int32_t CDiarySettings::*member);

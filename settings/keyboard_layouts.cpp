@@ -35,22 +35,34 @@ std::unique_ptr<KeyboardLayout> Read(CSettingsKey& key, const std::wstring& name
     return layout ? std::make_unique<KeyboardLayout>(std::move(*layout)) : nullptr;
 }
 
+bool built = false;  // the process's one
+
 }  // namespace
 
 KeyboardLayouts::KeyboardLayouts() {
+    AddStored();
     CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
-    std::wstring name;
-    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
-        if (std::unique_ptr<KeyboardLayout> layout = Read(key, name)) {
-            entries_.push_back({name, std::move(layout)});
-        }
-    }
     for (const BuiltInLayout& builtIn : kBuiltInLayouts) {
         if (PositionOf(builtIn.name) >= 0) continue;
         const std::wstring text = FromUtf8(builtIn.text);
         if (text.empty()) continue;
         key.WriteString(builtIn.name, text.c_str());
         entries_.push_back({builtIn.name, nullptr});
+    }
+}
+
+void KeyboardLayouts::AddStored() {
+    CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
+    std::wstring name;
+    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
+        std::unique_ptr<KeyboardLayout> layout = Read(key, name);
+        if (!layout) continue;
+        const int position = PositionOf(name);
+        if (position < 0) {
+            entries_.push_back({name, std::move(layout)});
+        } else if (Entry& known = entries_[static_cast<std::size_t>(position)]; known.layout) {
+            *known.layout = std::move(*layout);
+        }
     }
 }
 
@@ -127,5 +139,10 @@ bool KeyboardLayouts::SaveOffered(const std::wstring& tab, const OfferedLayouts&
 
 KeyboardLayouts& GetKeyboardLayouts() {
     static KeyboardLayouts layouts;
+    built = true;
     return layouts;
+}
+
+void AddStoredKeyboardLayouts() {
+    if (built) GetKeyboardLayouts().AddStored();
 }

@@ -14,6 +14,8 @@ class KeyboardLayouts {
     static bool IsBuiltIn(const std::wstring& name);
 
     KeyboardLayouts();
+    // Takes what the registry has got since: new layouts, and other texts of those that are here.
+    void AddStored();
     virtual ~KeyboardLayouts() = default;
     KeyboardLayouts(const KeyboardLayouts&) = delete;
     KeyboardLayouts& operator=(const KeyboardLayouts&) = delete;
@@ -48,3 +50,5 @@ class KeyboardLayouts {
 
 // The one collection of the process, built by the first call.
 KeyboardLayouts& GetKeyboardLayouts();
+// Adds to it what is stored now, if it was built.
+void AddStoredKeyboardLayouts();

@@ -49,7 +49,7 @@ bool CategoryDialog::OnInitDialog() {
 }
 
 bool CategoryDialog::OnInit() {
-    categories_.LoadIcons();  // Imported settings may have brought other colours.
+    categories_.LoadIcons();  // Other programs may have changed them meanwhile.
     color_.Create(hwnd(), IDC_CATEGORY_COLOR);
     const HWND slider = Item(IDC_CATEGORY_INTENSITY);
     SendMessageW(slider, TBM_SETRANGE, FALSE, MAKELPARAM(0, kLastStep));

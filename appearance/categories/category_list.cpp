@@ -59,11 +59,18 @@ Category FromRecord(CEOID oid, const DatabaseRecord& record) {
     return category;
 }
 
+bool loaded = false;  // the process's one
+
 }  // namespace
 
 CategoryList& CategoryList::Instance() {
     static CategoryList list;
+    loaded = true;
     return list;
+}
+
+void CategoryList::Reload() {
+    if (loaded) Instance().LoadIcons();
 }
 
 CategoryList::CategoryList() {

@@ -46,6 +46,8 @@ class CategoryList : public Window {
     // The process's one; opens the databases and loads everything on first use. When they cannot
     // be opened it is empty.
     static CategoryList& Instance();
+    // Loads icons and colours anew if it was loaded.
+    static void Reload();
     ~CategoryList() override;
 
     int Count() const { return static_cast<int>(categories_.size()); }

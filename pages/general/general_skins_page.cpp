@@ -40,7 +40,7 @@ class GeneralSkinsPage : public OptionsPage {
 };
 
 void GeneralSkinsPage::OnTranslated() {
-    GetSkinArt().Reset();  // Imported settings may name another skin.
+    GetSkinArt().Reset();  // Other programs may have chosen another skin.
     ListSkins();
 }
 

@@ -1,4 +1,4 @@
-// Settings files over the device's registry.
+// Settings files over the device's registry, and what is loaded of the settings.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -6,6 +6,13 @@
 #include <map>
 
 #include "app/registry_exporter.h"
+#include "app/reload_after_import.h"
+#include "appearance/categories/category_list.h"
+#include "appearance/drawing/fonts.h"
+#include "appearance/drawing/theme_colors.h"
+#include "appearance/skins/skin_art.h"
+#include "settings/diary_settings.h"
+#include "settings/keyboard_layouts.h"
 #include "settings/settings_key.h"
 
 namespace {
@@ -139,6 +146,52 @@ TEST_F(Exporter, ImportEndsWhereTheRegistryDoes) {
     EXPECT_FALSE(import(0x80000004, 1));
     EXPECT_FALSE(import(0x12345678, 1));
     EXPECT_TRUE(DeleteKeyTree(HKEY_LOCAL_MACHINE, L"kk"));
+}
+
+// What is loaded follows the registry; what is in use of it stays where it is.
+TEST(AfterImport, LoadedSettingsAreReadAnew) {
+    DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+    ReloadAfterImport();
+    EXPECT_EQ(GetDiarySettings().markConflicting, 1);
+    KeyboardLayouts& layouts = GetKeyboardLayouts();
+    const KeyboardLayout* const latin = layouts.Find(L"Latin");
+    ASSERT_TRUE(latin);
+    const auto face = [] {
+        LOGFONTW font = {};
+        GetObjectW(ListFont(FontStyle::kNormal), sizeof font, &font);
+        return std::wstring(font.lfFaceName);
+    };
+    EXPECT_EQ(face(), L"Tahoma");
+    EXPECT_EQ(GetThemeColors().GetColor(ThemeColor::kConflicting), 0x0000FFu);
+    ASSERT_EQ(GetSkinArt().LoadIcons(), SkinArt::kFromSkin);
+    CategoryList& categories = CategoryList::Instance();
+    ASSERT_GT(categories.Count(), 0);
+    EXPECT_EQ(categories.GetColor(0), kNoColor);
+    {
+        CSettingsKey key = OpenProductKey();
+        key.WriteDword(L"App_MarkConflicting", 0);
+        key.WriteDword(L"UseSystem", 0);
+        key.WriteString(L"FontName", L"Courier");
+        key.WriteDword(L"clrApptStatusConfliciting", 0x123456);
+        key.WriteString(L"SkinName", L"No such skin");
+        CSettingsKey texts = OpenProductKey(L"Layouts");
+        texts.WriteString(L"Mine", L"labc(abc)");
+        texts.WriteString(L"latin", L"rx(x)");
+        texts.WriteString(L"Greek", L"no layout");
+        OpenProductKey(L"Colors").WriteDword(categories.At(0).name.c_str(), 0x00654321);
+    }
+    ReloadAfterImport();
+    EXPECT_EQ(GetDiarySettings().markConflicting, 0);
+    EXPECT_EQ(layouts.Count(), 5);
+    EXPECT_TRUE(layouts.Find(L"Mine"));
+    EXPECT_EQ(layouts.Find(L"Latin"), latin);
+    EXPECT_TRUE(latin->rightToLeft);
+    EXPECT_EQ(face(), L"Courier");
+    EXPECT_EQ(GetThemeColors().GetColor(ThemeColor::kConflicting), 0x123456u);
+    EXPECT_NE(GetSkinArt().LoadIcons(), SkinArt::kFromSkin);
+    EXPECT_EQ(categories.GetColor(0), 0x654321u);
+    DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+    ReloadAfterImport();
 }
 
 }  // namespace

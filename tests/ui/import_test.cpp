@@ -1,0 +1,93 @@
+// Settings that come from a file while the program runs.
+#include <set>
+
+#include "app/registry_exporter.h"
+#include "resources/ids.h"
+#include "tests/ui/device.h"
+
+namespace {
+
+using namespace ui;
+
+constexpr wchar_t kFile[] = L"\\My Documents\\Lum Diary.dias";
+
+class Import : public DeviceTest {
+  protected:
+    void SetUp() override {
+        DeviceTest::SetUp();
+        DeleteFileW(kFile);
+    }
+    void TearDown() override { DeleteFileW(kFile); }
+
+    // Leaves the settings there are now in the file alone.
+    static bool MoveToFile() {
+        return RegistryExporter().Export(kFile, HKEY_LOCAL_MACHINE, kProductKey) &&
+               DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
+    }
+    static HWND Choose(const Program& program, int command, const wchar_t* title) {
+        PostMessageW(program.Main(), WM_COMMAND, command, 0);
+        return program.Sheet(title);
+    }
+    static HWND Ask(const Program& program) {
+        return Ok(Choose(program, IDM_IMPORT, L"Open")) ? program.Sheet(L"Lum Diary Options")
+                                                        : nullptr;
+    }
+    static bool RunImport(const Program& program) {
+        const HWND question = Ask(program);
+        PostMessageW(question, WM_COMMAND, IDYES, 0);
+        if (!question || !Until([&] { return !IsWindow(question); })) return false;
+        SendMessageW(program.Main(), WM_NULL, 0, 0);  // Is served when all is done.
+        return program.OpenSheets().empty();
+    }
+    // The names of the product key's values and keys.
+    static std::set<std::wstring> Names() {
+        std::set<std::wstring> names;
+        std::wstring value;
+        CSettingsKey key = OpenProductKey();
+        for (bool more = key.FirstValueName(value); more; more = key.NextValueName(value)) {
+            names.insert(value);
+        }
+        HKEY opened = nullptr;
+        RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &opened);
+        wchar_t name[256];
+        for (DWORD i = 0, length = 256;
+             !RegEnumKeyExW(opened, i, name, &length, nullptr, nullptr, nullptr, nullptr);
+             ++i, length = 256) {
+            names.insert(std::wstring(L"\\") + name);
+        }
+        RegCloseKey(opened);
+        return names;
+    }
+};
+
+TEST_F(Import, ReachesTheLayoutsThatAreLoaded) {
+    OpenProductKey().WriteString(L"Contacts_layouts", L"Mine,Greek");
+    OpenProductKey(L"Layouts").WriteString(L"Mine", L"labc(abc)");
+    ASSERT_TRUE(MoveToFile());
+    Program program(L"-P3:0");
+    HWND sheet = program.Sheet(L"Contact options");
+    ASSERT_EQ(Selected(Page(sheet, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Latin");
+    ASSERT_TRUE(Cancel(sheet));
+    ASSERT_TRUE(RunImport(program));
+    program.Open(3, 0);
+    sheet = program.Sheet(L"Contact options");
+    EXPECT_EQ(Selected(Page(sheet, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Mine");
+    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Mine,Greek");
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(Import, StoresWhatTheFileHasAndNothingElse) {
+    Put(L"CalendarPeriod", 30);
+    ASSERT_TRUE(MoveToFile());
+    Program program;
+    ASSERT_TRUE(program.Main());
+    std::set<std::wstring> expected = Names();
+    EXPECT_TRUE(expected.insert(L"CalendarPeriod").second);
+    ASSERT_TRUE(RunImport(program));
+    EXPECT_EQ(Stored(L"CalendarPeriod"), 30u);
+    EXPECT_EQ(Names(), expected);
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+}  // namespace
