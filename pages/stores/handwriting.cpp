@@ -18,13 +18,18 @@ constexpr PhatNotesKey kPhatNotes[] = {
     {0x405, L"Software\\PhatWare\\PhatNotes\\4.0\\Settings"},
     {0x407, L"Software\\PhatWare\\PhatNotes\\Settings"},
 };
+constexpr wchar_t kFolderValue[] = L"InstPath";
+constexpr wchar_t kUsualFolder[] = L"\\Program Files\\PhatPad\\";
 constexpr wchar_t kViewLibrary[] = L"PhatPadViewCtl.dll";
 
-// The folder a program was installed in, with a backslash at its end; empty without its key.
+// The folder a program was installed in, with a backslash at its end; empty without its key. The
+// key is another program's, so that the usual folder is not written there.
 std::wstring InstallFolder(const wchar_t* path) {
     CSettingsKey key(HKEY_CURRENT_USER, path, false, false);
     if (!key.IsOpen()) return {};
-    std::wstring folder = key.ReadString(L"InstPath", L"\\Program Files\\PhatPad\\");
+    DWORD size = 0;
+    const bool isNoted = key.ReadBinary(kFolderValue, nullptr, &size);
+    std::wstring folder = isNoted ? key.ReadString(kFolderValue) : kUsualFolder;
     if (folder.empty() || folder.back() != L'\\') folder += L'\\';
     return folder;
 }

@@ -50,6 +50,17 @@ TEST(Notes, HandwritingPrograms) {
     DeleteFileW(L"\\Viewer\\PhatPadViewer.exe");
     EXPECT_FALSE(IsPhatPadPresent());
     DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\PhatWare");
+
+    // A key that does not note the folder means the usual one, and is another program's.
+    constexpr wchar_t kPad[] = L"Software\\PhatWare\\PhatPad";
+    make(kPad);
+    ASSERT_TRUE(MoveFileW(L"\\Viewer", L"\\Program Files\\PhatPad"));
+    CloseHandle(CreateFileW(L"\\Program Files\\PhatPad\\PhatPad.exe", GENERIC_WRITE, 0, nullptr,
+                            CREATE_ALWAYS, 0, nullptr));
+    EXPECT_TRUE(IsPhatPadPresent());
+    std::wstring value;
+    EXPECT_FALSE(make(kPad).FirstValueName(value)) << "written to";
+    DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\PhatWare");
 }
 
 }  // namespace
