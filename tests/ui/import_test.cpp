@@ -90,4 +90,24 @@ TEST_F(Import, StoresWhatTheFileHasAndNothingElse) {
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
+TEST_F(Import, ClosingEndsWhatAsks) {
+    Put(L"CalendarPeriod", 30);
+    ASSERT_TRUE(MoveToFile());
+    struct Case {
+        const char* what;
+        std::function<HWND(const Program&)> open;
+    };
+    const Case cases[] = {
+        {"export", [](const Program& program) { return Choose(program, IDM_EXPORT, L"Save As"); }},
+        {"import", [](const Program& program) { return Choose(program, IDM_IMPORT, L"Open"); }},
+        {"question", Ask},
+    };
+    for (const Case& c : cases) {
+        Program program;
+        EXPECT_TRUE(c.open(program)) << c.what;
+        EXPECT_EQ(program.CloseAndWait(), 0u) << c.what;
+    }
+    EXPECT_EQ(Stored(L"CalendarPeriod"), std::nullopt) << "imported unasked";
+}
+
 }  // namespace
