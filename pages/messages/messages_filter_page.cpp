@@ -125,6 +125,9 @@ void MessagesFilterPage::LoadFilters() {
         ReadMailFolderTree(session, mail2, GetLanguageTable().LoadString(IDS_MESSAGES)),
         [this](const MailFolderNode& folder) { OnToggled(folder); });
     filters.Load(true);
+    // What has no folders is in no list and could not be reached.
+    std::erase_if(filters.filters(),
+                  [](const MailFilter& filter) { return filter.entries.empty(); });
     CMailFoldersFilters::BuiltInNames names;
     for (std::size_t i = 0; i < names.size(); ++i) {
         names[i] = GetLanguageTable().LoadString(kBuiltInNames[i]);
@@ -140,7 +143,17 @@ void MessagesFilterPage::ListFilters() {
     SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER, CB_RESETCONTENT, 0, 0);
     AddItem(IDC_MAIL_FILTER, IDS_MAIL_FILTER_NEW, kNewFilter);
     SetSelection(IDC_MAIL_FILTER, 0);
-    for (const int filter : filters.SortedIndices()) {
+    std::vector<int> shown = filters.SortedIndices();
+    // The chosen one also while no folder is ticked.
+    if (chosen_ >= 0 && std::ranges::find(shown, chosen_) == shown.end()) {
+        shown.insert(std::ranges::find_if(shown,
+                                          [&](int filter) {
+                                              return StandsBefore(Edited().name,
+                                                                  filters.filters()[filter].name);
+                                          }),
+                     chosen_);
+    }
+    for (const int filter : shown) {
         AddItem(IDC_MAIL_FILTER, filters.filters()[filter].name, filter);
         if (filter == chosen_) SetSelection(IDC_MAIL_FILTER, ItemCount(IDC_MAIL_FILTER) - 1);
     }
@@ -314,6 +327,9 @@ bool MessagesFilterPage::OnApply() {
     if (chosen_ < 0 && !AddNewFilter()) return false;
     const std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
     for (int i = 0; i < static_cast<int>(filters.size()); ++i) {
+        if (filters[i].entries.empty() && !IsBuiltIn(i)) {
+            return RefuseFilter(i, IDS_MAIL_FILTER_EMPTY);
+        }
         const auto bytes = MailFilterBytes(filters[i].entries);
         if (bytes && bytes->size() > kLargestValue) {
             return RefuseFilter(i, IDS_MAIL_FILTER_TOO_LARGE);

@@ -175,4 +175,26 @@ TEST_F(MessagesPages, ANewFilterChangesNoOther) {
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
+TEST_F(MessagesPages, NoFilterOfTheUsersIsLeftWithoutFolders) {
+    const std::wstring filters = std::wstring(kProductKey) + L"\\MailFilters";
+    CSettingsKey(HKEY_LOCAL_MACHINE, filters.c_str(), true, true).WriteBinary(L"Archive", "", 0);
+    Program program;
+    Open(program);
+    Press(kOutlook, kArchive);
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Kinds(L"Archive"), "M") << "what had no folders is in nobody's way";
+
+    Open(program);
+    Press(kOutlook, kArchive);
+    ChooseFilter(L"Inbox");
+    ASSERT_TRUE(IsRefused(program));
+    EXPECT_EQ(Selected(page_, IDC_MAIL_FILTER), L"Archive");
+    EXPECT_EQ(Kinds(L"Archive"), "M");
+    Click(page_, IDC_MAIL_FILTER_DELETE);
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Kinds(L"Archive"), "-");
+    EXPECT_EQ(StoredText(L"EmailFilter"), L"");
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
 }  // namespace
