@@ -4,6 +4,7 @@
 
 #include "resources/ids.h"
 #include "tests/ui/device.h"
+#include "tests/ui/page_table.h"
 
 namespace {
 
@@ -59,176 +60,35 @@ TEST_F(Pages, CancelChangesNoStoredValue) {
     EXPECT_TRUE(plugin.Updates().empty());
 }
 
-// Every page and control: what changes it, the value behind it, that value's default and what the
-// change stores, all written out by hand.
-constexpr int kClick = -1;
-constexpr int kReturnPage = 7;
-struct Row {
-    int control;
-    int select;  // an index, or kClick
-    const wchar_t* name;
-    DWORD defaultValue;
-    DWORD stored;  // after the change
-};
-struct Tab {
-    int entry, page;
-    const wchar_t* sheet;
-    std::vector<Row> rows;
-};
-const std::vector<Tab> kTabs = {
-    {0,
-     0,
-     L"General options",
-     {{IDC_HEADER_STATE, 1, L"HeaderMinimized", 0, 1},
-      {IDC_ALLOW_MINIMIZATION, kClick, L"AllowMinimization", 1, 0},
-      {IDC_AUTO_SIZE, kClick, L"AutoSizeAdjust", 1, 0}}},
-    {0, 1, L"General options", {{IDC_SHORT_NOT_YEAR, kClick, L"ShortDate_NotYear", 1, 0}}},
-    {0,
-     2,
-     L"General options",
-     {{IDC_LONG_REGIONAL, kClick, L"LongDate_Regional", 1, 0},
-      {IDC_LONG_NOT_YEAR, kClick, L"LongDate_NotYear", 1, 0},
-      {IDC_LONG_SHORT_MONTH, kClick, L"LongDate_ShortMonth", 1, 0},
-      {IDC_LONG_SHORT_DAY, kClick, L"LongDate_ShortDay", 1, 0}}},
-    {0,
-     4,
-     L"General options",
-     {{IDC_STRIPE_STYLE, 0, L"FoldingStripeStyle", 2, 0},
-      {IDC_STRIPE_COUNTER, kClick, L"FoldingStripeDrawCounter", 1, 0},
-      {IDC_STRIPE_COLLAPSE_ICON, kClick, L"FoldingStripeShowCollapseIcon", 1, 0},
-      {IDC_STRIPE_HIDE_EMPTY, kClick, L"FoldingStripeDontShowNull", 1, 0},
-      {IDC_ONE_CLICK, 2, L"OneClick", 0, 2},
-      {IDC_DOUBLE_CLICK, 3, L"DoubleClick", 2, 3},
-      {IDC_DOUBLE_TAP_SCROLL, kClick, L"EnableDoubleTapOnScrollButton", 0, 1}}},
-    {0,
-     kReturnPage,
-     L"General options",
-     {{IDC_TIMEOUT_TIME, 2, L"TimeoutTime", 900, 14400},
-      {IDC_TIMEOUT_VIEW, 5, L"TimeoutView", 1, 6},
-      {IDC_KEYBOARD_SUPPORT, 1, L"AdvancedKeyboardSupport", 0, 1},
-      {IDC_PHONE_BACKSPACE, kClick, L"PhoneKeyb_DisableBackspace", 0, 1}}},
-    {1,
-     0,
-     L"Calendar options",
-     {{IDC_CALENDAR_PERIOD, 0, L"CalendarPeriod", 7, 1},
-      {IDC_FIRST_YEAR_WEEK, 2, L"Calendar_FirstYearWeek", 0, 2},
-      {IDC_GROUP_OFFSET, 0, L"AppGroup_Offset", 1, 0},
-      {IDC_GROUP_SPAN, 2, L"AppGroup_Span", 1, 3},
-      {IDC_COLLAPSE_BUT_TODAY, kClick, L"App_CollapseButToday", 1, 0},
-      {IDC_MARK_CONFLICTING, kClick, L"App_MarkConflicting", 1, 0},
-      {IDC_GROUP_TODAY, kClick, L"AppGroup_Today", 1, 0},
-      {IDC_GROUP_WEATHER, kClick, L"AppGroup_Weather", 1, 0}}},
-    {1,
-     1,
-     L"Calendar options",
-     {{IDC_SHOW_PAST, kClick, L"CalendarShowPastAppts", 1, 0},
-      {IDC_SHOW_EMPTY_DAYS, kClick, L"CalendarShowEmptyDays", 0, 1},
-      {IDC_SHOW_FREE, kClick, L"CalendarShowFreeAppts", 1, 0},
-      {IDC_SHOW_TODAY_ALWAYS, kClick, L"CalendarShowTodayAlways", 1, 0},
-      {IDC_SHOW_BIRTHDAYS, kClick, L"CalendarShowBirthdays", 1, 0},
-      {IDC_SHOW_EMAILS, kClick, L"CalendarShowEmails", 1, 0}}},
-    {1,
-     2,
-     L"Calendar options",
-     {{IDC_SHOW_UNDATED_TASKS, kClick, L"CalendarShowUndatedTasks", 0, 1},
-      {IDC_SHOW_OVERDUE_TASKS, kClick, L"CalendarShowOverdueTasks", 1, 0},
-      {IDC_SHOW_COMPLETED_TASKS, kClick, L"CalendarShowCompletedTasks", 0, 1},
-      {IDC_TASK_PLACEMENT, 1, L"App_TaskShowMultiday", 3, 1}}},
-    {1,
-     3,
-     L"Calendar options",
-     {{IDC_APP_SUBJECT_STYLE, 1, L"App_SubjectStyle", 3, 1},
-      {IDC_APP_LOCATION, kClick, L"App_Location", 1, 0},
-      {IDC_APP_START_ONLY, kClick, L"App_StartOnly", 0, 1},
-      {IDC_APP_STATUS_BAR, kClick, L"App_StatusBar", 1, 0},
-      {IDC_APP_INDENT, kClick, L"App_MakeDateIndent", 1, 0},
-      {IDC_TIME_SPAN_NEW_STYLE, kClick, L"TimeSpanNewStyle", 0, 1}}},
-    {2,
-     1,
-     L"Task options",
-     {{IDC_TASK_CHECKBOX, kClick, L"Task_ShowCheckbox", 1, 0},
-      {IDC_TASK_INDENT, kClick, L"Task_MakeDateIndent", 1, 0}}},
-    {2,
-     0,
-     L"Task options",
-     {{IDC_TASK_COMPLETION_MESSAGE, kClick, L"Task_DisplayComplMsg", 1, 0},
-      {IDC_TASKS_ALL_CATEGORIES, kClick, L"ShowTasksInAllCategories", 0, 1},
-      {IDC_TASKS_COMPLETED, kClick, L"TasksShowCompletedTasks", 0, 1},
-      {IDC_TASKS_ACTIVE, kClick, L"TasksShowActiveTasks", 0, 1}}},
-    {4,
-     0,
-     L"Note options",
-     {{IDC_NOTES_GROUP_BY, 2, L"NotesGroupBy", 559, 551},
-      {IDC_NOTES_SORT, 0, L"NoteSortOrder", 1, 0},
-      {IDC_NOTES_ONE_TAP, 3, L"NotesOneTap", 2, 3},
-      {IDC_NOTES_SIZE, kClick, L"NoteDrawSize", 0, 1},
-      {IDC_NOTES_TIME, kClick, L"NoteDrawTime", 1, 0},
-      {IDC_NOTES_INDENT, kClick, L"NoteMakeIndent", 1, 0},
-      {IDC_NOTES_TYPE_FIRST, kClick, L"NotesType0Enabled", 1, 0},
-      {IDC_NOTES_TYPE_FIRST + 5, kClick, L"NotesType5Enabled", 1, 0},
-      {IDC_NOTES_LAYOUT, 1, L"Notes_layout_active", 0, 0xFFFFFFFF}}},
-    {3,
-     0,
-     L"Contact options",
-     {{IDC_CONTACT_GROUPS, 1, L"ContactsGroupBy", 551, 558},
-      {IDC_CONTACT_PHOTOS, kClick, L"ContactsShowPhotoContacts", 0, 1},
-      {IDC_CONTACT_PHOTO_TEXT, kClick, L"ContactShowTextForPhotos", 0, 1},
-      {IDC_CONTACT_ONE_TAP, 0, L"ContactsOneTap", 3, 0},
-      {IDC_CONTACTS_ALL_CATEGORIES, kClick, L"ShowContactsInAllCategories", 0, 1},
-      {IDC_CONTACT_LAYOUT, 1, L"Contacts_layout_active", 0, 0xFFFFFFFF}}},
-    {3,
-     1,
-     L"Contact options",
-     {{IDC_CONTACT_DISPLAY, 3, L"ContDisplay", 1, 3},
-      {IDC_CONTACT_INDENT, kClick, L"ContLeftIdent", 1, 0},
-      {IDC_CONTACT_SEARCH_COMPANY, kClick, L"ContSearchCompany", 0, 1},
-      {IDC_CONTACT_COMPANY_NO_CASE, kClick, L"ContactGroupCompanyNoCase", 1, 0},
-      {IDC_CONTACT_ADDRESS, 2, L"ContPreview_ShowAddressMode", 0, 2}}},
-    {5,
-     0,
-     L"Message options",
-     {{IDC_MESSAGES_SORTING, 1, L"EmailSorting", 0, 1},
-      {IDC_MESSAGES_ONE_TAP, 0, L"EmailsOneTap", 2, 0},
-      {IDC_MESSAGES_COUNTER, 2, L"EmailCounterStyle", 0, 2},
-      {IDC_MESSAGES_CONFIRM_DELETION, kClick, L"EmailConfirmDeletion", 1, 0},
-      {IDC_MESSAGES_READ_ON_PREVIEW, kClick, L"Messages_SetAsReadedPreview", 1, 0},
-      {IDC_MESSAGES_ONLY_UNREAD, kClick, L"EmailsOnlyUnreaded", 0, 1},
-      {IDC_MESSAGES_IN_CALENDAR, kClick, L"Calendar_ShowEmails", 1, 0},
-      {IDC_MESSAGES_EMPTY_ACCOUNTS, kClick, L"EmailShowEmptyAccounts", 0, 1},
-      {IDC_MESSAGES_SIZE, kClick, L"EmailShowSize", 0, 1}}},
-    {6,
-     0,
-     L"Special event options",
-     {{IDC_SPECIAL_PERIOD, 6, L"SpecialPeriod", 0, 6},
-      {IDC_SPECIAL_BIRTHDAYS, kClick, L"SpecialShowBirthdays", 1, 0}}},
-};
+HWND OpenTable(const Program& program, std::span<const PageRow> rows) {
+    program.Open(rows.front().entry, rows.front().page);
+    const HWND sheet = program.Sheet(kSheetTitles[rows.front().entry]);
+    TurnTo(sheet, rows.front().page);  // Not every sheet opens at any page.
+    return sheet;
+}
 
 // Every control is changed from its default, with the keys alone.
 TEST_F(Pages, EveryControlIsStored) {
     ASSERT_TRUE(FurnishWith(L"weather"));
     OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
     Program program;
-    for (const Tab& tab : kTabs) {
-        program.Open(tab.entry, tab.page);
-        const HWND sheet = program.Sheet(tab.sheet);
-        TurnTo(sheet, tab.page);  // Not every sheet opens at any page.
-        const HWND page = Page(sheet, tab.rows.front().control);
-        ASSERT_TRUE(page) << tab.entry << ":" << tab.page;
-        for (const Row& row : tab.rows) {
+    for (const std::span<const PageRow> rows : PageTables()) {
+        const HWND sheet = OpenTable(program, rows);
+        const HWND page = Page(sheet, rows.front().control);
+        ASSERT_TRUE(page) << rows.front().entry << ":" << rows.front().page;
+        for (const PageRow& row : rows) {
             EXPECT_TRUE(row.select == kClick ? ClickByKeys(page, row.control)
                                              : SelectByKeys(page, row.control, row.select))
                 << testing::PrintToString(row.name);
         }
-        if (tab.entry == 2 && tab.page == 0) {
+        if (rows.front().entry == 2 && rows.front().page == 0) {
             EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Whole subject for selected");
             Select(page, IDC_TASK_SUBJECT, 0);
         }
         ASSERT_TRUE(Ok(sheet));
     }
-    for (const Tab& tab : kTabs) {
-        for (const Row& row : tab.rows) {
-            EXPECT_EQ(Stored(row.name), row.stored) << testing::PrintToString(row.name);
-        }
+    for (const PageRow& row : kPageRows) {
+        EXPECT_EQ(Stored(row.name), row.stored) << testing::PrintToString(row.name);
     }
     EXPECT_EQ(StoredText(L"CurTaskPattern"), L"xp2yz");
     EXPECT_EQ(Stored(L"dbgTextOffset"), 4u);
@@ -278,7 +138,7 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
              Case{120, true, L"15 min", false, 900},
          }) {
         Put(L"TimeoutTime", c.stored);
-        program.Open(0, kReturnPage);
+        program.Open(0, 7);
         const HWND sheet = program.Sheet(L"General options");
         const HWND page = Page(sheet, IDC_TIMEOUT_ON);
         ASSERT_TRUE(page);
@@ -300,30 +160,25 @@ TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
         SetUp();
         {
             CSettingsKey key = OpenProductKey();
-            for (const Tab& tab : kTabs) {
-                for (const Row& row : tab.rows) {
-                    asText ? key.WriteString(row.name, text.c_str())
-                           : key.WriteBinary(row.name, "\2\2\2\2\2", 5);
-                }
+            for (const PageRow& row : kPageRows) {
+                asText ? key.WriteString(row.name, text.c_str())
+                       : key.WriteBinary(row.name, "\2\2\2\2\2", 5);
             }
             asText ? key.WriteString(L"CurTaskPattern", text.c_str())
                    : key.WriteBinary(L"CurTaskPattern", "\2", 1);
             key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
         }
         Program program;
-        for (const Tab& tab : kTabs) {
-            program.Open(tab.entry, tab.page);
-            const HWND sheet = program.Sheet(tab.sheet);
-            TurnTo(sheet, tab.page);
-            ASSERT_TRUE(Page(sheet, tab.rows.front().control)) << tab.entry << ":" << tab.page;
+        for (const std::span<const PageRow> rows : PageTables()) {
+            const HWND sheet = OpenTable(program, rows);
+            ASSERT_TRUE(Page(sheet, rows.front().control))
+                << rows.front().entry << ":" << rows.front().page;
             ASSERT_TRUE(Ok(sheet));
         }
         EXPECT_EQ(program.CloseAndWait(), 0u);
-        for (const Tab& tab : kTabs) {
-            for (const Row& row : tab.rows) {
-                EXPECT_EQ(Stored(row.name), row.defaultValue)
-                    << testing::PrintToString(row.name) << (asText ? " text" : " bytes");
-            }
+        for (const PageRow& row : kPageRows) {
+            EXPECT_EQ(Stored(row.name), row.defaultValue)
+                << testing::PrintToString(row.name) << (asText ? " text" : " bytes");
         }
     }
 }
