@@ -21,5 +21,5 @@ class RegistryExporter {
     bool Import(const wchar_t* path) const;
 
   private:
-    std::vector<std::wstring> excluded_;  // in upper case
+    std::vector<std::wstring> excluded_;
 };

@@ -16,8 +16,8 @@ class MailFoldersView {
     using Ticked = std::function<bool(const MailFolderNode&)>;
     using Toggle = std::function<void(const MailFolderNode&)>;
 
-    // `toggled` is called when the user taps a box or presses space, and answers for the tick
-    // through the next ShowTick.
+    // `toggled` is called when the user has ticked or cleared a folder, by a tap on its box or with
+    // space.
     MailFoldersView(HWND tree, std::vector<MailFolderNode> folders, Toggle toggled);
 
     const std::vector<MailFolderNode>& folders() const { return folders_; }
