@@ -88,7 +88,7 @@ bool MainFrame::OnCreate() {
     bar.dwFlags = SHCMBF_HMENU;
     bar.nToolBarId = IDM_MAIN;
     bar.hInstRes = ResourceLibrary();
-    if (SHCreateMenuBar(&bar)) menuBar_ = bar.hwndMB;
+    SHCreateMenuBar(&bar);
 
     ApplySharedFonts(hwnd());
 

@@ -35,7 +35,6 @@ class MainFrame : public Window {
     void Open(WPARAM entry, LPARAM page);
     void ShowAboutBox();
 
-    HWND menuBar_ = nullptr;
     HWND listView_ = nullptr;
     OwnedImageList imageList_;
     OwnedFont listFont_;
