@@ -1,6 +1,7 @@
 #include "pages/contacts/contacts_pages.h"
 
 #include <vector>
+
 #include "app/language/language_table.h"
 #include "appearance/drawing/sample_list.h"
 #include "pages/shared/title_page.h"

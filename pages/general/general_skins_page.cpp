@@ -1,6 +1,7 @@
 #include "pages/general/general_pages.h"
 
 #include <string>
+
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "appearance/skins/skin_art.h"

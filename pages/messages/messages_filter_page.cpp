@@ -1,10 +1,10 @@
 #include "pages/messages/messages_pages.h"
 
 #include <algorithm>
-
 #include <memory>
 #include <string>
 #include <vector>
+
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
 #include "base/fill_in.h"
