@@ -2,9 +2,8 @@
 // has forgotten.
 //
 // usage: describe settings   docs/settings.md: every value, its default, the pages that edit it
-//        describe pages      a line for each page: entry, page, whether it can be opened, its
-//        anchor describe check      what the tables lack, compared with DiaryRes.Dll in the same
-//        folder
+//        describe pages      a line for each page: entry, page, how it is reached, its anchor
+//        describe check      what the tables lack beside DiaryRes.Dll in the same folder
 #include <windows.h>
 
 #include <algorithm>
