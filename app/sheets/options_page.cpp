@@ -70,7 +70,16 @@ void OptionsPage::RefreshRows() {
     rows_.UpdateEnabled(*this);
 }
 
-bool OptionsPage::OnApply() {
+// Where one page refuses, none has stored anything, so that the sheet can still be cancelled.
+LRESULT OptionsPage::OnApply() {
+    if (SendMessageW(GetParent(hwnd()), PSM_QUERYSIBLINGS, 0, 0)) {
+        return PSNRET_INVALID_NOCHANGEPAGE;
+    }
+    Store();
+    return PSNRET_NOERROR;
+}
+
+void OptionsPage::Store() {
     CDiarySettings& shared = GetDiarySettings();
     {
         ProductKeyValues values;
@@ -78,7 +87,6 @@ bool OptionsPage::OnApply() {
         OnSave(values);
     }
     if (rows_.HasSharedRows()) shared.Save();
-    return true;
 }
 
 bool OptionsPage::OnCommand(int, int code) {
@@ -97,6 +105,7 @@ std::optional<INT_PTR> OptionsPage::OnMessage(UINT message, WPARAM wParam, LPARA
         }
         return OnControlNotification(header);
     }
+    if (message == PSM_QUERYSIBLINGS) return Answer(OnCheck() ? 0 : 1);
     // The sheet hears of help first and passes it to its current page as a notification.
     if (message == WM_HELP) return std::nullopt;
     return FullScreenDialog::OnMessage(message, wParam, lParam);
@@ -109,7 +118,7 @@ void OptionsPage::ComeToFront() const {
 std::optional<INT_PTR> OptionsPage::OnPageNotification(const NMHDR& header) {
     switch (header.code) {
         case PSN_SETACTIVE: return Answer(OnSetActive() ? 0 : -1);
-        case PSN_APPLY: return Answer(OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE);
+        case PSN_APPLY: return Answer(OnApply());
         case PSN_HELP: ShowHelp(); return Answer(0);
         case PSN_KILLACTIVE:
         case PSN_RESET:

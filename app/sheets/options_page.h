@@ -24,8 +24,9 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     virtual bool OnSetActive() { return true; }
     // Shows what others have stored meanwhile, but for what the user has changed here.
     void RefreshRows();
-    // Validates and stores; false keeps the sheet open on this page.
-    virtual bool OnApply();
+    // Whether what the page holds can be stored. All pages of the sheet are asked before the first
+    // one stores; false keeps the sheet open.
+    virtual bool OnCheck() { return true; }
     // Called after the rows are loaded, and after they are stored but before the shared settings
     // are.
     virtual void OnLoad(PageValues&) {}
@@ -57,6 +58,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
 
   private:
     std::optional<INT_PTR> OnPageNotification(const NMHDR& header);
+    LRESULT OnApply();
+    void Store();
 
     PageRows rows_;
     HPROPSHEETPAGE handle_ = nullptr;  // the sheet's

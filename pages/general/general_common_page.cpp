@@ -46,7 +46,7 @@ class GeneralCommonPage : public OptionsPage {
     void OnTranslated() override;
     void OnSave(PageValues& values) override;
     void OnUpdate() override;
-    bool OnApply() override;
+    bool OnCheck() override;
 
   private:
     void FillPims(std::int32_t current);
@@ -106,14 +106,14 @@ void GeneralCommonPage::OnUpdate() {
     Enable(IDC_ALLOW_MINIMIZATION, Selection(IDC_HEADER_STATE) != kHeaderHidden);
 }
 
-bool GeneralCommonPage::OnApply() {
-    if (!HeightIsEdited()) return OptionsPage::OnApply();
+bool GeneralCommonPage::OnCheck() {
+    if (!HeightIsEdited()) return true;
     const int height = static_cast<int>(GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
     if (height < smallest_ || height > kLargestHeight) {
         return Refuse(IDC_HEIGHT, FillIn(GetLanguageTable().LoadString(IDS_HEIGHT_REFUSED),
                                          {smallest_, kLargestHeight}));
     }
-    return OptionsPage::OnApply();
+    return true;
 }
 
 void GeneralCommonPage::OnSave(PageValues& values) {

@@ -64,7 +64,7 @@ class MessagesFilterPage : public OptionsPage {
 
   protected:
     void OnTranslated() override;
-    bool OnApply() override;
+    bool OnCheck() override;
     void OnSave(PageValues& values) override;
     void OnUpdate() override;
     bool OnCommand(int id, int code) override;
@@ -323,7 +323,7 @@ MailFolderNames MessagesFilterPage::NamesOf(const MailFolderRef& folder) const {
     return {};
 }
 
-bool MessagesFilterPage::OnApply() {
+bool MessagesFilterPage::OnCheck() {
     if (chosen_ < 0 && !AddNewFilter()) return false;
     const std::vector<MailFilter>& filters = GetMailFoldersFilters().filters();
     for (int i = 0; i < static_cast<int>(filters.size()); ++i) {
@@ -335,7 +335,7 @@ bool MessagesFilterPage::OnApply() {
             return RefuseFilter(i, IDS_MAIL_FILTER_TOO_LARGE);
         }
     }
-    return OptionsPage::OnApply();
+    return true;
 }
 
 bool MessagesFilterPage::RefuseFilter(int filter, unsigned reason) {

@@ -32,7 +32,7 @@ class NotesFilterPage : public OptionsPage {
 
   protected:
     void OnLoad(PageValues& values) override;
-    bool OnApply() override;
+    bool OnCheck() override;
     void OnSave(PageValues& values) override;
     std::optional<INT_PTR> OnControlNotification(const NMHDR& header) override;
 
@@ -74,11 +74,11 @@ std::wstring NotesFilterPage::HiddenNames() const {
     return JoinHiddenNames(hidden);
 }
 
-bool NotesFilterPage::OnApply() {
+bool NotesFilterPage::OnCheck() {
     if (!FitsValue(HiddenNames())) {
         return Refuse(IDC_NOTES_FOLDERS, GetLanguageTable().LoadString(IDS_TOO_MANY_HIDDEN));
     }
-    return OptionsPage::OnApply();
+    return true;
 }
 
 void NotesFilterPage::OnSave(PageValues&) {

@@ -197,4 +197,29 @@ TEST_F(MessagesPages, NoFilterOfTheUsersIsLeftWithoutFolders) {
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
+TEST_F(MessagesPages, WhereOnePageRefusesNoneStores) {
+    Program program;
+    Open(program);
+    Press(kOutlook, kArchive);
+    ASSERT_TRUE(Ok(sheet_));
+
+    Open(program);
+    Press(kOutlook, kArchive);
+    TurnTo(sheet_, 0);
+    const HWND general = Page(sheet_, IDC_MESSAGES_SIZE);
+    ASSERT_TRUE(general);
+    Click(general, IDC_MESSAGES_SIZE);
+    ASSERT_TRUE(IsRefused(program));
+    EXPECT_TRUE(IsChecked(general, IDC_MESSAGES_SIZE));
+    ASSERT_TRUE(Cancel(sheet_));
+    EXPECT_EQ(Stored(L"EmailShowSize"), 0u);
+
+    Open(program);
+    TurnTo(sheet_, 0);
+    Click(Page(sheet_, IDC_MESSAGES_SIZE), IDC_MESSAGES_SIZE);
+    ASSERT_TRUE(Ok(sheet_));
+    EXPECT_EQ(Stored(L"EmailShowSize"), 1u);
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
 }  // namespace
