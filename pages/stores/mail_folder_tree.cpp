@@ -31,7 +31,8 @@ MailFolderNode MakeChild(const MailFolderNode& parent, MailFolderRef folder, Mai
     return {std::move(folder), kind, name, parent.path + L" - " + name, {}};
 }
 
-// Opens an entry of a store, or with an empty identifier its root, if that is a folder.
+// Opens an entry of a store if that is a folder. With an empty identifier it is the root: devices
+// document that they refuse that, so it is for a store that names no other beginning.
 MapiPointer<IMAPIFolder> OpenFolder(IMsgStore& store, const Identifier& identifier) {
     ULONG type = 0;
     LPUNKNOWN object = nullptr;
@@ -60,7 +61,8 @@ class Walker {
     }
 
     void Walk(MailFolderNode& account) {
-        if (const auto root = OpenFolder(store_, {})) Walk(*root.get(), account, 1);
+        const auto root = OpenFolder(store_, SubtreeIdentifier(store_));
+        if (root) Walk(*root.get(), account, 1);
     }
 
   private:

@@ -92,6 +92,15 @@ bool ForEachRow(IMAPITable& table, const std::vector<ULONG>& columns,
     }
 }
 
+std::vector<std::uint8_t> SubtreeIdentifier(IMsgStore& store) {
+    MapiTags tags({PR_IPM_SUBTREE_ENTRYID});
+    ULONG count = 0;
+    LPSPropValue values = nullptr;
+    if (FAILED(store.GetProps(tags.get(), MAPI_UNICODE, &count, &values))) return {};
+    const MapiValues owner(values);
+    return MapiRecord(values, count).Bytes(0).value_or(std::vector<std::uint8_t>());
+}
+
 bool ForEachSpecialFolder(
     IMsgStore& store,
     const std::function<void(std::size_t, const std::vector<std::uint8_t>&)>& action) {

@@ -58,6 +58,9 @@ class MapiTags {
     std::vector<ULONG> words_;
 };
 
+// The identifier of the folder that has all those a store shows; empty when the store has none.
+std::vector<std::uint8_t> SubtreeIdentifier(IMsgStore& store);
+
 // The five special folders of a store, in the order in which they are asked for.
 inline constexpr ULONG kSpecialFolderTags[] = {PR_IPM_WASTEBASKET_ENTRYID, PR_CE_IPM_DRAFTS_ENTRYID,
                                                PR_CE_IPM_INBOX_ENTRYID, PR_IPM_OUTBOX_ENTRYID,

@@ -1,5 +1,6 @@
 // Message stores, which are the accounts, and folders.
 #include <algorithm>
+#include <cstring>
 
 #include "pocketpc/cemapi/objects.h"
 
@@ -198,13 +199,14 @@ IMAPIFolder* MakeFolder(MailSnapshot mail, DWORD node) { return new Folder(std::
 
 HRESULT OpenEntryOf(const MailSnapshot& mail, DWORD account, ULONG size, LPENTRYID entry, LPCIID id,
                     ULONG* type, LPUNKNOWN* object) {
-    if (!type || !object) return MAPI_E_INVALID_PARAMETER;
+    const bool null = !size || !entry;
+    if (!type || !object || (null && !trials::NullEntry())) return MAPI_E_INVALID_PARAMETER;
     const MailNode* root = mail->Find(account);
-    const MailNode* node = size ? FindEntry(mail, size, entry,
-                                            [&](const MailNode& one) {
-                                                return one.parent && mail->AccountOf(one) == root;
-                                            })
-                                : root;
+    const std::vector<BYTE> rootId = RootIdentifier(*root);
+    const bool isRoot = null || (size == rootId.size() && !memcmp(entry, rootId.data(), size));
+    const MailNode* node = isRoot ? root : FindEntry(mail, size, entry, [&](const MailNode& one) {
+        return one.parent && mail->AccountOf(one) == root;
+    });
     if (!node) return MAPI_E_NOT_FOUND;
     IMAPIFolder* folder = MakeFolder(mail, node->number);
     const HRESULT result =

@@ -17,6 +17,10 @@ using MailSnapshot = std::shared_ptr<const MailStore>;
 void FillValue(const MailSnapshot& mail, const MailNode& node, ULONG tag, bool inTable,
                void* buffer, SPropValue& value);
 
+// The identifier of a store's root folder, which no folder of the store has. That the root and the
+// folder of PR_IPM_SUBTREE_ENTRYID are the same one is a guess.
+std::vector<BYTE> RootIdentifier(const MailNode& account);
+
 // The node of an identifier among those that `wanted` accepts; null when there is none.
 const MailNode* FindEntry(const MailSnapshot& mail, ULONG size, LPENTRYID entry,
                           const std::function<bool(const MailNode&)>& wanted);
@@ -54,7 +58,8 @@ IMsgStore* MakeStore(MailSnapshot mail, DWORD account);
 // A folder, or with `account` as the node the root folder of its store.
 IMAPIFolder* MakeFolder(MailSnapshot mail, DWORD node);
 
-// What OpenEntry does within one account; without an identifier it opens the root folder.
+// What OpenEntry does within one account. Its documentation says that the identifier cannot be
+// null; what it returns then is a guess. A trial lets null open the root folder.
 HRESULT OpenEntryOf(const MailSnapshot& mail, DWORD account, ULONG size, LPENTRYID entry, LPCIID id,
                     ULONG* type, LPUNKNOWN* object);
 

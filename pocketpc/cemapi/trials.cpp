@@ -18,6 +18,8 @@ struct State {
     HRESULT failWith = E_FAIL;
     ULONG tableRows = kNoLimit;
     ULONG rowColumns = kNoLimit;
+    bool noSubtree = false;
+    bool nullEntry = false;
     LONG counters[kCounterCount] = {};
 };
 State state;
@@ -57,6 +59,8 @@ void Begin() {
         state.reporting ? static_cast<HRESULT>(ReadNumber(key, L"FailWith", E_FAIL)) : E_FAIL;
     state.tableRows = state.reporting ? ReadNumber(key, L"TableRows", kNoLimit) : kNoLimit;
     state.rowColumns = state.reporting ? ReadNumber(key, L"RowColumns", kNoLimit) : kNoLimit;
+    state.noSubtree = state.reporting && ReadNumber(key, L"NoSubtree", 0);
+    state.nullEntry = state.reporting && ReadNumber(key, L"NullEntry", 0);
     if (key) RegCloseKey(key);
 }
 
@@ -69,6 +73,10 @@ HRESULT NextCall() { return ++state.calls == state.failCall ? state.failWith : S
 ULONG TableRows() { return state.tableRows; }
 
 ULONG RowColumns() { return state.rowColumns; }
+
+bool NoSubtree() { return state.noSubtree; }
+
+bool NullEntry() { return state.nullEntry; }
 
 void Count(Counter counter, LONG change) {
     InterlockedExchangeAdd(&state.counters[counter], change);

@@ -9,6 +9,8 @@
 //   FailCall    the call that fails, counted from 1 on; FailWith is what it returns (E_FAIL)
 //   TableRows   the rows after which every table ends
 //   RowColumns  the columns that rows have at most
+//   NoSubtree   not 0: stores lack PR_IPM_SUBTREE_ENTRYID
+//   NullEntry   not 0: an identifier that is null opens a store's root folder
 //
 // When the last session has ended, and at each change after that, these are written: Calls, and of
 // what is still there Objects, RowSets and Buffers; WrongFrees counts frees of what is no buffer.
@@ -21,6 +23,8 @@ void End();
 HRESULT NextCall();
 ULONG TableRows();
 ULONG RowColumns();
+bool NoSubtree();
+bool NullEntry();
 
 enum Counter { kObjects, kRowSets, kBuffers, kWrongFrees, kCounterCount };
 void Count(Counter counter, LONG change);

@@ -85,9 +85,18 @@ void FillValue(const MailSnapshot& mail, const MailNode& node, ULONG tag, bool i
         value.Value.l = node.kind == MailKind::kAccount   ? MAPI_STORE
                         : node.kind == MailKind::kMessage ? MAPI_MESSAGE
                                                           : MAPI_FOLDER;
+    } else if (tag == PR_IPM_SUBTREE_ENTRYID && !node.parent && !trials::NoSubtree()) {
+        SetBytes(RootIdentifier(node), inTable, buffer, value);
     } else if (const MailNode* special = SpecialFolder(mail, node, tag)) {
         SetBytes(special->identifier, inTable, buffer, value);
     }
+}
+
+std::vector<BYTE> RootIdentifier(const MailNode& account) {
+    // No flags, the account and the folder 0; folders are counted from 1 on.
+    std::vector<BYTE> identifier(12);
+    for (int i = 0; i < 4; ++i) identifier[4 + i] = static_cast<BYTE>(account.number >> 8 * i);
+    return identifier;
 }
 
 const MailNode* FindEntry(const MailSnapshot& mail, ULONG size, LPENTRYID entry,

@@ -23,6 +23,7 @@
 #define PR_ENTRYID PROP_TAG(PT_BINARY, 0x0FFF)
 #define PR_DISPLAY_NAME PROP_TAG(PT_TSTRING, 0x3001)
 #define PR_DISPLAY_NAME_W PROP_TAG(PT_UNICODE, 0x3001)
+#define PR_IPM_SUBTREE_ENTRYID PROP_TAG(PT_BINARY, 0x35E0)
 #define PR_IPM_OUTBOX_ENTRYID PROP_TAG(PT_BINARY, 0x35E2)
 #define PR_IPM_WASTEBASKET_ENTRYID PROP_TAG(PT_BINARY, 0x35E3)
 #define PR_IPM_SENTMAIL_ENTRYID PROP_TAG(PT_BINARY, 0x35E4)
@@ -189,7 +190,8 @@ struct IMsgStore : IMAPIProp {
     MAPI_METHOD(Unadvise)(ULONG connection) = 0;
     MAPI_METHOD(CompareEntryIDs)
     (ULONG size1, LPENTRYID entry1, ULONG size2, LPENTRYID entry2, ULONG flags, ULONG* same) = 0;
-    // Without an identifier it opens the root folder.
+    // The identifier cannot be null, by its documentation; PR_IPM_SUBTREE_ENTRYID is that of the
+    // folder with all others.
     MAPI_METHOD(OpenEntry)
     (ULONG size, LPENTRYID entry, LPCIID id, ULONG flags, ULONG* type, LPUNKNOWN* object) = 0;
     MAPI_METHOD(SetReceiveFolder)

@@ -117,6 +117,29 @@ TEST_F(MailFilters, TheTreeHasEveryFolderOnce) {
                               L"Sent items/6; B\xFCro - Deleted items/2; B\xFCro - Projects/1; "));
 }
 
+// A store's folders begin where it says; only one that does not say is asked for its root by null.
+TEST_F(MailFilters, TheTreeBeginsAtTheSubtree) {
+    const std::wstring whole = Tree();
+    for (const DWORD lacking : {0, 1}) {
+        for (const DWORD null : {0, 1}) {
+            Try(L"NoSubtree", lacking);
+            Try(L"NullEntry", null);
+            EXPECT_EQ(Tree(), lacking && !null ? L"Outlook E-mail/0; Text Messages/0; " : whole);
+            const MapiSession session;
+            session.ForEachAccount([&](const MapiAccount& account) {
+                ULONG type = 0;
+                LPUNKNOWN object = nullptr;
+                const auto store = session.OpenStore(account);
+                EXPECT_EQ(SubtreeIdentifier(*store.get()).size(), lacking ? 0u : 12u);
+                EXPECT_EQ(store.get()->OpenEntry(0, nullptr, nullptr, 0, &type, &object),
+                          null ? S_OK : E_INVALIDARG);
+                const MapiPointer<IUnknown> owner(object);
+                return true;
+            });
+        }
+    }
+}
+
 // The key that names a storage is part of its folders' identifiers.
 TEST_F(MailFilters, OfferNoFolderWithTooLongAKey) {
     const std::string folder = "\\Application Data\\Mail2\\";
