@@ -48,11 +48,13 @@ Category FromRecord(CEOID oid, const DatabaseRecord& record) {
         if (!value) complete = false;
         return value.value_or(0);
     };
-    category.identifier = number(1);
     if (IsNewerPocketPc()) {
+        category.identifier = record.Identifier(1);
+        complete = !category.identifier.empty();
         category.flags.fill(1);
         category.number = number(2);
     } else {
+        category.number = number(1);
         for (std::size_t i = 0; i < category.flags.size(); ++i) category.flags[i] = number(2 + i);
     }
     if (complete) category.name = record.Text(0);

@@ -22,9 +22,9 @@ struct Category {
 
     std::wstring name;  // empty when the record is malformed
     CEOID record = 0;
-    std::uint32_t identifier = 0;
+    std::vector<std::uint8_t> identifier;     // of newer devices: the record's own one
     std::array<std::uint32_t, 4> flags = {};  // as the record has them
-    std::uint32_t number = 0;                 // property 3 of newer devices
+    std::uint32_t number = 0;                 // property 3; of older devices the identifier
 };
 
 enum class CategoryChange { kAdded, kRemoved, kChanged };

@@ -21,12 +21,16 @@ class DatabaseRecord {
 
     // By the position in the list; a number of any of the types with up to 32 bits.
     std::optional<std::uint32_t> Number(std::size_t index) const;
+    // The record's own identifier: 16 bytes, or 4 where the device has a number, the least one
+    // first. Empty when it is missing.
+    std::vector<std::uint8_t> Identifier(std::size_t index) const;
     // Empty when it is missing.
     std::wstring Text(std::size_t index) const;
 
   private:
     struct Value {
         std::optional<std::uint32_t> number;
+        std::vector<std::uint8_t> identifier;
         std::wstring text;
     };
     std::vector<Value> values_;

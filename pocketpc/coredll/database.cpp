@@ -122,8 +122,7 @@ bool CanSort(CEPROPID property) {
         case CEVT_R8:
         case CEVT_BOOL:
         case CEVT_LPWSTR:
-        case CEVT_FILETIME:
-        case CEVT_RECID: return true;
+        case CEVT_FILETIME: return true;
     }
     return false;
 }

@@ -46,6 +46,8 @@ const Device& ThisDevice() {
     return device;
 }
 
+bool RecordIdentifiersAreNumbers() { return Entry(L"recid", L"blob") == L"number"; }
+
 extern "C" BOOL WINAPI Pocket_GetVersionExW(OSVERSIONINFOW* info) {
     if (!info || info->dwOSVersionInfoSize < sizeof *info) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);

@@ -12,3 +12,6 @@ struct Device {
 };
 
 const Device& ThisDevice();
+
+// Whether \device.ini makes a record's own identifier a number; read anew by each call.
+bool RecordIdentifiersAreNumbers();

@@ -18,13 +18,19 @@ std::size_t SizeOfType(CEPROPID property) {
         case CEVT_I2:
         case CEVT_UI2: return sizeof(short);
         case CEVT_I4:
-        case CEVT_UI4:
-        case CEVT_RECID: return sizeof(long);
+        case CEVT_UI4: return sizeof(long);
         case CEVT_BOOL: return sizeof(BOOL);
         case CEVT_R8: return sizeof(double);
         case CEVT_FILETIME: return sizeof(FILETIME);
     }
     return 0;
+}
+
+// The same of a value with these bytes: a record's own identifier is a blob, or a number where the
+// device has it so.
+std::size_t SizeWithin(CEPROPID property, const std::string& bytes) {
+    const bool isNumber = TypeFromPropID(property) == CEVT_RECID && bytes.size() == sizeof(CEOID);
+    return isNumber ? sizeof(CEOID) : SizeOfType(property);
 }
 
 // A type that only the newer volumes know.
@@ -59,9 +65,8 @@ class Block {
                 continue;
             }
             ++present;
-            if (SizeOfType(ids_[i])) {
-                std::memcpy(&array[i].val, bytes->data(),
-                            std::min(bytes->size(), SizeOfType(ids_[i])));
+            if (const std::size_t size = SizeWithin(ids_[i], *bytes)) {
+                std::memcpy(&array[i].val, bytes->data(), std::min(bytes->size(), size));
                 continue;
             }
             const std::size_t room = Room(ids_[i], *bytes);
@@ -84,7 +89,7 @@ class Block {
     }
     // With a text's terminator, and so that the next one is aligned.
     static std::size_t Room(CEPROPID id, const std::string& bytes) {
-        if (SizeOfType(id)) return 0;
+        if (SizeWithin(id, bytes)) return 0;
         const std::size_t end = TypeFromPropID(id) == CEVT_LPWSTR ? sizeof(wchar_t) : 0;
         return (bytes.size() + end + 7) / 8 * 8;
     }
@@ -146,6 +151,8 @@ std::optional<std::string> BytesOf(const CEPROPVAL& value) {
     if (const std::size_t size = SizeOfType(value.propid)) {
         return std::string(reinterpret_cast<const char*>(&value.val), size);
     }
+    // The system itself gives a record's own identifier its value.
+    if (TypeFromPropID(value.propid) == CEVT_RECID) return std::string();
     const void* data = nullptr;
     std::size_t size = 0;
     if (TypeFromPropID(value.propid) == CEVT_LPWSTR) {

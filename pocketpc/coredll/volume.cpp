@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "pocketpc/coredll/device.h"
+
 namespace {
 
 constexpr int kApplication = 0x50504456;  // "PPDV", in the header of our files
@@ -57,6 +59,14 @@ std::vector<SortOrder> OrdersOf(const std::string& bytes) {
     return orders;
 }
 
+// A record's own identifier is documented to be a 128-bit GUID, which the union has as a blob. What
+// its bytes are is the system's matter: ours differ in the last ones only, so that no part at the
+// beginning will do, and are no other record's of the same volume.
+std::string OwnIdentifier(CEOID record, bool isNumber) {
+    std::string bytes(reinterpret_cast<const char*>(&record), sizeof record);
+    return isNumber ? bytes : std::string("\xFE\x01\0\x5A Record \xFF", 12) + bytes;
+}
+
 long long Now() {
     FILETIME time;
     GetSystemTimeAsFileTime(&time);
@@ -90,6 +100,7 @@ std::shared_ptr<Volume> Volume::Open(const std::wstring& path, DWORD disposition
     const auto volume = std::make_shared<Volume>();
     volume->kind_ = &kind;
     volume->path_ = path;
+    volume->recordIdentifiersAreNumbers_ = RecordIdentifiersAreNumbers();
     if (!volume->Connect(create)) return nullptr;
     SetLastError(ERROR_SUCCESS);
     return volume;
@@ -252,7 +263,11 @@ Values Volume::Record(CEOID record) const {
     Values values;
     Statement all = Prepare("select id, value from properties where record = ?");
     all.Bind(record);
-    while (all.Step()) values[static_cast<CEPROPID>(all.Number(0))] = all.Bytes(1);
+    while (all.Step()) {
+        const auto id = static_cast<CEPROPID>(all.Number(0));
+        const bool isOwn = TypeFromPropID(id) == CEVT_RECID;
+        values[id] = isOwn ? OwnIdentifier(record, recordIdentifiersAreNumbers_) : all.Bytes(1);
+    }
     return values;
 }
 
@@ -284,10 +299,7 @@ CEOID Volume::WriteRecord(CEOID database, CEOID record, const Values& values) {
             continue;
         }
         Statement write = Prepare("insert or replace into properties values(?, ?, ?)");
-        // The system itself gives a record's own identifier its value.
-        const std::string own(reinterpret_cast<const char*>(&record), sizeof record);
-        const bool isOwn = TypeFromPropID(id) == CEVT_RECID;
-        if (!write.Bind(record).Bind(id).BindBytes(isOwn ? own : *value).Run()) return 0;
+        if (!write.Bind(record).Bind(id).BindBytes(*value).Run()) return 0;
     }
     if (!Touch(database) || !transaction.Commit()) return 0;
     ++changes_;

@@ -85,6 +85,7 @@ class Volume {
 
     const VolumeKind* kind_ = nullptr;
     std::wstring path_;
+    bool recordIdentifiersAreNumbers_ = false;
     std::unique_ptr<sqlite3, Close> connection_;
     long long changes_ = 0;
 };

@@ -37,7 +37,7 @@ constexpr char kUsage[] =
 
 A VOLUME is a file such as \pim.vol, or "store" for the object store itself. A KEY begins with HKCU or HKLM.
 A VALUE is NUMBER:TYPE=DATA, as in 2:string=Business. Types: i2 ui2 i4 ui4 r8 bool string time blob recid;
-blobs are hexadecimal digits; 1:recid is the record's own number and has no data. A mail folder's KIND is inbox,
+blobs are hexadecimal digits; 1:recid is the record's own identifier, without data. A mail folder's KIND is inbox,
 outbox, sent, deleted, drafts or folder.
 
 A script adds what a device lacks and leaves the rest as it is. It is UTF-8 text; lines that are indented by

@@ -117,6 +117,9 @@ std::wstring ValueText(const CEPROPVAL& value) {
             swprintf(text, std::size(text), L"0x%08lx%08lx", value.val.filetime.dwHighDateTime,
                      value.val.filetime.dwLowDateTime);
             break;
+        case CEVT_RECID:
+            if (!value.val.blob.lpb) return start + std::to_wstring(value.val.ulVal);
+            [[fallthrough]];
         case CEVT_BLOB: {
             std::wstring digits;
             for (DWORD i = 0; i < value.val.blob.dwCount; ++i) {

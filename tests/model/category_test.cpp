@@ -65,7 +65,8 @@ TEST(Categories, HaveIconsAndColorsByTheirNames) {
     CategoryList& list = CategoryList::Instance();
     ASSERT_EQ(list.Count(), 12);
     EXPECT_EQ(list.At(4).name, L"Work/Home");
-    EXPECT_EQ(list.At(4).identifier, IsNewerPocketPc() ? list.At(4).record : 5u);
+    EXPECT_EQ(list.At(4).identifier.size(), IsNewerPocketPc() ? 16u : 0u);
+    EXPECT_EQ(list.At(4).number, IsNewerPocketPc() ? 0u : 5u);
     EXPECT_EQ(list.At(2).flags[2], IsNewerPocketPc() ? 1u : 0u);
     EXPECT_EQ(list.GetColor(4), 0x2068FFu);
     EXPECT_EQ(list.GetIntensity(4), 50);

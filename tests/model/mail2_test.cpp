@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <set>
 
 #include "pages/stores/database_record.h"
 #include "settings/device.h"
@@ -108,11 +109,17 @@ TEST(PimVolume, HoldsTheCategories) {
     const DatabaseHandle database = layer.Open(request, &oid);
     ASSERT_TRUE(database);
     std::wstring names;
+    std::set<std::vector<std::uint8_t>> identifiers;
     const CEPROPID name = newer ? PropertyId(2, CEVT_LPWSTR) : PropertyId(0x4001, CEVT_LPWSTR);
     const CEPROPID number = newer ? PropertyId(1, CEVT_RECID) : PropertyId(0x4002, CEVT_I2);
     ForEachRecord(database.get(), {name, number}, [&](CEOID record, const DatabaseRecord& values) {
         names += values.Text(0) + L";";
-        EXPECT_EQ(values.Number(1), newer ? record : record - 1);
+        if (!newer) {
+            EXPECT_EQ(values.Number(1), record - 1);
+            return;
+        }
+        EXPECT_EQ(values.Identifier(1).size(), 16u);
+        EXPECT_TRUE(identifiers.insert(values.Identifier(1)).second);
     });
     EXPECT_TRUE(names.starts_with(L"Business;Personal;Holiday;Birthday;Work/Home;50%Kids;a*b;"));
     DatabaseRequest byIdentifier;

@@ -157,6 +157,30 @@ TEST_F(Databases, KeepRecordsOfEveryTypeUnderLastingIdentifiers) {
     LocalFree(buffer);
 }
 
+// As documented, and as a device that has a number instead.
+TEST_F(Databases, GiveRecordsAnIdentifierOfTheirOwn) {
+    wchar_t path[MAX_PATH];
+    GetFullPathNameW(L"\\device.ini", MAX_PATH, path, nullptr);
+    const CEPROPID own = PropertyId(1, CEVT_RECID);
+    const CEOID oid = Create(guid_, L"Own");
+    EXPECT_EQ(Create(guid_, L"Sorted", {{own, 0}}), 0u);
+    const CEOID record = Write(Open(guid_, oid), {Value(own), Number(1)});
+    EXPECT_EQ(record != 0, IsNewerPocketPc());
+    for (const wchar_t* form : {L"blob", L"number"}) {
+        ASSERT_TRUE(WritePrivateProfileStringW(L"device", L"recid", form, path));
+        Remount();
+        if (!record) continue;
+        const DatabaseHandle database = Open(guid_, oid);
+        DatabaseRecord values;
+        ASSERT_TRUE(values.Read(database.get(), {kNumber, own}));
+        const std::vector<std::uint8_t> identifier = values.Identifier(1);
+        EXPECT_EQ(identifier.size(), *form == L'b' ? 16u : 4u);
+        EXPECT_EQ(std::memcmp(&identifier.back() - 3, &record, 4), 0);
+        EXPECT_TRUE(values.Identifier(0).empty() && !values.Number(1));
+    }
+    EXPECT_TRUE(WritePrivateProfileStringW(L"device", L"recid", nullptr, path));
+}
+
 TEST_F(Databases, SortAndSeek) {
     const CEOID oid = Create(guid_, L"Sorted",
                              {{kNumber, CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST},
