@@ -12,12 +12,11 @@ class Properties : public MapiObject<Interface> {
   public:
     Properties(MailSnapshot mail, DWORD node) : mail_(std::move(mail)), node_(node) {}
 
-    HRESULT STDMETHODCALLTYPE GetProps(LPSPropTagArray tags, ULONG flags, ULONG* count,
+    // The flags are documented to be ignored; texts are wide only.
+    HRESULT STDMETHODCALLTYPE GetProps(LPSPropTagArray tags, ULONG, ULONG* count,
                                        LPSPropValue* values) override {
         if (const HRESULT failure = trials::NextCall()) return failure;
         if (!tags || !count || !values) return MAPI_E_INVALID_PARAMETER;
-        // Texts are wide only.
-        if (!(flags & MAPI_UNICODE)) return MAPI_E_NO_SUPPORT;
         void* memory = nullptr;
         const HRESULT result =
             MAPIAllocateBuffer(static_cast<ULONG>(tags->cValues * sizeof(SPropValue)), &memory);

@@ -6,6 +6,9 @@
 
 namespace {
 
+// Documented; that asking for more is no mistake is a guess.
+constexpr std::size_t kMostRows = 10;
+
 class Table : public MapiObject<IMAPITable> {
   public:
     Table(MailSnapshot mail, std::vector<DWORD> nodes)
@@ -18,19 +21,19 @@ class Table : public MapiObject<IMAPITable> {
         return S_OK;
     }
 
-    HRESULT STDMETHODCALLTYPE GetRowCount(ULONG, ULONG* count) override {
+    // Documented for tables of messages only, which this is none of; what it returns is a guess.
+    HRESULT STDMETHODCALLTYPE GetRowCount(ULONG, ULONG*) override {
         if (const HRESULT failure = trials::NextCall()) return failure;
-        if (!count) return MAPI_E_INVALID_PARAMETER;
-        *count = static_cast<ULONG>(nodes_.size());
-        return S_OK;
+        return MAPI_E_NO_SUPPORT;
     }
 
     HRESULT STDMETHODCALLTYPE QueryRows(LONG count, ULONG, LPSRowSet* rows) override {
         if (const HRESULT failure = trials::NextCall()) return failure;
-        if (!rows || count < 0) return MAPI_E_INVALID_PARAMETER;
+        if (!rows || count <= 0) return MAPI_E_INVALID_PARAMETER;
         const std::size_t end = std::min<std::size_t>(nodes_.size(), trials::TableRows());
         const std::size_t left = end - std::min(end, position_);
-        OwnedRowSet set = MakeRowSet(static_cast<ULONG>(std::min<std::size_t>(count, left)));
+        const std::size_t most = std::min<std::size_t>(count, kMostRows);
+        OwnedRowSet set = MakeRowSet(static_cast<ULONG>(std::min(most, left)));
         if (!set) return MAPI_E_NOT_ENOUGH_MEMORY;
         for (ULONG i = 0; i < set->cRows; ++i) {
             if (!FillRow(set->aRow[i], *mail_->Find(nodes_[position_++]))) {

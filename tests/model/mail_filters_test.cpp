@@ -140,6 +140,38 @@ TEST_F(MailFilters, TheTreeBeginsAtTheSubtree) {
     }
 }
 
+TEST_F(MailFilters, TablesGiveFewRowsAndNoCount) {
+    MailStore mail;
+    for (int i = 0; i < 12; ++i) mail.Add(0, MailKind::kAccount, L"A", L"ActiveSync");
+    ASSERT_TRUE(mail.Save());
+    LPMAPISESSION session = nullptr;
+    ASSERT_EQ(MAPILogonEx(0, nullptr, nullptr, 0, &session), S_OK);
+    const MapiPointer<IMAPISession> sessionOwner(session);
+    LPMAPITABLE table = nullptr;
+    ASSERT_EQ(session->GetMsgStoresTable(0, &table), S_OK);
+    const MapiPointer<IMAPITable> tableOwner(table);
+    ULONG count = 0;
+    EXPECT_EQ(table->GetRowCount(0, &count), MAPI_E_NO_SUPPORT);
+    for (const auto& [asked, given] : {std::pair{0, -1}, {-1, -1}, {11, 10}, {2, 2}, {1, 0}}) {
+        LPSRowSet rows = nullptr;
+        EXPECT_EQ(table->QueryRows(asked, 0, &rows), given < 0 ? E_INVALIDARG : S_OK) << asked;
+        const MapiRows owner(rows);
+        EXPECT_EQ(rows ? static_cast<int>(rows->cRows) : -1, given) << asked;
+    }
+    const std::vector<std::uint8_t> identifier = mail.nodes()[0].identifier;
+    LPMDB store = nullptr;
+    ASSERT_EQ(session->OpenMsgStore(0, static_cast<ULONG>(identifier.size()), EntryOf(identifier),
+                                    nullptr, 0, &store),
+              S_OK);
+    const MapiPointer<IMsgStore> storeOwner(store);
+    for (const ULONG flags : {0ul, MAPI_UNICODE, ~0ul}) {
+        MapiTags tags({PR_DISPLAY_NAME_W});
+        LPSPropValue values = nullptr;
+        EXPECT_EQ(store->GetProps(tags.get(), flags, &count, &values), S_OK) << flags;
+        EXPECT_EQ(MapiRecord(MapiValues(values).get(), count).Text(0), L"A") << flags;
+    }
+}
+
 // The key that names a storage is part of its folders' identifiers.
 TEST_F(MailFilters, OfferNoFolderWithTooLongAKey) {
     const std::string folder = "\\Application Data\\Mail2\\";
