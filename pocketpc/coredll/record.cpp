@@ -214,24 +214,25 @@ CEOID WINAPI CeWriteRecordProps(HANDLE handle, CEOID record, WORD count, CEPROPV
     if (!count || !values || (record && volume.ParentOf(record) != database->oid())) {
         return Refuse(ERROR_INVALID_PARAMETER);
     }
-    Values changes;
-    std::size_t total = 0;
+    Values changes, whole;
+    if (record) whole = volume.Record(record);
     for (WORD i = 0; i < count; ++i) {
         const CEPROPVAL& value = values[i];
         if (value.wFlags & CEDB_PROPDELETE) {
-            changes[value.propid] = std::nullopt;
+            changes[value.propid] = whole[value.propid] = std::nullopt;
             continue;
         }
         const auto bytes = BytesOf(value);
-        if (!bytes || (IsNewerType(value.propid) && volume.kind().format != kEdb.format)) {
+        if (!bytes || bytes->size() > volume.kind().largestProperty ||
+            (IsNewerType(value.propid) && volume.kind().format != kEdb.format)) {
             return Refuse(ERROR_INVALID_PARAMETER);
         }
-        total += bytes->size();
-        changes[value.propid] = bytes;
+        changes[value.propid] = whole[value.propid] = bytes;
     }
-    if (total > CEDB_MAXRECORDSIZE || !KeepsRules(*database, record, changes)) {
-        return total > CEDB_MAXRECORDSIZE ? Refuse(ERROR_INVALID_PARAMETER) : 0;
-    }
+    std::size_t total = 0;
+    for (const auto& [id, value] : whole) total += value ? value->size() : 0;
+    if (total > volume.kind().largestRecord) return Refuse(ERROR_INVALID_PARAMETER);
+    if (!KeepsRules(*database, record, changes)) return 0;
     const CEOID written = volume.WriteRecord(database->oid(), record, changes);
     if (written) {
         const UINT code = record ? DB_CEOID_CHANGED : DB_CEOID_CREATED;

@@ -181,6 +181,29 @@ TEST_F(Databases, GiveRecordsAnIdentifierOfTheirOwn) {
     EXPECT_TRUE(WritePrivateProfileStringW(L"device", L"recid", nullptr, path));
 }
 
+TEST_F(Databases, LimitValuesAndRecords) {
+    const DatabaseHandle database = Open(guid_, Create(guid_, L"Large"));
+    const DWORD largest = IsNewerPocketPc() ? 8192 : 65472;
+    std::vector<BYTE> bytes(largest + 1);
+    CEPROPVAL first = Value(PropertyId(8, CEVT_BLOB)), second = Value(PropertyId(9, CEVT_BLOB));
+    const auto write = [&](CEOID record, DWORD one, DWORD other) {
+        first.val.blob = {one, bytes.data()};
+        second.val.blob = {other, bytes.data()};
+        return Write(database, other ? std::vector{second, first} : std::vector{first}, record);
+    };
+    EXPECT_EQ(write(0, largest + 1, 0), 0u);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
+    const CEOID record = write(0, largest, 0);
+    EXPECT_NE(record, 0u);
+    // Two of 65472 bytes leave 128 of the older volumes' 128 KB.
+    EXPECT_EQ(write(0, largest, largest) != 0, !IsNewerPocketPc());
+    EXPECT_NE(write(0, largest - 100, 100), 0u);
+    EXPECT_EQ(write(0, largest - 100, 101) != 0, !IsNewerPocketPc());
+    EXPECT_EQ(Write(database, {Number(1)}, record) != 0, !IsNewerPocketPc());
+    EXPECT_NE(write(record, 8, 0), 0u);
+    EXPECT_NE(Write(database, {Number(1)}, record), 0u);
+}
+
 TEST_F(Databases, SortAndSeek) {
     const CEOID oid = Create(guid_, L"Sorted",
                              {{kNumber, CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST},
