@@ -17,9 +17,7 @@ struct NewerDatabaseFunctions {
     decltype(&CeReadRecordPropsEx) readRecord = nullptr;
     decltype(&CeSeekDatabaseEx) seek = nullptr;
     decltype(&CeOidGetInfoEx2) getInfo = nullptr;
-    HANDLE(WINAPI* openInSession)
-    (HANDLE session, PCEGUID volume, PCEOID oid, LPWSTR name, SORTORDERSPECEX* sort, DWORD flags,
-     CENOTIFYREQUEST* request) = nullptr;
+    decltype(&CeOpenDatabaseInSession) openInSession = nullptr;
     HANDLE(WINAPI* openStream)(HANDLE database, CEPROPID property, DWORD mode) = nullptr;
     BOOL(WINAPI* readStream)(HANDLE stream, LPBYTE bytes, DWORD size, LPDWORD read) = nullptr;
     BOOL(WINAPI* writeStream)(HANDLE stream, LPBYTE bytes, DWORD size, LPDWORD written) = nullptr;

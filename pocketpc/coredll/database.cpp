@@ -351,6 +351,21 @@ HANDLE WINAPI CeOpenDatabaseEx2(PCEGUID guid, PCEOID oid, LPWSTR name, SORTORDER
                 [&](const SortOrder& order) { return IsSameOrder(order, *wide); });
 }
 
+// There is no way to begin a session here. That volumes of the older kind are refused follows from
+// their documentation; with which error is a guess.
+HANDLE WINAPI CeOpenDatabaseInSession(HANDLE session, PCEGUID guid, PCEOID oid, LPWSTR name,
+                                      SORTORDERSPECEX* sort, DWORD flags,
+                                      CENOTIFYREQUEST* request) {
+    if (session) return Refuse(ERROR_INVALID_HANDLE);
+    if (guid && !IsInvalid(*guid)) {
+        const std::lock_guard lock(Store::Get().mutex());
+        const auto volume = Store::Get().Find(*guid);
+        if (!volume) return INVALID_HANDLE_VALUE;
+        if (volume->kind().format != kEdb.format) return Refuse(ERROR_INVALID_PARAMETER);
+    }
+    return CeOpenDatabaseEx2(guid, oid, name, sort, flags, request);
+}
+
 CEOID WINAPI CeSeekDatabaseEx(HANDLE handle, DWORD type, DWORD_PTR value, WORD count,
                               LPDWORD index) {
     const std::lock_guard lock(Store::Get().mutex());

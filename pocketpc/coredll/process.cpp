@@ -17,9 +17,9 @@ struct LaterFunction {
     DWORD major, minor;
 };
 constexpr LaterFunction kLaterFunctions[] = {
-    {L"SHGetUIMetrics", 4, 21},     {L"CeCreateDatabaseEx2", 5, 0}, {L"CeOidGetInfoEx2", 5, 0},
-    {L"CeOpenDatabaseEx2", 5, 0},   {L"CeReadRecordPropsEx", 5, 0}, {L"CeSeekDatabaseEx", 5, 0},
-    {L"CeSetDatabaseInfoEx2", 5, 0}};
+    {L"SHGetUIMetrics", 4, 21},      {L"CeCreateDatabaseEx2", 5, 0},    {L"CeOidGetInfoEx2", 5, 0},
+    {L"CeOpenDatabaseEx2", 5, 0},    {L"CeReadRecordPropsEx", 5, 0},    {L"CeSeekDatabaseEx", 5, 0},
+    {L"CeSetDatabaseInfoEx2", 5, 0}, {L"CeOpenDatabaseInSession", 5, 0}};
 
 bool IsLater(const wchar_t* name) {
     const Device& device = ThisDevice();

@@ -41,7 +41,7 @@ struct VolumeKind {
     std::size_t largestProperty, largestRecord;
 };
 inline constexpr VolumeKind kCedb = {1, 31, 4, 3, CEDB_MAXPROPDATASIZE, CEDB_MAXRECORDSIZE};
-inline constexpr VolumeKind kEdb = {2, 127, 16, 16, 8 * 1024, 8 * 1024};
+inline constexpr VolumeKind kEdb = {2, 127, 32, 16, 8 * 1024, 8 * 1024};
 
 // One file with databases: a SQLite database of ours. Object identifiers are numbers that the file
 // hands out once. Whatever fails returns false, 0 or nothing and sets the last error.

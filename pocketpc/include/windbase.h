@@ -138,6 +138,7 @@ typedef struct _CEDBASEINFOEX_CEDB {
     SORTORDERSPECEX_CEDB rgSortSpecs[4];
 } CEDBASEINFOEX_CEDB;
 
+// Pages say 16 sort orders, a later header 32, and the version is the same in both.
 typedef struct _CEDBASEINFOEX_EDB {
     WORD wVersion;
     WORD wNumSortOrder;
@@ -147,7 +148,7 @@ typedef struct _CEDBASEINFOEX_EDB {
     DWORD dwNumRecords;
     DWORD dwSize;
     FILETIME ftLastModified;
-    SORTORDERSPECEX_EDB rgSortSpecs[16];
+    SORTORDERSPECEX_EDB rgSortSpecs[32];
 } CEDBASEINFOEX_EDB;
 
 typedef struct _CEFILEINFO {
@@ -212,7 +213,7 @@ typedef struct _CEOIDINFOEX_EDB {
 
 #ifdef EDB
 #define CEDB_MAXDBASENAMELEN 128
-#define CEDB_MAXSORTORDER 16
+#define CEDB_MAXSORTORDER 32
 #define CEDB_MAXSORTPROP 16
 #define CEDB_MAXPROPDATASIZE (8 * 1024)
 #define CEDB_MAXRECORDSIZE (8 * 1024)
@@ -309,6 +310,10 @@ EXTERN_C CEOID WINAPI CeCreateDatabaseEx2(PCEGUID guid, CEDBASEINFOEX* info);
 EXTERN_C HANDLE WINAPI CeOpenDatabaseEx2(PCEGUID guid, PCEOID oid, LPWSTR name,
                                          SORTORDERSPECEX* sort, DWORD flags,
                                          CENOTIFYREQUEST* request);
+// Newer volumes only; without a session every call is complete in itself.
+EXTERN_C HANDLE WINAPI CeOpenDatabaseInSession(HANDLE session, PCEGUID guid, PCEOID oid,
+                                               LPWSTR name, SORTORDERSPECEX* sort, DWORD flags,
+                                               CENOTIFYREQUEST* request);
 EXTERN_C CEOID WINAPI CeSeekDatabaseEx(HANDLE database, DWORD type, DWORD_PTR value, WORD count,
                                        LPDWORD index);
 EXTERN_C BOOL WINAPI CeOidGetInfoEx2(PCEGUID guid, CEOID oid, CEOIDINFOEX* info);

@@ -341,6 +341,7 @@ TEST_F(Databases, HaveOrdersOfSeveralKeysOnNewerDevices) {
     const NewerDatabaseFunctions& newer = GetDatabaseLayer().newer();
     if (!IsNewerPocketPc()) {
         EXPECT_TRUE(!newer.openDatabase && !newer.readRecord && !newer.seek && !newer.getInfo);
+        EXPECT_FALSE(newer.openInSession);
         return;
     }
     ASSERT_TRUE(newer.openDatabase && newer.readRecord && newer.seek && newer.getInfo);
@@ -376,6 +377,50 @@ TEST_F(Databases, HaveOrdersOfSeveralKeysOnNewerDevices) {
     EXPECT_EQ(texts({PropertyId(9, CEVT_I4), -1}), L"bcaa");
     request.name = L"missing";
     EXPECT_FALSE(GetDatabaseLayer().Open(request));
+    // Without a session only, and in no volume of the older kind.
+    ASSERT_TRUE(newer.openInSession);
+    CEGUID older;
+    ASSERT_TRUE(Mount(L"\\older.vol", CREATE_ALWAYS, older));
+    ASSERT_NE(Create(older, L"Keys"), 0u);
+    const auto errorOf = [&](HANDLE session, CEGUID& volume) {
+        CEOID found = 0;
+        wchar_t name[] = L"Keys";
+        SetLastError(ERROR_SUCCESS);
+        const DatabaseHandle database(
+            newer.openInSession(session, &volume, &found, name, nullptr, 0, nullptr));
+        return database ? 0 : GetLastError();
+    };
+    EXPECT_EQ(errorOf(nullptr, guid_), 0u);
+    EXPECT_EQ(errorOf(INVALID_HANDLE_VALUE, guid_), static_cast<DWORD>(ERROR_INVALID_HANDLE));
+    EXPECT_EQ(errorOf(nullptr, older), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
+    EXPECT_TRUE(CeUnmountDBVol(&older) && DeleteFileW(L"\\older.vol"));
+}
+
+TEST_F(Databases, HaveUpTo32OrdersOnNewerDevices) {
+    if (!IsNewerPocketPc()) return;
+    CEDBASEINFOEX info = {CEDBASEINFOEX_VERSION, 32, CEDB_VALIDNAME | CEDB_VALIDSORTSPEC, L"Many"};
+    for (WORD i = 0; i < 32; ++i) {
+        info.rgSortSpecs[i] = {SORTORDERSPECEX_VERSION, 1, 0, 0, {PropertyId(i, CEVT_I2)}};
+    }
+    CEOID oid = CeCreateDatabaseEx2(&guid_, &info);
+    ASSERT_NE(oid, 0u);
+    CEPROPVAL last = Value(PropertyId(31, CEVT_I2));
+    for (const short number : {3, 1, 2}) {
+        last.val.iVal = number;
+        ASSERT_NE(Write(Open(guid_, oid), {last}), 0u);
+    }
+    for (const DatabaseSort& sort : {DatabaseSort{0, 31}, DatabaseSort{last.propid, -1}}) {
+        DatabaseRequest request;
+        request.volume = &guid_;
+        request.name = L"many";
+        request.sort = sort;
+        std::vector<std::uint32_t> numbers;
+        ForEachRecord(GetDatabaseLayer().Open(request).get(), {last.propid},
+                      [&](CEOID, const DatabaseRecord& record) {
+                          numbers.push_back(record.Number(0).value_or(0));
+                      });
+        EXPECT_EQ(numbers, (std::vector<std::uint32_t>{1, 2, 3}));
+    }
 }
 
 }  // namespace
