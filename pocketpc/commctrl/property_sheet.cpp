@@ -202,10 +202,26 @@ class Sheet {
     static inline Sheet* innermost_ = nullptr;
 };
 
+// The device's structures end where the desktop's first ones did; here a program's header may also
+// be the desktop's whole one. That the device refuses every other size is a guess.
+bool IsSizeOfHeader(DWORD size) {
+    return size == PROPSHEETHEADERW_V1_SIZE || size == sizeof(PROPSHEETHEADERW);
+}
+
+bool IsSizeOfPage(DWORD size) {
+    return size == PROPSHEETPAGEW_V1_SIZE || size == sizeof(PROPSHEETPAGEW);
+}
+
 }  // namespace
 
+extern "C" HPROPSHEETPAGE WINAPI Pocket_CreatePropertySheetPageW(LPCPROPSHEETPAGEW page) {
+    if (page && IsSizeOfPage(page->dwSize)) return CreatePropertySheetPageW(page);
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return nullptr;
+}
+
 extern "C" INT_PTR WINAPI Pocket_PropertySheetW(LPCPROPSHEETHEADERW header) {
-    if (!header || !header->phpage || !header->nPages) {
+    if (!header || !IsSizeOfHeader(header->dwSize) || !header->phpage || !header->nPages) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return -1;
     }

@@ -331,6 +331,28 @@ class SheetTest : public ::testing::Test {
     Frame frame_;
 };
 
+TEST(Sheets, AreRefusedWithOtherSizes) {
+    PROPSHEETPAGEW page = {};
+    page.hInstance = GetModuleHandleW(nullptr);
+    page.pszTemplate = MAKEINTRESOURCEW(101);
+    HPROPSHEETPAGE pages[1] = {};
+    PROPSHEETHEADERW header = {};
+    header.phpage = pages;
+    header.nPages = 1;
+    const DWORD least = PROPSHEETPAGEW_V1_SIZE, leastHeader = PROPSHEETHEADERW_V1_SIZE;
+    for (const DWORD size : {DWORD{0}, least - 1, least, DWORD{sizeof page}, DWORD{1000}}) {
+        page.dwSize = size;
+        pages[0] = CreatePropertySheetPageW(&page);
+        EXPECT_EQ(pages[0] != nullptr, size == least || size == sizeof page) << size;
+        DestroyPropertySheetPage(pages[0]);
+    }
+    for (const DWORD size : {DWORD{0}, leastHeader - 1, leastHeader + 1, DWORD{1000}}) {
+        header.dwSize = size;
+        EXPECT_EQ(PropertySheetW(&header), -1) << size;
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER)) << size;
+    }
+}
+
 constexpr char kOpening[] = "version precreate initialized title link setactive1 ";
 
 TEST_F(SheetTest, ARefusedApplyKeepsTheSheet) {
