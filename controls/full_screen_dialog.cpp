@@ -125,7 +125,8 @@ bool FullScreenDialog::Refuse(int control, const std::wstring& reason) const {
     ComeToFront();
     MessageBoxW(IsPage() ? GetParent(hwnd()) : hwnd(), reason.c_str(),
                 GetLanguageTable().LoadString(IDS_APP_TITLE).c_str(), MB_ICONHAND);
-    SetFocus(Item(control));
+    // As by Tab, so that what a field holds is selected and typing replaces it.
+    SendMessageW(hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(control)), TRUE);
     return false;
 }
 
