@@ -65,8 +65,12 @@ LPARAM LayoutDropDown::SelectedValue() const {
 void LayoutDropDown::OnCommand(int id, int code) {
     if (id != control_) return;
     switch (code) {
-        case CBN_SELCHANGE:
-        case CBN_CLOSEUP: OnChosen(); break;
+        case CBN_SETFOCUS: before_ = selection_.offered.Active(); break;
+        case CBN_SELCHANGE: OnChosen(); break;
+        case CBN_CLOSEUP:
+            OnChosen();
+            if (SelectedValue() != kSelectLayouts) before_ = selection_.offered.Active();
+            break;
         case CBN_SELENDCANCEL: ShowActive(); break;
         case kOpenDialog:
             if (SelectedValue() == kSelectLayouts) OpenDialog();
@@ -78,6 +82,8 @@ void LayoutDropDown::OnChosen() {
     // While the list is down, its keys only move over the entries.
     if (Send(CB_GETDROPPEDSTATE)) return;
     if (SelectedValue() == kSelectLayouts) {
+        // On their way here the keys have passed "No layout", which nobody meant to choose.
+        if (!selection_.offered.Active()) selection_.offered.Activate(before_);
         // Later: the list has not done with its closing yet.
         PostMessageW(page_, WM_COMMAND, MAKEWPARAM(control_, kOpenDialog), 0);
     } else {

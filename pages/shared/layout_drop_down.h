@@ -35,4 +35,6 @@ class LayoutDropDown {
     std::wstring tab_;
     HWND page_ = nullptr;
     LayoutSelection selection_;
+    // In use before the keys set out over the entries of the closed list.
+    const KeyboardLayout* before_ = nullptr;
 };

@@ -76,7 +76,18 @@ TEST_F(Contacts, LayoutsAreChosenInTheirDialog) {
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(Stored(L"Contacts_layout_active"), 0xFFFFFFFFu);
 
-    ASSERT_TRUE(OpenDialog(OpenPage(), 3));
+    // By keys the way to the dialog leads over "No layout".
+    Put(L"Contacts_layout_active", 1);
+    page = OpenPage();
+    const HWND list = GetDlgItem(page, IDC_CONTACT_LAYOUT);
+    SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list), TRUE);
+    for (int i = 0; i < 2; ++i) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
+    dialog = program_.Sheet(L"Keyboard layouts");
+    ASSERT_TRUE(dialog);
+    ASSERT_TRUE(Ok(dialog));
+    EXPECT_EQ(Layout(page), L"Griechisch");
+
+    ASSERT_TRUE(OpenDialog(page, 3));
     EXPECT_EQ(program_.CloseAndWait(), 0u) << "stays open below the dialog";
 }
 
