@@ -92,13 +92,9 @@ void PageRows::Refresh(PageControls& controls, PageValues& values, const CDiaryS
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
         State& state = states_[i];
-        if (!HasValue(row) || (row.removedWithout && !state.present)) continue;
+        const bool kept = row.whileOff != Row::WhileOff::kShown && !state.enabled;
+        if (!HasValue(row) || kept || (row.removedWithout && !state.present)) continue;
         const std::int32_t stored = Stored(i, values, shared);
-        if (row.whileOff != Row::WhileOff::kShown && !state.enabled) {
-            state.loaded = stored;
-            state.keptChecked = stored != 0;
-            continue;
-        }
         if (stored == state.loaded || Edited(controls, i) != state.loaded) continue;
         state.loaded = stored;
         Show(controls, row, stored);

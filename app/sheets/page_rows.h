@@ -174,7 +174,8 @@ class PageRows {
 
     // Shows the stored numbers, in the order of the rows: a first read creates the value.
     void Load(PageControls& controls, PageValues& values, const CDiarySettings& shared);
-    // Shows what others have stored meanwhile, but for what the user has changed here.
+    // Shows what others have stored meanwhile, but for what the user has changed here and for boxes
+    // that are kept while off, which show nothing.
     void Refresh(PageControls& controls, PageValues& values, const CDiarySettings& shared);
     // Stores every row. An entry that the list does not have stays as it was loaded.
     void Save(const PageControls& controls, PageValues& values, CDiarySettings& shared) const;
