@@ -6,6 +6,9 @@
 // template stops there and skips those.
 #pragma once
 
+// A dialog's template for wide screens has an id that is higher by this much.
+#define IDD_WIDE 29000
+
 // Icons of the main screen; the ids are the ones the plug-in's skins and documentation know.
 #define IDI_CALENDAR 102
 #define IDI_TASKS 103

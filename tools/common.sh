@@ -7,6 +7,13 @@ fail() {
     exit 1
 }
 
+# The screens that devices had: pixels, and dots per inch.
+SCREENS=(
+    240x320@96 320x240@96 240x240@96 240x400@96 400x240@96
+    320x320@128
+    480x640@192 640x480@192 480x480@192 480x800@192 800x480@192
+)
+
 # Of Debian: what building needs, what running needs besides, what a display of our own and pictures of it need,
 # and what testing needs.
 BUILD_PACKAGES=(

@@ -30,7 +30,8 @@ class ProductKeyValues : public PageValues {
 
 OptionsPage::OptionsPage(const PageDescription& description)
     : FullScreenDialog(description.dialog, std::wstring(L"options_") + description.anchor),
-      rows_(description.rows) {}
+      rows_(description.rows),
+      fills_(description.fills) {}
 
 std::unique_ptr<OptionsPage> MakeDescribedPage(const PageDescription& description) {
     return description.make ? description.make(description)

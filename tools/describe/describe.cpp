@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "app/open_entry.h"
+#include "base/dialog_template.h"
 #include "base/owned_handle.h"
 #include "settings/diary_settings.h"
-#include "tools/describe/dialog_template.h"
 
 namespace {
 
