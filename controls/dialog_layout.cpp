@@ -1,81 +1,270 @@
 #include "controls/dialog_layout.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <numeric>
 
 namespace {
+
+using Places = std::vector<ControlPlace>;
 
 bool ShareColumn(const ControlPlace& a, const ControlPlace& b) {
     return a.left < b.right && b.left < a.right;
 }
 
-// The shown controls that fill, from the top down, with their least heights in their place.
-struct Filling {
-    std::size_t index;
-    int least;
-};
-
-std::vector<Filling> FindFilling(const std::vector<ControlPlace>& places,
-                                 std::span<const Fill> fills) {
-    std::vector<Filling> found;
-    for (const Fill& fill : fills) {
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            if (places[i].id == fill.control && places[i].shown) found.push_back({i, fill.least});
-        }
-    }
-    std::sort(found.begin(), found.end(), [&places](const Filling& a, const Filling& b) {
-        return places[a.index].top < places[b.index].top;
-    });
-    return found;
+bool ShareRow(const ControlPlace& a, const ControlPlace& b) {
+    return a.top < b.bottom && b.top < a.bottom;
 }
 
-void FitWidth(std::vector<ControlPlace>& places, const std::vector<Filling>& filling,
-              int designedRight, int extra) {
+int WidthOf(const ControlPlace& place) { return place.right - place.left; }
+int HeightOf(const ControlPlace& place) { return place.bottom - place.top; }
+
+// One run over the controls of a dialog.
+class Fitting {
+  public:
+    Fitting(Places& places, std::span<const Fill> fills, const LayoutMetrics& metrics,
+            const HeightAtWidth& heightAt)
+        : places_(places), metrics_(metrics), heightAt_(heightAt) {
+        for (const Fill& fill : fills) {
+            for (std::size_t i = 0; i < places.size(); ++i) {
+                if (places[i].id == fill.control && places[i].shown)
+                    filling_.push_back({i, fill.least});
+            }
+        }
+        FindColumns();
+    }
+
     // Who stands right of the leftmost filling control goes along with its right edge.
-    int edge = designedRight;
-    for (const Filling& fill : filling) edge = std::min(edge, places[fill.index].right);
-    for (ControlPlace& place : places) {
-        const bool moves = place.left >= edge;
-        const bool fillsToEdge = std::any_of(filling.begin(), filling.end(), [&](const Filling& f) {
-            return &places[f.index] == &place && place.right == edge;
-        });
-        if (moves) place.left += extra;
-        if (moves || fillsToEdge || place.right >= designedRight) place.right += extra;
-    }
-}
-
-void FitHeight(std::vector<ControlPlace>& places, const std::vector<Filling>& filling, int extra) {
-    const std::vector<ControlPlace> designed = places;
-    for (const Filling& fill : filling) {
-        const ControlPlace& own = designed[fill.index];
-        // Those above and below each other share what there is.
-        const auto sharers = std::count_if(
-            filling.begin(), filling.end(),
-            [&](const Filling& other) { return ShareColumn(designed[other.index], own); });
-        const int growth =
-            std::max(extra / static_cast<int>(sharers), fill.least - (own.bottom - own.top));
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            const bool below = designed[i].top >= own.bottom && ShareColumn(designed[i], own);
-            if (below) places[i].top += growth;
-            if (below || i == fill.index) places[i].bottom += growth;
+    void FitWidth(int extra) {
+        const int margin = metrics_.width - metrics_.rightMargin;
+        int edge = margin;
+        for (const Filling& fill : filling_) edge = std::min(edge, places_[fill.index].right);
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            ControlPlace& place = places_[i];
+            const bool moves = place.left >= edge;
+            const bool grows = place.right >= margin || (place.right == edge && IsFilling(i));
+            if (moves) place.left += extra;
+            if (moves || grows) place.right += extra;
         }
     }
-}
 
-int LowestEdge(const std::vector<ControlPlace>& places) {
-    int lowest = 0;
-    for (const ControlPlace& place : places) {
-        if (place.shown) lowest = std::max(lowest, place.bottom);
+    void FitTexts() {
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            if (const ControlPlace* const field = FieldOf(i); field && !Fits(places_[i])) {
+                WidenLabels(places_[i].left, field->left);
+            }
+        }
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            if (places_[i].shown && !Fits(places_[i]) && !FieldOf(i)) PushRight(i);
+        }
+        const Places before = places_;
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            ControlPlace& place = places_[i];
+            if (place.kind != ControlKind::kText || !place.shown || Fits(place)) continue;
+            place.bottom = std::max(place.bottom, place.top + heightAt_(i, WidthOf(place)));
+        }
+        MakeRoom(before);
     }
-    return lowest;
-}
+
+    void FitHeight(int height) {
+        const Places before = places_;
+        for (const Filling& fill : filling_) {
+            const ControlPlace& own = before[fill.index];
+            int lowest = 0, sharers = 0;
+            for (std::size_t i = 0; i < before.size(); ++i) {
+                if (columns_[i] == columns_[fill.index] && before[i].shown) {
+                    lowest = std::max(lowest, before[i].bottom);
+                }
+            }
+            // Those above and below each other share what there is.
+            for (const Filling& other : filling_) sharers += ShareColumn(before[other.index], own);
+            const int extra = height - metrics_.bottomMargin - lowest;
+            places_[fill.index].bottom += std::max(extra / sharers, fill.least - HeightOf(own));
+        }
+        MakeRoom(before);
+    }
+
+    int NeededHeight() const {
+        int lowest = 0;
+        for (const ControlPlace& place : places_) {
+            if (place.shown) lowest = std::max(lowest, place.bottom);
+        }
+        return lowest + metrics_.bottomMargin;
+    }
+
+  private:
+    struct Filling {
+        std::size_t index;
+        int least;
+    };
+
+    bool IsFilling(std::size_t index) const {
+        return std::any_of(filling_.begin(), filling_.end(),
+                           [index](const Filling& fill) { return fill.index == index; });
+    }
+
+    static bool Fits(const ControlPlace& place) { return place.textWidth <= WidthOf(place); }
+
+    bool StandsRightOf(const ControlPlace& a, const ControlPlace& b) const {
+        return ShareRow(a, b) && b.left >= a.right && b.left - a.right <= metrics_.labelGap;
+    }
+
+    // Controls above, below and close beside each other are of one column of the dialog.
+    void FindColumns() {
+        columns_.resize(places_.size());
+        std::iota(columns_.begin(), columns_.end(), std::size_t{0});
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            for (std::size_t j = 0; j < places_.size(); ++j) {
+                const ControlPlace &a = places_[i], &b = places_[j];
+                if (!a.shown || !b.shown || columns_[i] == columns_[j]) continue;
+                if (!ShareColumn(a, b) && !StandsRightOf(a, b)) continue;
+                std::replace(columns_.begin(), columns_.end(), std::size_t{columns_[j]},
+                             std::size_t{columns_[i]});
+            }
+        }
+    }
+
+    // What a label stands before; null when it stands alone.
+    const ControlPlace* FieldOf(std::size_t label) const {
+        if (places_[label].kind != ControlKind::kText || !places_[label].shown) return nullptr;
+        for (const ControlPlace& place : places_) {
+            if (place.kind == ControlKind::kField && StandsRightOf(places_[label], place)) {
+                return &place;
+            }
+        }
+        return nullptr;
+    }
+
+    // All labels from `left` on whose fields begin at `fieldLeft` stay in line.
+    void WidenLabels(int left, int fieldLeft) {
+        std::vector<std::size_t> labels;
+        int missing = 0;
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            const ControlPlace* const field = FieldOf(i);
+            if (!field || places_[i].left != left || field->left != fieldLeft) continue;
+            labels.push_back(i);
+            missing = std::max(missing, places_[i].textWidth - WidthOf(places_[i]));
+        }
+        const bool room = std::all_of(labels.begin(), labels.end(), [&](std::size_t label) {
+            const auto field = static_cast<std::size_t>(FieldOf(label) - places_.data());
+            return RightLimit(field) - places_[field].left - missing >= places_[field].textWidth;
+        });
+        for (const std::size_t label : labels) {
+            const auto field = static_cast<std::size_t>(FieldOf(label) - places_.data());
+            if (room) {
+                MoveBeside(label, field, missing);
+            } else if (!Fits(places_[label])) {
+                MoveBelow(label, field);
+            }
+        }
+    }
+
+    void MoveBeside(std::size_t label, std::size_t field, int by) {
+        places_[label].right += by;
+        const int limit = RightLimit(field);
+        places_[field].left += by;
+        places_[field].right = std::max(
+            places_[field].right, std::min(limit, places_[field].left + places_[field].textWidth));
+    }
+
+    void MoveBelow(std::size_t label, std::size_t field) {
+        const Places before = places_;
+        const ControlPlace old = places_[field];
+        const int top = places_[label].bottom + metrics_.lineGap;
+        for (ControlPlace& place : places_) {
+            // Such as the arrows of a number.
+            const bool follows =
+                place.left >= old.left && ShareRow(place, old) &&
+                columns_[static_cast<std::size_t>(&place - places_.data())] == columns_[field];
+            if (!follows) continue;
+            const int width = WidthOf(place), height = HeightOf(place);
+            place.left += places_[label].left - old.left;
+            place.right = place.left + width;
+            place.top += top - old.top;
+            place.bottom = place.top + height;
+        }
+        places_[label].right = std::max(places_[label].right, RightLimit(label));
+        MakeRoom(before);
+    }
+
+    int RightOfColumn(std::size_t index) const {
+        int right = places_[index].right;
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            if (columns_[i] == columns_[index] && places_[i].shown) {
+                right = std::max(right, places_[i].right);
+            }
+        }
+        return right;
+    }
+
+    // Takes what its row leaves of the column for a control that is too narrow.
+    void PushRight(std::size_t index) {
+        const ControlPlace own = places_[index];
+        int last = own.right;
+        std::vector<ControlPlace*> followers;
+        for (std::size_t i = 0; i < places_.size(); ++i) {
+            ControlPlace& place = places_[i];
+            if (!place.shown || columns_[i] != columns_[index]) continue;
+            if (!ShareRow(own, place) || place.left < own.right) continue;
+            followers.push_back(&place);
+            last = std::max(last, place.right);
+        }
+        const int by = std::min(own.textWidth - WidthOf(own), RightOfColumn(index) - last);
+        places_[index].right += by;
+        for (ControlPlace* const follower : followers) {
+            follower->left += by;
+            follower->right += by;
+        }
+    }
+
+    // How far to the right a control may reach: to the end of its column or to what is beside it.
+    int RightLimit(std::size_t index) const {
+        const ControlPlace& own = places_[index];
+        int limit = RightOfColumn(index);
+        for (const ControlPlace& other : places_) {
+            if (other.shown && ShareRow(own, other) && other.left >= own.right) {
+                limit = std::min(limit, std::max(own.right, other.left - metrics_.labelGap));
+            }
+        }
+        return limit;
+    }
+
+    // Keeps the distance to the lowest that stands above in the same column.
+    void MakeRoom(const Places& before) {
+        std::vector<std::size_t> order(places_.size());
+        std::iota(order.begin(), order.end(), std::size_t{0});
+        std::stable_sort(order.begin(), order.end(), [&before](std::size_t a, std::size_t b) {
+            return before[a].top < before[b].top;
+        });
+        for (const std::size_t own : order) {
+            int lowestBefore = -1, lowest = -1;
+            for (const std::size_t above : order) {
+                if (columns_[above] != columns_[own] || !before[above].shown) continue;
+                if (before[above].bottom > before[own].top) continue;
+                lowestBefore = std::max(lowestBefore, before[above].bottom);
+                lowest = std::max(lowest, places_[above].bottom);
+            }
+            if (lowestBefore < 0) continue;
+            // What moved by itself keeps its own way.
+            const int way = places_[own].top - before[own].top + lowest - lowestBefore;
+            places_[own].bottom += before[own].top + way - places_[own].top;
+            places_[own].top = before[own].top + way;
+        }
+    }
+
+    Places& places_;
+    const LayoutMetrics& metrics_;
+    const HeightAtWidth& heightAt_;
+    std::vector<Filling> filling_;
+    std::vector<std::size_t> columns_;  // of each control; which numbers does not matter
+};
 
 }  // namespace
 
-int FitToDialog(std::vector<ControlPlace>& places, std::span<const Fill> fills, int designedWidth,
-                int rightMargin, int bottomMargin, const LayoutSize& size) {
-    const std::vector<Filling> filling = FindFilling(places, fills);
-    FitWidth(places, filling, designedWidth - rightMargin, size.width - designedWidth);
-    FitHeight(places, filling, size.height - bottomMargin - LowestEdge(places));
-    return LowestEdge(places) + bottomMargin;
+int FitToDialog(Places& places, std::span<const Fill> fills, const LayoutMetrics& metrics,
+                int width, int height, const HeightAtWidth& heightAt) {
+    Fitting fitting(places, fills, metrics, heightAt);
+    fitting.FitWidth(width - metrics.width);
+    fitting.FitTexts();
+    fitting.FitHeight(height);
+    return fitting.NeededHeight();
 }

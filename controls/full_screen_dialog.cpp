@@ -91,18 +91,19 @@ void FullScreenDialog::InitFullScreenDialog() {
 }
 
 void FullScreenDialog::LayOut() {
+    if (!initialised_) return;
     RECT window = {};
     GetWindowRect(hwnd(), &window);
     // Without the scroll bar, which is there only where something needs it.
-    const LayoutSize size = {static_cast<int>(window.right - window.left),
-                             static_cast<int>(window.bottom - window.top)};
+    const int width = window.right - window.left;
+    const int height = window.bottom - window.top;
     if (const HWND filling = FillingControl()) {
         const int top = BandHeight() + ScaleY(kBandLine);
-        MoveWindow(filling, 0, top, size.width, size.height - top, TRUE);
+        MoveWindow(filling, 0, top, width, height - top, TRUE);
         return;
     }
     const HWND focus = GetFocus();
-    contentHeight_ = layout_.Place(size, Fills(), ScrollPosition());
+    contentHeight_ = layout_.Place(width, height, Fills(), ScrollPosition());
     UpdateScrollRange();
     if (IsChild(hwnd(), focus)) ScrollIntoView(focus);
 }
@@ -160,9 +161,7 @@ std::optional<INT_PTR> FullScreenDialog::OnMessage(UINT message, WPARAM wParam, 
     }
     switch (message) {
         case WM_PAINT: OnPaint(); return TRUE;
-        case WM_SIZE:
-            if (initialised_) LayOut();
-            return FALSE;
+        case WM_SIZE: LayOut(); return FALSE;
         case WM_VSCROLL: OnVerticalScroll(LOWORD(wParam)); return TRUE;
         case WM_HELP: ShowHelp(); return TRUE;
         case WM_COMMAND: {

@@ -52,6 +52,8 @@ class FullScreenDialog : public Dialog {
     virtual void ComeToFront() const {}
     // Opens the help at the dialog's section.
     void ShowHelp() const;
+    // Places the controls anew, after one came or went or its text became another.
+    void LayOut();
     // Scrolls until a control shows. Controls that say in WM_COMMAND that they have the focus are
     // scrolled to anyway.
     void ScrollIntoView(HWND control);
@@ -65,7 +67,6 @@ class FullScreenDialog : public Dialog {
     void FillListsFromResource();
     int BandHeight() const;  // pixels; 0 without a band
     void OnPaint();
-    void LayOut();
     void UpdateScrollRange();
     void OnVerticalScroll(int request);
     void ScrollTo(int position);

@@ -2,15 +2,19 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "app/language/module.h"
 #include "base/scale.h"
+#include "controls/control_text.h"
 #include "resources/ids.h"
 
 namespace {
 
-constexpr int kRightMargin = 5;   // dialog units
+// Dialog units: beside what reaches to the right, between a label and its field beside it and
+// below.
+constexpr int kRightMargin = 5, kLabelGap = 4, kLineGap = 1;
 constexpr int kBottomMargin = 8;  // below the last control
 
 std::optional<DialogTemplate> LoadTemplate(unsigned id) {
@@ -21,12 +25,6 @@ std::optional<DialogTemplate> LoadTemplate(unsigned id) {
         static_cast<const std::uint8_t*>(LockResource(LoadResource(library, resource)));
     if (!bytes) return {};
     return ParseDialogTemplate({bytes, SizeofResource(library, resource)});
-}
-
-bool IsOfClass(HWND hwnd, const wchar_t* name) {
-    wchar_t className[32] = {};
-    GetClassNameW(hwnd, className, 32);
-    return _wcsicmp(className, name) == 0;
 }
 
 RECT RectInDialog(HWND dialog, HWND control) {
@@ -61,30 +59,43 @@ void TemplateLayout::NoteOwnSizes() {
     }
 }
 
-int TemplateLayout::Place(const LayoutSize& size, std::span<const Fill> fills, int scrolled) const {
-    const std::optional<DialogTemplate> design = SuitableTemplate(size.width);
+int TemplateLayout::Place(int width, int height, std::span<const Fill> fills, int scrolled) const {
+    const std::optional<DialogTemplate> design = SuitableTemplate(width);
     if (!design || design->controls.size() != controls_.size()) return 0;
     std::vector<Fill> fillsInPixels(fills.begin(), fills.end());
     for (Fill& fill : fillsInPixels) {
-        fill.least = static_cast<int>(ToPixels(0, fill.least, 0, 0).top);
+        const RECT heights = ToPixels(0, fill.least, 0, fill.whole);
+        fill.least = static_cast<int>(heights.top);
+        fill.whole = static_cast<int>(heights.bottom);
     }
-    const RECT designed = ToPixels(design->width, 0, kRightMargin, 0);
+    const RECT designed = ToPixels(design->width, kLineGap, kRightMargin, 0);
+    const LayoutMetrics metrics = {
+        static_cast<int>(designed.left), static_cast<int>(designed.right), ScaleY(kBottomMargin),
+        static_cast<int>(ToPixels(kLabelGap, 0, 0, 0).left), static_cast<int>(designed.top)};
+    const auto heightAt = [this](std::size_t control, int width) {
+        return HeightAt(control, width);
+    };
     const auto fit = [&](std::vector<ControlPlace>& places, int width) {
-        return FitToDialog(places, fillsInPixels, static_cast<int>(designed.left),
-                           static_cast<int>(designed.right), ScaleY(kBottomMargin),
-                           {width, size.height});
+        return FitToDialog(places, fillsInPixels, metrics, width, height, heightAt);
     };
     const std::vector<ControlPlace> places = PlacesOf(*design);
     std::vector<ControlPlace> fitted = places;
-    int needed = fit(fitted, size.width);
-    if (needed > size.height) {
+    int needed = fit(fitted, width);
+    if (needed > height) {
         fitted = places;
-        needed = fit(fitted, size.width - GetSystemMetrics(SM_CXVSCROLL));
+        for (Fill& fill : fillsInPixels) fill.least = std::max(fill.least, fill.whole);
+        needed = fit(fitted, width - GetSystemMetrics(SM_CXVSCROLL));
     }
+    bool moved = false;
     for (std::size_t i = 0; i < controls_.size(); ++i) {
-        if (IsWindow(controls_[i].hwnd)) Move(controls_[i], fitted[i], scrolled);
+        if (IsWindow(controls_[i].hwnd) && Move(controls_[i], fitted[i], scrolled)) moved = true;
     }
+    if (moved) InvalidateRect(dialog_, nullptr, TRUE);
     return needed;
+}
+
+int TemplateLayout::HeightAt(std::size_t control, int width) const {
+    return TextHeight(controls_[control].hwnd, width);
 }
 
 std::optional<DialogTemplate> TemplateLayout::SuitableTemplate(int width) const {
@@ -113,22 +124,30 @@ std::vector<ControlPlace> TemplateLayout::PlacesOf(const DialogTemplate& design)
         place.right = static_cast<int>(rect.right + difference.right);
         place.bottom = static_cast<int>(rect.bottom + difference.bottom);
         place.shown = IsWindow(hwnd) && GetWindowLongW(hwnd, GWL_STYLE) & WS_VISIBLE;
+        if (place.shown) {
+            place.kind = KindOf(hwnd);
+            place.textWidth = TextWidth(hwnd, place.right - place.left);
+        }
         places.push_back(place);
     }
     return places;
 }
 
-void TemplateLayout::Move(const Control& control, const ControlPlace& place, int scrolled) const {
+bool TemplateLayout::Move(const Control& control, const ControlPlace& place, int scrolled) const {
+    BreakLines(control.hwnd, place.textWidth > place.right - place.left);
     const RECT wanted = {place.left, place.top - scrolled, place.right, place.bottom - scrolled};
     const RECT now = RectInDialog(dialog_, control.hwnd);
-    if (EqualRect(&now, &wanted)) return;
+    if (EqualRect(&now, &wanted)) return false;
     // What a drop-down list has lost of its height is what drops down.
     const LONG dropped = IsOfClass(control.hwnd, WC_COMBOBOXW) ? control.difference.bottom : 0;
     SetWindowPos(control.hwnd, nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
-                 wanted.bottom - dropped - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    if (!IsOfClass(control.hwnd, WC_LISTVIEWW)) return;
-    // Lists have one column.
-    RECT client;
-    GetClientRect(control.hwnd, &client);
-    SendMessageW(control.hwnd, LVM_SETCOLUMNWIDTH, 0, client.right);
+                 wanted.bottom - dropped - wanted.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+    if (IsOfClass(control.hwnd, WC_LISTVIEWW)) {
+        // Lists have one column.
+        RECT client;
+        GetClientRect(control.hwnd, &client);
+        SendMessageW(control.hwnd, LVM_SETCOLUMNWIDTH, 0, client.right);
+    }
+    return true;
 }

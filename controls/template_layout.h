@@ -20,7 +20,7 @@ class TemplateLayout {
     // Fits them into a dialog of this size that is scrolled by so many pixels. Returns the height
     // that all of them need, at the width that is left if that takes a scroll bar; 0 when the
     // template does not fit the controls.
-    int Place(const LayoutSize& size, std::span<const Fill> fills, int scrolled) const;
+    int Place(int width, int height, std::span<const Fill> fills, int scrolled) const;
 
   private:
     struct Control {
@@ -32,7 +32,9 @@ class TemplateLayout {
     std::optional<DialogTemplate> SuitableTemplate(int width) const;
     RECT ToPixels(int left, int top, int right, int bottom) const;
     std::vector<ControlPlace> PlacesOf(const DialogTemplate& design) const;
-    void Move(const Control& control, const ControlPlace& place, int scrolled) const;
+    int HeightAt(std::size_t control, int width) const;
+    // False when it stands there already.
+    bool Move(const Control& control, const ControlPlace& place, int scrolled) const;
 
     HWND dialog_ = nullptr;
     unsigned templateId_ = 0;

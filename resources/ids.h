@@ -341,7 +341,8 @@
 #define IDC_FLAG_IMPORTANCE 5533
 #define IDC_FLAG_LOW_PRIORITY 5534
 #define IDC_FLAG_NOTE 5535
-#define IDC_FLAG_PICTURES 5536
+// A flag's picture has an id that is higher by this much.
+#define FLAG_PICTURE 20
 
 // Contacts: general.
 #define IDD_CONTACTS_COMMON 2040

@@ -21,6 +21,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_TABS_UP),
     rows::Own(IDC_TABS_DOWN),
 };
+
+constexpr Fill kFills[] = {{IDC_TABS_LIST, 34}};
 constexpr int kLastTab = static_cast<int>(kDiaryTabs.size()) - 1;
 
 const DiaryTab& Tab(int index) { return kDiaryTabs[static_cast<std::size_t>(index)]; }
@@ -120,4 +122,4 @@ void GeneralTabsPage::OnSave(PageValues& values) {
 }  // namespace
 
 constexpr PageDescription kGeneralTabsPage = {IDD_GENERAL_TABS, L"general_tabs", kRows,
-                                              MakePage<GeneralTabsPage>};
+                                              MakePage<GeneralTabsPage>, kFills};

@@ -16,6 +16,8 @@ namespace {
 
 constexpr Row kRows[] = {rows::Own(IDC_NOTES_FOLDERS, settings::HiddenFolders)};
 
+constexpr Fill kFills[] = {{IDC_NOTES_FOLDERS, 34}};
+
 std::wstring LowerCase(std::wstring text) {
     CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
     return text;
@@ -111,4 +113,4 @@ void NotesFilterPage::TickSameNames(int row) {
 }  // namespace
 
 constexpr PageDescription kNotesFilterPage = {IDD_NOTES_FILTER, L"notes_filter", kRows,
-                                              MakePage<NotesFilterPage>};
+                                              MakePage<NotesFilterPage>, kFills};

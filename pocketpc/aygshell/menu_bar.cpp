@@ -71,6 +71,8 @@ class MenuBar {
         SetWindowPos(hwnd_, nullptr, 0, area.bottom, area.right, shell::BarHeight(),
                      SWP_NOZORDER | SWP_NOACTIVATE);
         InvalidateRect(hwnd_, nullptr, FALSE);
+        RECT cut;
+        if (GetWindowRgnBox(GetAncestor(parent_, GA_ROOT), &cut) != ERROR) CutFromRoot();
     }
 
     void Show(bool show) {

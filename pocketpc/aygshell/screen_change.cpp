@@ -58,7 +58,6 @@ void FollowScreen(HWND navigationBar, SIZE before) {
     EndMenu();
     Move(navigationBar, {0, 0, shell::Screen().cx, shell::BarHeight()});
     InvalidateRect(navigationBar, nullptr, FALSE);
-    PlaceMenuBars();
     std::vector<HWND> windows;
     EnumThreadWindows(GetCurrentThreadId(), AddWindow, reinterpret_cast<LPARAM>(&windows));
     std::erase_if(windows, [](HWND hwnd) {
@@ -69,6 +68,7 @@ void FollowScreen(HWND navigationBar, SIZE before) {
         EnumChildWindows(hwnd, CloseList, 0);
         Fit(hwnd, before);
     }
+    PlaceMenuBars();
     for (const HWND hwnd : windows) {
         SendMessageW(hwnd, WM_SETTINGCHANGE, shell::kScreenReset, 0);
     }

@@ -164,6 +164,7 @@ void FitToScreen(HWND hwnd) {
     const RECT work = shell::WorkArea();
     MoveWindow(itemsWindow, 0, ItemsTop(), work.right, work.bottom - ItemsTop(), TRUE);
     InvalidateRect(hwnd, nullptr, TRUE);
+    InvalidateRect(itemsWindow, nullptr, TRUE);
 }
 
 LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
