@@ -38,10 +38,9 @@ class Fitting {
         const int margin = metrics_.width - metrics_.rightMargin;
         int edge = margin;
         for (const Filling& fill : filling_) edge = std::min(edge, places_[fill.index].right);
-        for (std::size_t i = 0; i < places_.size(); ++i) {
-            ControlPlace& place = places_[i];
+        for (ControlPlace& place : places_) {
             const bool moves = place.left >= edge;
-            const bool grows = place.right >= margin || (place.right == edge && IsFilling(i));
+            const bool grows = place.right >= margin || place.right == edge;
             if (moves) place.left += extra;
             if (moves || grows) place.right += extra;
         }
@@ -96,11 +95,6 @@ class Fitting {
         std::size_t index;
         int least;
     };
-
-    bool IsFilling(std::size_t index) const {
-        return std::any_of(filling_.begin(), filling_.end(),
-                           [index](const Filling& fill) { return fill.index == index; });
-    }
 
     static bool Fits(const ControlPlace& place) { return place.textWidth <= WidthOf(place); }
 
