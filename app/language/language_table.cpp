@@ -71,6 +71,9 @@ void TranslateMenuOnce(HMENU menu, const LanguageIndex& index, std::unordered_se
     }
 }
 
+// Of a dialog that is made for its texts alone.
+INT_PTR CALLBACK IgnoreMessage(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+
 }  // namespace
 
 bool LanguageTable::Load(const std::wstring& path) {
@@ -134,8 +137,7 @@ void LanguageTable::TranslateMenu(HMENU menu) const {
 }
 
 HWND LanguageTable::createDialog(HMODULE library, unsigned id, HWND parent) const {
-    const auto ignoreMessages = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
-    return CreateDialogParamW(library, MAKEINTRESOURCEW(id), parent, ignoreMessages, 0);
+    return CreateDialogParamW(library, MAKEINTRESOURCEW(id), parent, IgnoreMessage, 0);
 }
 
 bool LanguageTable::WriteTemplate(const std::wstring& path) const {
