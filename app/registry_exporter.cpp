@@ -100,7 +100,8 @@ class Export {
 
     // Up to the first terminator, if there is one.
     std::wstring TextOf(DWORD size) const {
-        const auto* const text = reinterpret_cast<const wchar_t*>(data_.data());
+        const void* const data = data_.data();
+        const auto* const text = static_cast<const wchar_t*>(data);
         return {text, wcsnlen(text, size / sizeof(wchar_t))};
     }
 

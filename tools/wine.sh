@@ -4,7 +4,7 @@
 # A prefix takes seconds to make, so one template per density is made once and cloned. A session needs its
 # display from the start, and a server that stays, or every program would wait for the server's services.
 
-WINE_DIR=$ROOT/build/wine
+WINE_DIR=${WINE_DIR:-$ROOT/build/wine}
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=,winemenubuilder.exe=d" LC_ALL=C.UTF-8
 export FONTCONFIG_FILE=$ROOT/tools/fonts.conf
 

@@ -20,6 +20,12 @@ int CompareAs(const std::string& left, const std::string& right) {
     return a < b ? -1 : a > b ? 1 : 0;
 }
 
+// A string's bytes are aligned for units.
+const wchar_t* Units(const std::string& bytes) {
+    const void* const units = bytes.data();
+    return static_cast<const wchar_t*>(units);
+}
+
 int CompareTexts(DWORD flags, const std::string& left, const std::string& right) {
     DWORD compare = 0;
     if (flags & CEDB_SORT_CASEINSENSITIVE) compare |= NORM_IGNORECASE;
@@ -27,10 +33,8 @@ int CompareTexts(DWORD flags, const std::string& left, const std::string& right)
     if (flags & CEDB_SORT_IGNORESYMBOLS) compare |= NORM_IGNORESYMBOLS;
     if (flags & CEDB_SORT_IGNOREKANATYPE) compare |= NORM_IGNOREKANATYPE;
     if (flags & CEDB_SORT_IGNOREWIDTH) compare |= NORM_IGNOREWIDTH;
-    return CompareStringW(LOCALE_USER_DEFAULT, compare,
-                          reinterpret_cast<const wchar_t*>(left.data()),
-                          static_cast<int>(left.size() / sizeof(wchar_t)),
-                          reinterpret_cast<const wchar_t*>(right.data()),
+    return CompareStringW(LOCALE_USER_DEFAULT, compare, Units(left),
+                          static_cast<int>(left.size() / sizeof(wchar_t)), Units(right),
                           static_cast<int>(right.size() / sizeof(wchar_t))) -
            CSTR_EQUAL;
 }

@@ -7,13 +7,6 @@
 #include "pocketpc/coredll/notices.h"
 #include "pocketpc/coredll/store.h"
 
-static_assert(sizeof(SORTORDERSPECEX_CEDB) == 32 && sizeof(SORTORDERSPECEX_EDB) == 136);
-static_assert(sizeof(CEDBASEINFO) == 120);
-static_assert(sizeof(CEDBASEINFOEX_CEDB) == 220 && sizeof(CEDBASEINFOEX_EDB) == 4636);
-static_assert(sizeof(CEOIDINFOEX_EDB) == 4640);
-static_assert(offsetof(CEOIDINFOEX_CEDB, infDatabase) == 4);
-static_assert(sizeof(CENOTIFICATION) == 36);
-
 namespace {
 
 bool Refuse(DWORD error) {

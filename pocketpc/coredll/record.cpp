@@ -53,7 +53,8 @@ class Block {
 
     // Returns how many of the properties were there.
     int Write(BYTE* buffer) const {
-        const auto array = reinterpret_cast<CEPROPVAL*>(buffer);
+        void* const block = buffer;
+        const auto array = static_cast<CEPROPVAL*>(block);
         BYTE* rest = buffer + ids_.size() * sizeof(CEPROPVAL);
         int present = 0;
         for (std::size_t i = 0; i < ids_.size(); ++i) {
@@ -69,11 +70,12 @@ class Block {
                 std::memcpy(&array[i].val, bytes->data(), std::min(bytes->size(), size));
                 continue;
             }
+            void* const value = rest;
             const std::size_t room = Room(ids_[i], *bytes);
-            std::memset(rest, 0, room);
-            std::memcpy(rest, bytes->data(), bytes->size());
+            std::memset(value, 0, room);
+            std::memcpy(value, bytes->data(), bytes->size());
             if (TypeFromPropID(ids_[i]) == CEVT_LPWSTR) {
-                array[i].val.lpwstr = reinterpret_cast<LPWSTR>(rest);
+                array[i].val.lpwstr = static_cast<LPWSTR>(value);
             } else {
                 array[i].val.blob = {static_cast<DWORD>(bytes->size()), rest};
             }
