@@ -21,4 +21,7 @@ set_screen "$device" "$size"
 reg_add 'HKCU\Software\Wine\WineBrowser' Browsers REG_SZ true
 trap 'end_session; end_display; rm -rf "${WINE_DIR:?}/$name" "$device"' EXIT
 cd "$device"
-wine "$program" "$@" </dev/null
+# A program of another width than Wine's does not run and succeeds all the same.
+output=$WINE_DIR/$name/output
+wine "$program" "$@" </dev/null | tee "$output"
+[ -s "$output" ] || fail "$program printed nothing"

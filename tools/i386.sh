@@ -37,6 +37,7 @@ make_i386() {
 # From here on the Wine of wine.sh is the 32-bit one, here and in what is started from here.
 use_i386() {
     local command
+    make_i386
     mkdir -p "$I386_DIR/bin"
     for command in wine wineboot wineserver; do
         ln -sfn "$ROOT/tools/in_i386.sh" "$I386_DIR/bin/$command"

@@ -36,8 +36,8 @@ static_assert(offsetof(SHMENUBARINFO, hwndMB) == 28 && offsetof(SHMENUBARINFO, c
 static_assert(sizeof(SHINITDLGINFO) == 12 && offsetof(SHINITDLGINFO, hDlg) == 4);
 static_assert(sizeof(SHACTIVATEINFO) == 12 && offsetof(SHACTIVATEINFO, hwndLastFocus) == 4);
 
-// Common controls. Property sheets and pages have 40 bytes; the desktop's later versions have three
-// and four members more, and programs pass the size that their headers have.
+// Common controls. Property sheets and pages have 40 bytes; the desktop's have three members more,
+// and programs pass the size that their headers have.
 static_assert(END_OF(PROPSHEETHEADERW, pfnCallback) == 40);
 static_assert(offsetof(PROPSHEETHEADERW, hwndParent) == 8 &&
               offsetof(PROPSHEETHEADERW, nPages) == 24);
