@@ -22,7 +22,12 @@ BUILD_PACKAGES=(
 )
 RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
 SCREEN_PACKAGES=(xvfb imagemagick)
-TEST_PACKAGES=(xvfb g++ googletest clang clang-format libclang-rt-14-dev zip)
+TEST_PACKAGES=(
+    xvfb g++ googletest clang clang-format libclang-rt-14-dev zip
+    g++-mingw-w64-i686-posix mingw-w64-i686-dev
+)
+# What the 32-bit Debian is made with.
+I386_PACKAGES=(debootstrap)
 
 # Installs what is missing. Quick when nothing is.
 install_packages() { # PACKAGES...
