@@ -21,7 +21,7 @@ make_i386() {
     mirror=$(debian_mirror "$codename")
     [ -n "$mirror" ] || { apt-get -qq update && mirror=$(debian_mirror "$codename"); }
     [ -n "$mirror" ] || fail "The machine's package sources name no Debian $codename"
-    say "Making a 32-bit Debian with Wine in build/i386 (some minutes and 1 GB, once)"
+    say "Making a 32-bit Debian with Wine in build/i386 (some minutes and 1.5 GB, once)"
     rm -rf "$I386_DIR"
     mkdir -p "$I386_DIR"
     unshare --mount debootstrap --arch=i386 --variant=minbase \
