@@ -33,16 +33,14 @@ class Fitting {
         FindColumns();
     }
 
-    // Who stands right of the leftmost filling control goes along with its right edge.
+    // Whatever stands right of the leftmost filling control goes along with its right edge.
     void FitWidth(int extra) {
-        const int margin = metrics_.width - metrics_.rightMargin;
-        int edge = margin;
+        int edge = metrics_.width - metrics_.rightMargin;
         for (const Filling& fill : filling_) edge = std::min(edge, places_[fill.index].right);
         for (ControlPlace& place : places_) {
-            const bool grows = place.right >= margin || place.right == edge;
-            const bool moves = place.left >= edge || (grows && WidthOf(place) <= metrics_.narrow);
-            if (moves) place.left += extra;
-            if (moves || grows) place.right += extra;
+            if (place.right < edge) continue;
+            if (place.left >= edge || WidthOf(place) <= metrics_.narrow) place.left += extra;
+            place.right += extra;
         }
     }
 
@@ -209,7 +207,8 @@ class Fitting {
             followers.push_back(&place);
             last = std::max(last, place.right);
         }
-        const int by = std::min(own.textWidth - WidthOf(own), RightOfColumn(index) - last);
+        const int room = RightOfColumn(index) - last;
+        const int by = followers.empty() ? room : std::min(own.textWidth - WidthOf(own), room);
         places_[index].right += by;
         for (ControlPlace* const follower : followers) {
             follower->left += by;

@@ -65,7 +65,8 @@ class Inspection {
         if (down <= 0 && a.kind == b.kind && nearly(a.right, b.right)) {
             Report("edges", a, std::abs(a.right - b.right), &b);
         }
-        if (across <= 0 && a.kind == b.kind && nearly(a.top, b.top)) {
+        const bool alike = a.kind == b.kind && a.bottom - a.top == b.bottom - b.top;
+        if (across <= 0 && alike && nearly(a.top, b.top)) {
             Report("edges", a, std::abs(a.top - b.top), &b);
         }
     }
