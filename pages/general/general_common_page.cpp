@@ -59,8 +59,10 @@ class GeneralCommonPage : public OptionsPage {
 };
 
 void GeneralCommonPage::OnLoad(PageValues& values) {
+    const Registration registration = Registration::Probe();
     smallest_ = SmallestHeight(values.Read(settings::ShowTabs),
-                               Registration::Probe().state == Registration::kTabPerHostTab);
+                               registration.state == Registration::kTabPerHostTab);
+    const bool isKnown = !registration.unknown && !values.HasUnread();
     landscape_ = GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN);
     int shown = smallest_;
     for (const bool landscape : {false, true}) {
@@ -68,7 +70,7 @@ void GeneralCommonPage::OnLoad(PageValues& values) {
         auto height = static_cast<std::int32_t>(values.Read(setting));
         if (height < smallest_) {
             height = smallest_;
-            values.Write(setting, static_cast<std::uint32_t>(height));
+            if (isKnown) values.Write(setting, static_cast<std::uint32_t>(height));
         }
         if (landscape == landscape_) shown = height;
     }
