@@ -63,11 +63,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     void Store();
 
     PageRows rows_;
-<<<<<<< HEAD
     std::span<const Fill> fills_;
-=======
     bool ownIsUnread_ = false;         // OnLoad could not read all; then nothing of that is stored
->>>>>>> 23bca21 (Store no page's value that only stood in for one that could not be read)
     HPROPSHEETPAGE handle_ = nullptr;  // the sheet's
 };
 
