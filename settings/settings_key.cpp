@@ -71,8 +71,8 @@ bool CSettingsKey::Set(const wchar_t* name, DWORD type, const void* data, DWORD 
     return true;
 }
 
-void CSettingsKey::FillIn(const wchar_t* name, bool isMissing, DWORD type, const void* data,
-                          DWORD size) {
+void CSettingsKey::PutDefault(const wchar_t* name, bool isMissing, DWORD type, const void* data,
+                              DWORD size) {
     const auto* const bytes = static_cast<const BYTE*>(data);
     if (!isMissing) {
         StandIns()[IdOf(name)] = {bytes, bytes + size};
@@ -102,7 +102,7 @@ std::uint32_t CSettingsKey::ReadDword(const wchar_t* name, std::uint32_t default
     if (defaultValue != SETTINGS_NO_DEFAULT) {
         // What is too long for a number counts as missing.
         const bool isMissing = status == ERROR_FILE_NOT_FOUND || status == ERROR_MORE_DATA;
-        FillIn(name, isMissing, REG_DWORD, &defaultValue, sizeof defaultValue);
+        PutDefault(name, isMissing, REG_DWORD, &defaultValue, sizeof defaultValue);
     }
     return defaultValue;
 }
@@ -122,7 +122,7 @@ std::wstring CSettingsKey::ReadString(const wchar_t* name, const wchar_t* defaul
     }
     if (!IsReadableText(defaultText)) return {};
     const DWORD length = static_cast<DWORD>((wcslen(defaultText) + 1) * sizeof(wchar_t));
-    FillIn(name, status == ERROR_FILE_NOT_FOUND, REG_SZ, defaultText, length);
+    PutDefault(name, status == ERROR_FILE_NOT_FOUND, REG_SZ, defaultText, length);
     return defaultText;
 }
 

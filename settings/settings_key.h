@@ -94,7 +94,7 @@ class CSettingsKey {
     bool Set(const wchar_t* name, DWORD type, const void* data, DWORD size);
     // After a failed read: writes the default if the value is missing, else notes that it stands
     // in.
-    void FillIn(const wchar_t* name, bool isMissing, DWORD type, const void* data, DWORD size);
+    void PutDefault(const wchar_t* name, bool isMissing, DWORD type, const void* data, DWORD size);
     void ForgetStandIn(const wchar_t* name) const;
     std::wstring IdOf(const wchar_t* name) const;
 
