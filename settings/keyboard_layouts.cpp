@@ -121,7 +121,7 @@ OfferedLayouts KeyboardLayouts::LoadOffered(const std::wstring& tab) {
         key.ReadDword(activeOf.c_str(), settings::TabLayoutActive.defaultValue));
     OfferedLayouts offered = OfferedLayouts::Parse(
         names, active, [this](const std::wstring& name) { return Find(name); });
-    if (hasUnread_) {
+    if (hasUnread_ || key.HasUnread()) {
         partlyLoaded_.insert(tab);
     } else {
         partlyLoaded_.erase(tab);
