@@ -75,6 +75,8 @@ void Compare(const std::map<std::wstring, std::string>& before,
         const bool isNew = !before.contains(path) && !then.contains(path);
         if (isNew && path.find(L".") == std::wstring::npos) continue;
         if (path.ends_with(L".bmp") && IsIcon(bytes)) continue;
+        // The keys choose a colour beside the one there was, as far as that could be read.
+        if (path.find(L"\\Colors\\") != std::wstring::npos) continue;
         std::string hex;
         for (const unsigned char c : bytes.substr(0, 24)) {
             hex += "0123456789ABCDEF"[c >> 4];

@@ -116,6 +116,7 @@ TEST_P(Leaks, NothingGrowsAfterTheTenthTime) {
         ASSERT_TRUE(step.run(program, [] {}).closed);
         const bool isLast = round > rounds - kCounted;
         if (!isLast && (round > 10 || round <= 10 - kCounted)) continue;
+        Draw(program.Main());
         const Figures now = Count(program.id());
         if (round == 10) freeObjects = FreeUserObjects();
         for (int i = 0; i < kFigureCount; ++i) {

@@ -17,8 +17,9 @@ using Storing = std::function<void()>;
 
 const std::wstring kInstall = kInstallFolder;
 
-void Draw(HWND window) {
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+BOOL CALLBACK Paint(HWND window, LPARAM) {
+    if (IsWindowVisible(window)) SendMessageW(window, WM_PAINT, 0, 0);
+    return TRUE;
 }
 
 void Change(HWND page, const PageRow& row) {
@@ -205,6 +206,12 @@ void StoreOtherThanDefaults() {
 }
 
 }  // namespace
+
+void Draw(HWND window) {
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    Paint(window, 0);
+    EnumChildWindows(window, Paint, 0);
+}
 
 std::span<const Step> Steps() {
     static const Step steps[] = {

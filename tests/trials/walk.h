@@ -23,6 +23,9 @@ struct Step {
 
 std::span<const Step> Steps();
 
+// Has a window with all in it painted, at once.
+void Draw(HWND window);
+
 // Gives the device settings that differ from their defaults, an icon to be replaced, and for the
 // import a file of other settings.
 Holdings Prepared(const Step& step);
