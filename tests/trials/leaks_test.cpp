@@ -8,6 +8,7 @@
 #include <array>
 #include <climits>
 #include <cstdlib>
+#include <cstring>
 
 #include "tests/trials/walk.h"
 #include "tests/ui/device.h"
@@ -73,11 +74,12 @@ int HandlesOf(DWORD process) {
                                  static_cast<ULONG>(buffer.size()), nullptr)) {
         return -1;
     }
-    for (const BYTE* at = buffer.data();;) {
-        const auto* const info = reinterpret_cast<const SYSTEM_PROCESS_INFORMATION*>(at);
-        if (reinterpret_cast<ULONG_PTR>(info->UniqueProcessId) == process) return info->HandleCount;
-        if (!info->NextEntryOffset) return -1;
-        at += info->NextEntryOffset;
+    for (std::size_t at = 0;;) {
+        SYSTEM_PROCESS_INFORMATION info;
+        std::memcpy(&info, buffer.data() + at, sizeof info);
+        if (reinterpret_cast<ULONG_PTR>(info.UniqueProcessId) == process) return info.HandleCount;
+        if (!info.NextEntryOffset) return -1;
+        at += info.NextEntryOffset;
     }
 }
 
