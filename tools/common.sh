@@ -14,6 +14,22 @@ SCREENS=(
     480x640@192 640x480@192 480x480@192 480x800@192 800x480@192
 )
 
+# Of some screens those of a density, without it.
+sizes_at() { # DPI SCREENS...
+    local dpi=$1 screen
+    shift
+    for screen in "$@"; do [ "${screen#*@}" != "$dpi" ] || printf '%s ' "${screen%@*}"; done
+}
+
+# The smallest display that has room for each of some screens.
+room_for() { # WIDTHxHEIGHT...
+    local size side longest=0
+    for size in "$@"; do
+        for side in "${size%x*}" "${size#*x}"; do [ "$side" -le $longest ] || longest=$side; done
+    done
+    echo "${longest}x$longest"
+}
+
 # Of Debian: what building needs, what running needs besides, what a display of our own and pictures of it need,
 # and what testing needs.
 BUILD_PACKAGES=(

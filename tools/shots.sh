@@ -144,11 +144,10 @@ run_gallery() { # OUTPUT
 }
 
 take_gallery() { # OUTPUT LANGUAGE FILE SCREENS...
-    local output=$1 language=$2 file=$3 dpi screen sizes
+    local output=$1 language=$2 file=$3 dpi sizes
     shift 3
     for dpi in 96 128 192; do
-        sizes=()
-        for screen in "$@"; do [ "${screen#*@}" != "$dpi" ] || sizes+=("${screen%@*}"); done
+        read -ra sizes <<<"$(sizes_at "$dpi" "$@")"
         [ ${#sizes[@]} -gt 0 ] || continue
         say "Taking pictures in the language $language at $dpi dots per inch: ${sizes[*]}"
         open_stage gallery "$dpi" "$(room_for "${sizes[@]}")"
@@ -158,13 +157,4 @@ take_gallery() { # OUTPUT LANGUAGE FILE SCREENS...
             fail "Not every page could be opened"
         close_stage
     done
-}
-
-# The smallest display that has room for each of some screens.
-room_for() { # WIDTHxHEIGHT...
-    local size side longest=0
-    for size in "$@"; do
-        for side in "${size%x*}" "${size#*x}"; do [ "$side" -le $longest ] || longest=$side; done
-    done
-    echo "${longest}x$longest"
 }
