@@ -3,12 +3,5 @@
 #
 # usage: describe_program.sh settings | pages | check
 set -euo pipefail
-ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-. "$ROOT/tools/common.sh"
-. "$ROOT/tools/wine.sh"
-make_template
-clone_prefix "$WINE_DIR/template-96" "$WINE_DIR/describe-$$"
-export WINEPREFIX=$WINE_DIR/describe-$$
-trap 'quietly wineserver -k; rm -rf "${WINEPREFIX:?}"' EXIT
-cd "$ROOT/build/windows/bin"
-wine describe.exe "$@" </dev/null 2>/dev/null | tr -d '\r'
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+tools/with_wine.sh wine build/windows/bin/describe.exe "$@" 2>/dev/null | tr -d '\r'

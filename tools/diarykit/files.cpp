@@ -1,0 +1,44 @@
+#include "tools/diarykit/files.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+std::filesystem::path PathOf(const std::string& utf8) {
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+}  // namespace
+
+std::vector<std::uint8_t> ReadInput(const std::string& path) {
+    // A folder opens, too, on some systems.
+    std::error_code error;
+    const bool isFile = std::filesystem::is_regular_file(PathOf(path), error);
+    std::ifstream file(PathOf(path), std::ios::binary);
+    if (!isFile || !file) throw UseError(path + ": cannot be read");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteOutput(const std::string& path, std::span<const std::uint8_t> bytes) {
+    if (path.empty()) {
+        std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+        return;
+    }
+    std::ofstream file(PathOf(path), std::ios::binary | std::ios::trunc);
+    file.write(reinterpret_cast<const char*>(bytes.data()),
+               static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) throw UseError(path + ": cannot be written");
+}
+
+std::vector<std::uint8_t> Utf16File(std::wstring_view text) {
+    std::vector<std::uint8_t> bytes = {0xFF, 0xFE};
+    for (const wchar_t unit : text) {
+        bytes.push_back(static_cast<std::uint8_t>(unit));
+        bytes.push_back(static_cast<std::uint8_t>(unit >> 8));
+    }
+    return bytes;
+}

@@ -1,0 +1,30 @@
+#include "tools/diarykit/kit.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+
+#include "tools/diarykit/commands.h"
+#include "tools/diarykit/files.h"
+
+int RunKit(const std::vector<std::string>& arguments) {
+    int exitCode = kFine;
+    CLI::App kit("Looks into the files of Lum Diary Settings, checks and makes them.", "diarykit");
+    kit.footer("Exit codes: 0 fine, 1 found something, 2 wrong use.");
+    kit.require_subcommand(1);
+
+    CLI::App* const language = kit.add_subcommand("language", "Language files, for translators");
+    language->require_subcommand(1);
+    AddLanguagePseudo(*language, exitCode);
+
+    try {
+        std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+        kit.parse(reversed);
+    } catch (const CLI::ParseError& error) {
+        return kit.exit(error) == 0 ? kFine : kWrongUse;
+    } catch (const UseError& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return kWrongUse;
+    }
+    return exitCode;
+}

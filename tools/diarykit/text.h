@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Texts of the program are UTF-16 units, one in each wchar_t however wide that is; everything that
+// is said or named on the command line is UTF-8. What is no character becomes U+FFFD.
+std::string ToUtf8(std::wstring_view units);
+std::wstring FromUtf8(std::string_view text);
+
+// In one line and in quotes, with what would break it escaped.
+std::string Quoted(std::wstring_view units);
