@@ -66,11 +66,11 @@ Shown ShownOf(HMODULE library, const PageDescription& page, const Row& row) {
 
 // What a control is called on its page: its own text or that of the label before it.
 std::wstring LabelOf(const DialogTemplate& dialog, int id) {
-    constexpr wchar_t kButton[] = L"#0080", kNamedButton[] = L"Button", kStatic[] = L"#0082";
+    constexpr wchar_t kButton[] = L"button", kStatic[] = L"#0082";
     const auto control = std::find_if(dialog.controls.begin(), dialog.controls.end(),
                                       [id](const auto& c) { return static_cast<int>(c.id) == id; });
     if (control == dialog.controls.end()) return {};
-    if (control->className == kButton || control->className == kNamedButton) return control->text;
+    if (!_wcsicmp(control->className.c_str(), kButton)) return control->text;
     if (control == dialog.controls.begin() || (control - 1)->className != kStatic) return {};
     std::wstring label = (control - 1)->text;
     while (label.ends_with(L':')) label.pop_back();
