@@ -3,7 +3,9 @@
 
 usage: diarykit_test.py COMMAND...    the tool, natively or through Wine
 """
+import json
 import os
+import struct
 import subprocess
 import sys
 import tempfile
@@ -14,6 +16,30 @@ TOOL = []
 
 def utf16(text):
     return b"\xff\xfe" + text.encode("utf-16-le", "surrogatepass")
+
+
+PRODUCT = "\\Software\\Lum Software House\\Lum Diary"
+
+
+def counted(text):
+    data = text.encode("utf-16-le")
+    return struct.pack("<I", len(data)) + data
+
+
+def value(name, data):
+    """A record: of a number, a text, or bytes."""
+    kind = {int: 4, str: 1, bytes: 3}[type(data)]
+    stored = {int: lambda: struct.pack("<I", data), str: lambda: counted(data),
+              bytes: lambda: struct.pack("<I", len(data)) + data if data else b""}[type(data)]()
+    return struct.pack("<I", 4) + counted(name) + struct.pack("<I", kind) + stored
+
+
+def key(name, *records):
+    return struct.pack("<I", 2) + counted(name) + b"".join(records) + struct.pack("<I", 3)
+
+
+def dias(*records, root=0x80000002, path=PRODUCT):
+    return struct.pack("<II", 0, root) + counted(path) + key("", *records) + struct.pack("<I", 1)
 
 
 class KitTest(unittest.TestCase):
@@ -56,6 +82,100 @@ class Use(KitTest):
         name = self.put("přehled Ωψ.txt", utf16("Up|\r\n"))
         self.assertEqual(self.run_kit("language", "pseudo", name, "-o", "из.txt")[0], 0)
         self.assertEqual(self.get("из.txt"), utf16("Up|[Ûp]\r\n"))
+
+
+FULL = "HKEY_LOCAL_MACHINE" + PRODUCT
+
+
+class Settings(KitTest):
+    EVERYTHING = (value("CalendarPeriod", 7), value("App_SubjectStyle", 3), value("SkinName", "Ω \"a\\b\"\n𝄞"),
+                  key("Filters", value("HiddenFolders", "")), key("Layouts", value("Mine", "labc(abc)")),
+                  key("MailFilters", value("none", b""), value("", bytes(range(60)))))
+
+    def test_show_tells_what_is_known(self):
+        self.put("a.dias", dias(*self.EVERYTHING, value("Mystery", b"\x01\xfe")))
+        self.check(0, [
+            FULL,
+            '  CalendarPeriod = 7  ["7"; "Days shown"; on calendar_common; default 7]',
+            '  App_SubjectStyle = 3  ["Before the subject"; "Time"; on calendar_titles; default 3]',
+            '  SkinName = "Ω "a\\b"\\n𝄞"  ["Skin"; on general_skins; default "NewStyle"]',
+            "  Mystery = 2 bytes 01 FE",
+            FULL + "\\Filters", '  HiddenFolders = ""  ["Folders to show"; on notes_filter; default ""]',
+            FULL + "\\Layouts", '  Mine = "labc(abc)"',
+            FULL + "\\MailFilters", "  none = 0 bytes",
+            "   = 60 bytes " + " ".join(f"{byte:02X}" for byte in range(60)),
+        ], "settings", "show", "a.dias")
+        self.put("cut.dias", dias(*self.EVERYTHING)[:200])
+        code, text = self.run_kit("settings", "show", "--json", "cut.dias")
+        shown = json.loads(text)
+        self.assertEqual((code, shown["whole"], shown["values"][0]), (1, False, {
+            "key": FULL, "name": "CalendarPeriod", "type": "number", "value": 7, "default": "7",
+            "pages": ["calendar_common"], "label": "Days shown", "shown": "7"}))
+
+    def test_check_finds_what_is_odd(self):
+        sound = dias(*self.EVERYTHING[:-1], value("Notes_layouts", "Latin"), value("calendarperiod", 90))
+        elsewhere = "writes outside the diary's own key: "
+        for data, *findings in (
+                (sound,), (dias(key("Lum Diary", value("OneClick", 0)), path="Software\\Lum Software House"),),
+                (sound[:-4], "cannot be read to its end"), (b"", "cannot be read to its end"),
+                (dias(value("x", 1), path="\\Software"), elsewhere + "HKEY_LOCAL_MACHINE\\Software with 1 values"),
+                (dias(key("Run"), root=0x80000001),
+                 elsewhere + "HKEY_CURRENT_USER" + PRODUCT + " with 0 values",
+                 elsewhere + "HKEY_CURRENT_USER" + PRODUCT + "\\Run with 0 values"),
+                (dias(value("Odd", 1), key("Old", value("a", 1))),
+                 "the program has no value Odd", 'the program has no key "Old"'),
+                (dias(value("OneClick", 9), value("AllTabsInShell", 2), value("CalendarPeriod", "7")),
+                 "OneClick is 9, which the list on its page does not have (page general_group_style)",
+                 "AllTabsInShell is 2, but stands for a check box, which stores 0 or 1 (page general_tabs)",
+                 "CalendarPeriod is of the type text, not number"),
+                (dias(key("Layouts", value("Bad", "labc()")), key("MailFilters", value("Bad", b"\1")),
+                      key("IconSets", value("6", "x")), key("Colors", value("Work", ""))),
+                 'Layouts\\Bad is no keyboard layout: "labc()"', "MailFilters\\Bad is no filter of mail folders",
+                 "the program has no value IconSets\\6", "Colors\\Work is of the type text, not number")):
+            self.put("a.dias", data)
+            self.check(1 if findings else 0, ["a.dias: " + finding for finding in findings], "settings", "check", "a.dias")
+
+    def test_diff_compares_whatever_the_order(self):
+        self.put("a", dias(value("A", 1), value("B", "x"), key("K", value("C", b"\1"))))
+        self.put("b", dias(key("k", value("c", b"\1")), value("b", 5), value("D", 0), value("a", 1)))
+        self.check(1, [f'-{FULL}\\B = "x"', f"+{FULL}\\B = 5", f"+{FULL}\\D = 0"], "settings", "diff", "a", "b")
+        self.check(0, [], "settings", "diff", "a", "a")
+
+    def test_reg_files_carry_everything_both_ways(self):
+        self.put("a.dias", dias(*self.EVERYTHING))
+        device = "HKEY_CURRENT_USER\\Software\\PocketPC Devices\\Default"
+        for under in ([], ["--under", device]):
+            self.assertEqual(self.run_kit("settings", "to-reg", "a.dias", "-o", "a.reg", *under)[0], 0)
+            self.assertEqual(self.run_kit("settings", "from-reg", "a.reg", *under), (0, self.get("a.dias")))
+        self.assertEqual(self.run_kit("settings", "from-reg", "a.reg")[1][4:8], b"\1\0\0\x80")
+        text = self.get("a.reg").decode("utf-16")
+        for part in ("Windows Registry Editor Version 5.00\r\n\r\n[" + device + "\\" + FULL + "]\r\n",
+                     '"CalendarPeriod"=dword:00000007\r\n', '"none"=hex:\r\n', "@=hex:00,01", ",17,\\\r\n  18,",
+                     '"SkinName"=hex(1):a9,03,20,00'):
+            self.assertIn(part, text)
+
+    def test_reg_files_of_others(self):
+        head = "Windows Registry Editor Version 5.00\r\n"
+        self.put("a.reg", ("REGEDIT4\n; a comment\n[HKEY_LOCAL_MACHINE\\A\\B\\D]\n \"n\" = dword:Ff\n"
+                           "[hkey_local_machine\\a\\C]\n\"é\\\"\"=hex(3):0a,\\ \n b\n\"t\"=\"x\ny\"\n").encode())
+        self.assertEqual(self.run_kit("settings", "from-reg", "a.reg"), (0, dias(
+            key("B", key("D", value("n", 255))), key("C", value('é"', b"\x0a\x0b"), value("t", "x\ny")), path="\\A")))
+        for text, line, fault in (
+                ("[x]\n", 1, 'does not begin with "Windows Registry Editor Version 5.00"'),
+                (head, 2, "names no key"), (head + '"a"="b"\n', 2, "stands before the first key"),
+                (head + "[HKLM\\x]\n", 2, "does not begin with the name of a root key"),
+                (head + "[HKEY_USERS\\x\n", 2, "a key's name ends with ]"),
+                (head + "[-HKEY_USERS\\x]\n", 2, "a settings file cannot delete keys"),
+                (head + "[HKEY_USERS]\n[HKEY_CURRENT_USER]\n", 3, "a settings file has one root key"),
+                (head + '[HKEY_USERS]\n"a"=-\n', 3, "a settings file cannot delete values"),
+                (head + '[HKEY_USERS]\n"a"=hex(7):00,00\n', 3, "a settings file cannot hold this type"),
+                (head + '[HKEY_USERS]\n"a"=hex:0,100\n', 3, "hex: wants bytes of two digits, with commas between"),
+                (head + '[HKEY_USERS]\n"a"=dword:\n', 3, "dword: wants up to eight digits"),
+                (head + '[HKEY_USERS]\n"a\n', 3, "a name without an end")):
+            self.put("a.reg", text.encode())
+            self.check(1, [f"a.reg:{line}: {fault}"], "settings", "from-reg", "a.reg")
+        self.put("a.dias", dias(root=7))
+        self.check(1, ["a.dias: has keys whose names a .reg file cannot hold"], "settings", "to-reg", "a.dias")
 
 
 class LanguagePseudo(KitTest):

@@ -13,6 +13,14 @@ int RunKit(const std::vector<std::string>& arguments) {
     kit.footer("Exit codes: 0 fine, 1 found something, 2 wrong use.");
     kit.require_subcommand(1);
 
+    CLI::App* const settings = kit.add_subcommand("settings", "Settings files (.dias)");
+    settings->require_subcommand(1);
+    AddSettingsShow(*settings, exitCode);
+    AddSettingsDiff(*settings, exitCode);
+    AddSettingsCheck(*settings, exitCode);
+    AddSettingsToReg(*settings, exitCode);
+    AddSettingsFromReg(*settings, exitCode);
+
     CLI::App* const language = kit.add_subcommand("language", "Language files, for translators");
     language->require_subcommand(1);
     AddLanguagePseudo(*language, exitCode);

@@ -83,7 +83,7 @@ std::wstring FromUtf8(std::string_view text) {
     return units;
 }
 
-std::string Quoted(std::wstring_view units) {
+std::string Plain(std::wstring_view units) {
     constexpr wchar_t kFirstShown = L' ';
     std::wstring shown;
     for (const wchar_t c : units) {
@@ -97,5 +97,7 @@ std::string Quoted(std::wstring_view units) {
             shown += c;
         }
     }
-    return "\"" + ToUtf8(shown) + "\"";
+    return ToUtf8(shown);
 }
+
+std::string Quoted(std::wstring_view units) { return '"' + Plain(units) + '"'; }

@@ -8,5 +8,7 @@
 std::string ToUtf8(std::wstring_view units);
 std::wstring FromUtf8(std::string_view text);
 
-// In one line and in quotes, with what would break it escaped.
+// In one line: what would break it is escaped.
+std::string Plain(std::wstring_view units);
+// Likewise, in quotes.
 std::string Quoted(std::wstring_view units);
