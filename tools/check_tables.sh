@@ -12,5 +12,6 @@ while read -r what file; do
 done <<'END'
 settings docs/settings.md
 values tools/diarykit/known_values.inc
+widths tools/diarykit/font_widths.inc
 END
 exit $wrong

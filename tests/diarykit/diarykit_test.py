@@ -2,6 +2,8 @@
 """Runs diarykit on files made here, sound and broken ones, and compares what it says and does.
 
 usage: diarykit_test.py COMMAND...    the tool, natively or through Wine
+
+DIARY_LIBRARY names the program's DiaryRes.Dll where that is built.
 """
 import json
 import os
@@ -12,6 +14,7 @@ import tempfile
 import unittest
 
 TOOL = []
+LIBRARY = os.environ.get("DIARY_LIBRARY")
 
 
 def utf16(text):
@@ -176,6 +179,68 @@ class Settings(KitTest):
             self.check(1, [f"a.reg:{line}: {fault}"], "settings", "from-reg", "a.reg")
         self.put("a.dias", dias(root=7))
         self.check(1, ["a.dias: has keys whose names a .reg file cannot hold"], "settings", "to-reg", "a.dias")
+
+
+class Language(KitTest):
+    TEMPLATE = utf16("$$$$$$$$ NEW FILE $$$$$$$\r\nUp|\r\n8|\r\n%s has no %s|\r\nA\\nB|\r\nC\\|D|\r\n")
+
+    def test_check_says_line_by_line_what_is_wrong(self):
+        self.put("t", self.TEMPLATE)
+        good = "Up|Auf\r\n8|\r\n%s has no %s|In %s fehlt %s\r\nA\\nB|a\\nb\r\nC\\|D|c\\|d\r\n"
+        differ = " and its translation differ in what begins with % or in \\n"
+        for text, *findings in (
+                (good,), (good + "$$$$$$$$ GONE $$$$$$$|\r\nOld|Alt\r\n",),
+                (good.replace("Auf", ""), ':1: "Up" has no translation'),
+                (good.replace("Auf", "Auf|x"), ":1: more than one bar; a bar in a text is written \\|"),
+                (good + "Up|Hoch\nOld|Alt\n", ':6: "Up" stands in line 1 already, which counts',
+                 ':7: the program has no text "Old"'),
+                (good.replace("In %s fehlt %s", "%s%d"), ':3: "%s has no %s"' + differ),
+                (good.replace("a\\nb", "ab"), ':4: "A\\nB"' + differ),
+                (good.replace("Auf", "A" * 4100), ":1: longer than 4094 characters"),
+                (good.replace("Up|Auf\r\n", ""), ': "Up" is missing')):
+            self.put("de", utf16(text))
+            self.check(1 if findings else 0, ["de" + finding for finding in findings] +
+                       [f"4 texts, {len(findings)} wrong"], "language", "check", "t", "de")
+        self.put("de", good.encode())
+        self.check(1, ["de: not UTF-16 with a byte-order mark", "4 texts, 1 wrong"], "language", "check", "t", "de")
+        self.put("de", utf16(good) + b"\0\0x\0")
+        self.check(1, ["de: a NUL ends it early; what follows is not read", "4 texts, 1 wrong"],
+                   "language", "check", "t", "de")
+        self.assertEqual(self.run_kit("language", "check", "t", "t")[0], 1)
+        self.assertEqual(self.run_kit("language", "check", self.put("e", utf16("8|\n")), "t")[0], 2)
+
+    def test_update_keeps_adds_and_marks(self):
+        self.put("t", self.TEMPLATE)
+        self.put("de", utf16("Up|Auf\r\nOld|Alt\r\nC\\|D|c\\|d|\r\nUp|Hoch\r\nNever|\r\n8|\r\n"))
+        updated = utf16("Up|Auf\r\n8|\r\n%s has no %s|\r\nA\\nB|\r\nC\\|D|c\\|d\r\n"
+                        "$$$$$$$$ GONE $$$$$$$|\r\nOld|Alt\r\n")
+        self.assertEqual(self.run_kit("language", "update", "de", "t"), (0, updated))
+        self.assertEqual(self.run_kit("language", "update", self.put("n", updated), "t"), (0, updated))
+        self.put("t", utf16("Old|\r\n"))
+        self.assertEqual(self.run_kit("language", "update", "n", "t")[1].decode("utf-16").splitlines()[0], "Old|Alt")
+
+    @unittest.skipUnless(LIBRARY, "needs DiaryRes.Dll")
+    def test_check_knows_where_texts_are_shown_and_what_fits(self):
+        texts = ("Overdue tasks", "Move up", "Tap:", "Week of January 1", "On due date", "About", "Export...",
+                 "Sets up the diary on your Today screen: what its tabs show, and how they look.")
+        self.put("t", utf16("".join(text + "|\r\n" for text in texts)))
+
+        def checked(*translations):
+            self.put("l", utf16("".join(f"{a}|{b}\r\n" for a, b in zip(texts, translations))))
+            return self.run_kit("language", "check", "--library", LIBRARY, "t", "l")[1].decode().splitlines()
+
+        self.assertEqual(checked(*texts), ["8 texts, 0 wrong"])
+        found = checked("i" * 70, "M" * 8, "Double-clic:", "Semaine du premier janvier", "À l’échéance de la tâche", "M" * 99,
+                        "M" * 99, "mot " * 45)
+        places = ("check box on page calendar_tasks", "button on page general_tabs", "label on page general_group_style",
+                  "list entry on page calendar_common", "list entry on page calendar_tasks")
+        self.assertEqual(len(found), 7)
+        for number, (line, place) in enumerate(zip(found, places), 1):
+            self.assertRegex(line, rf"^l:{number}: .* does not fit its {place}, by \d+ pixels? at (96|192) dpi$")
+        self.assertRegex(found[5], r"^l:8: .* does not fit its label on dialog \"About\", by 17 pixels at 96")
+        self.check(0, ['l:1: "Overdue tasks": check box on page calendar_tasks'],
+                   "language", "check", "--library", LIBRARY, "t", "l", "--line", "1")
+        self.assertEqual(self.run_kit("language", "check", "--library", "t", "t", "l")[0], 2)
 
 
 class LanguagePseudo(KitTest):

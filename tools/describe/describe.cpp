@@ -3,6 +3,7 @@
 //
 // usage: describe settings   docs/settings.md: every value, its default, the pages that edit it
 //        describe values     tools/diarykit/known_values.inc: what pages show of each value
+//        describe widths     tools/diarykit/font_widths.inc: the letters of the dialogs' font
 //        describe pages      a line for each page: entry, page, how it is reached, its anchor
 //        describe check      what the tables lack beside DiaryRes.Dll in the same folder
 #include <windows.h>
@@ -16,6 +17,7 @@
 #include "app/open_entry.h"
 #include "base/owned_handle.h"
 #include "tools/describe/describe_values.h"
+#include "tools/describe/describe_widths.h"
 #include "tools/describe/dialog_template.h"
 #include "tools/describe/page_tables.h"
 
@@ -153,12 +155,14 @@ int main(int count, char** arguments) {
         PrintSettings();
     } else if (what == "values") {
         PrintValues(library.get());
+    } else if (what == "widths") {
+        PrintWidths();
     } else if (what == "pages") {
         PrintPages();
     } else if (what == "check") {
         return Check(library.get());
     } else {
-        std::fprintf(stderr, "usage: describe settings | values | pages | check\n");
+        std::fprintf(stderr, "usage: describe settings | values | widths | pages | check\n");
         return 2;
     }
     return 0;

@@ -81,9 +81,11 @@ std::wstring LabelOf(const DialogTemplate& dialog, int id) {
 
 void PrintValues(HMODULE library) {
     std::printf(
-        "// What pages show of each value: the value, the page's anchor, how, and under which\n"
-        "// label; behind it the entries of a list, each with its number. Written by\n"
-        "// tools/describe_program.sh values.\n\n");
+        "// What pages show of each value: the value, the page's anchor, how, under which label, "
+        "and\n"
+        "// the ids of template and control; behind it the entries of a list, each with its "
+        "number.\n"
+        "// Written by tools/describe_program.sh values.\n\n");
     for (const PageDescription* page : AllPages()) {
         const auto dialog = TemplateOf(library, page->dialog);
         std::wstring previous;
@@ -99,8 +101,9 @@ void PrintValues(HMODULE library) {
                 dialog && sharing == 1 ? LabelOf(*dialog, row.control) : std::wstring();
             std::wstring escaped;
             for (const wchar_t c : value) escaped += c == L'\\' ? L"\\\\" : std::wstring(1, c);
-            std::printf("ROW(L\"%s\", \"%s\", %s, \"%s\")\n", Narrow(escaped).c_str(),
-                        Narrow(page->anchor).c_str(), shown.kind, Narrow(label).c_str());
+            std::printf("ROW(L\"%s\", \"%s\", %s, \"%s\", %u, %d)\n", Narrow(escaped).c_str(),
+                        Narrow(page->anchor).c_str(), shown.kind, Narrow(label).c_str(),
+                        page->dialog, row.control);
             for (const auto& [number, text] : shown.entries) {
                 std::printf("ENTRY(%ld, \"%s\")\n", number, Narrow(text).c_str());
             }

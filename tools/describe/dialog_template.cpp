@@ -51,7 +51,9 @@ std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::uint8_t> 
         Align(reader);
         reader.Take(8);
         control.style = reader.TakeNumber();
-        reader.Take(8);
+        reader.Take(4);
+        control.width = reader.TakeNumber(2);
+        control.height = reader.TakeNumber(2);
         control.id = reader.TakeNumber();
         control.className = TakeName(reader);
         control.text = TakeName(reader);

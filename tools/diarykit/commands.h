@@ -11,4 +11,6 @@ void AddSettingsDiff(CLI::App& settings, int& exitCode);
 void AddSettingsCheck(CLI::App& settings, int& exitCode);
 void AddSettingsToReg(CLI::App& settings, int& exitCode);
 void AddSettingsFromReg(CLI::App& settings, int& exitCode);
+void AddLanguageCheck(CLI::App& language, int& exitCode);
+void AddLanguageUpdate(CLI::App& language, int& exitCode);
 void AddLanguagePseudo(CLI::App& language, int& exitCode);

@@ -13,12 +13,20 @@ std::filesystem::path PathOf(const std::string& utf8) {
 
 }  // namespace
 
-std::vector<std::uint8_t> ReadInput(const std::string& path) {
-    // A folder opens, too, on some systems.
+bool IsFile(const std::string& path) {
     std::error_code error;
-    const bool isFile = std::filesystem::is_regular_file(PathOf(path), error);
+    return std::filesystem::is_regular_file(PathOf(path), error);
+}
+
+std::string BesideFile(const std::string& path, const std::string& name) {
+    const std::u8string beside = PathOf(path).replace_filename(PathOf(name)).u8string();
+    return {beside.begin(), beside.end()};
+}
+
+std::vector<std::uint8_t> ReadInput(const std::string& path) {
     std::ifstream file(PathOf(path), std::ios::binary);
-    if (!isFile || !file) throw UseError(path + ": cannot be read");
+    // A folder opens, too, on some systems.
+    if (!IsFile(path) || !file) throw UseError(path + ": cannot be read");
     return {std::istreambuf_iterator<char>(file), {}};
 }
 

@@ -12,6 +12,10 @@ struct UseError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+bool IsFile(const std::string& path);
+// The path of a file in the folder of another one.
+std::string BesideFile(const std::string& path, const std::string& name);
+
 // All bytes of a file; throws a UseError that names it when it cannot be read.
 std::vector<std::uint8_t> ReadInput(const std::string& path);
 

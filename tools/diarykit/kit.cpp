@@ -11,6 +11,7 @@ int RunKit(const std::vector<std::string>& arguments) {
     int exitCode = kFine;
     CLI::App kit("Looks into the files of Lum Diary Settings, checks and makes them.", "diarykit");
     kit.footer("Exit codes: 0 fine, 1 found something, 2 wrong use.");
+    kit.allow_windows_style_options(false);  // Paths may begin with a slash.
     kit.require_subcommand(1);
 
     CLI::App* const settings = kit.add_subcommand("settings", "Settings files (.dias)");
@@ -23,6 +24,8 @@ int RunKit(const std::vector<std::string>& arguments) {
 
     CLI::App* const language = kit.add_subcommand("language", "Language files, for translators");
     language->require_subcommand(1);
+    AddLanguageCheck(*language, exitCode);
+    AddLanguageUpdate(*language, exitCode);
     AddLanguagePseudo(*language, exitCode);
 
     try {

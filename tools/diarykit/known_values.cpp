@@ -13,14 +13,15 @@ std::vector<ShownValue> ReadTable() {
         const char* page;
         ShownValue::How how;
         const char* text;
+        std::uint32_t dialog, control;
         std::int32_t number;
     };
     static constexpr auto kCheck = ShownValue::How::kCheck;
     static constexpr auto kList = ShownValue::How::kList;
     static constexpr auto kOwn = ShownValue::How::kOwn;
     static constexpr Line kLines[] = {
-#define ROW(value, page, how, label) {value, page, how, label, 0},
-#define ENTRY(number, text) {nullptr, nullptr, kOwn, text, number},
+#define ROW(value, page, how, label, dialog, control) {value, page, how, label, dialog, control, 0},
+#define ENTRY(number, text) {nullptr, nullptr, kOwn, text, 0, 0, number},
 #include "tools/diarykit/known_values.inc"
 #undef ROW
 #undef ENTRY
@@ -28,7 +29,8 @@ std::vector<ShownValue> ReadTable() {
     std::vector<ShownValue> values;
     for (const Line& line : kLines) {
         if (line.value) {
-            values.push_back({line.value, line.page, line.how, line.text, {}});
+            values.push_back(
+                {line.value, line.page, line.how, line.text, line.dialog, line.control, {}});
         } else {
             values.back().entries.push_back({line.number, line.text});
         }
@@ -46,15 +48,19 @@ bool IsOfEntry(const CatalogueEntry& entry, std::wstring_view key, std::wstring_
 
 }  // namespace
 
-KnownValue FindKnownValue(std::wstring_view key, std::wstring_view name) {
+std::span<const ShownValue> ShownValues() {
     static const std::vector<ShownValue> table = ReadTable();
+    return table;
+}
+
+KnownValue FindKnownValue(std::wstring_view key, std::wstring_view name) {
     KnownValue known;
     for (const CatalogueEntry& entry : Catalogue()) {
         if (known.entry || !IsOfEntry(entry, key, name)) continue;
         known.entry = &entry;
         std::wstring full = entry.key ? std::wstring(entry.key) + L'\\' : L"";
         full += entry.name;
-        for (const ShownValue& shown : table) {
+        for (const ShownValue& shown : ShownValues()) {
             if (shown.value == full) known.shown.push_back(&shown);
         }
     }

@@ -15,7 +15,8 @@ struct ShownValue {
     std::wstring_view value;  // its name; behind a key below the product key's and a backslash
     std::string page;         // the page's anchor
     How how;
-    std::string label;  // may be empty
+    std::string label;              // may be empty
+    std::uint32_t dialog, control;  // ids of the page's template and of the control in it
     struct Entry {
         std::int32_t number;
         std::string text;
@@ -28,6 +29,9 @@ struct KnownValue {
     const CatalogueEntry* entry = nullptr;
     std::vector<const ShownValue*> shown;  // on each page that edits it
 };
+
+// Everything that pages show, in their order.
+std::span<const ShownValue> ShownValues();
 
 // A value by the path of its key below the product key (empty: in that itself) and its name.
 KnownValue FindKnownValue(std::wstring_view key, std::wstring_view name);
