@@ -5,13 +5,19 @@ usage: diarykit_test.py COMMAND...    the tool, natively or through Wine
 
 DIARY_LIBRARY names the program's DiaryRes.Dll where that is built.
 """
+import base64
+import hashlib
 import json
 import os
+import re
+import shutil
 import struct
 import subprocess
 import sys
 import tempfile
 import unittest
+import zipfile
+import zlib
 
 TOOL = []
 LIBRARY = os.environ.get("DIARY_LIBRARY")
@@ -253,6 +259,116 @@ class LanguagePseudo(KitTest):
         self.assertEqual(self.run_kit("language", "pseudo", self.put("t", utf16(long + "|\n"))),
                          (0, utf16(long + "|\r\n")))
         self.assertEqual(self.run_kit("language", "pseudo", self.put("t", b"Version|\r\n"))[0], 2)
+
+
+def bitmap(width, height, pixel, bits=24):
+    """A bitmap file; `pixel` gives the colour of each place, from the top, as blue, green, red."""
+    rows = b"".join(b"".join(bytes(pixel(x, y)) for x in range(width)).ljust(-(-width * bits // 32) * 4, b"\0")
+                    for y in reversed(range(height)))
+    return struct.pack("<2sIIIIiiHHIIIIII", b"BM", 54 + len(rows), 0, 54, 40, width, height, 1, bits, 0, 0, 0, 0, 0, 0) + rows
+
+
+def strip(pieces, size):
+    """Pieces of a size, the left half of each column 0 opaque and blue, the rest see-through."""
+    def pixel(x, y):
+        if y % (size + 1) == size:
+            return 255, 0, 255
+        return (250, 0, 0) if x < size else (255,) * 3 if x == size else (0,) * 3
+    return bitmap(2 * size, pieces * (size + 1), pixel)
+
+
+class Artwork(KitTest):
+    FILES = {"icons.bmp": strip(40, 3), "scrollbar.bmp": strip(4, 2),
+             "tab_icons_16.bmp": bitmap(96, 16, lambda x, y: (255, 0, 255) if x < 16 else (0, 0, 9))}
+    SIZES = ["  icons.bmp: 40 of 3 x 3", "  scrollbar.bmp: 4 of 2 x 2", "  tab_icons_16.bmp: 6 of 16 x 16"]
+
+    def skin(self, changes):
+        """The skin as an archive and as a folder."""
+        files = {name: data for name, data in {**self.FILES, **changes}.items() if data is not None}
+        with zipfile.ZipFile(os.path.join(self.folder, "a.zip"), "w", zipfile.ZIP_DEFLATED) as archive:
+            for name, data in files.items():
+                archive.writestr(name, data)
+        shutil.rmtree(os.path.join(self.folder, "a"), ignore_errors=True)
+        os.mkdir(os.path.join(self.folder, "a"))
+        for name, data in files.items():
+            self.put(f"a/{name}", data)
+        return "a.zip", "a"
+
+    def test_skin_check_tells_what_the_program_does(self):
+        refused = "screens of 96 dpi: not taken, the skin there was before stays"
+        for changes, first, gone, *faults in (
+                ({}, "screens of 96 dpi: taken", None),
+                ({"scrollbar.bmp": None}, refused, 1, "scrollbar.bmp (96 dpi): missing"),
+                ({"icons.bmp": b"BM" * 60}, refused, 0, "icons.bmp (96 dpi): no whole, uncompressed 24-bit bitmap"),
+                ({"tab_icons_16.bmp": bitmap(95, 16, lambda x, y: (0, 0, 0))}, refused, 2,
+                 "tab_icons_16.bmp (96 dpi): 5 pieces, at least 6 are needed"),
+                ({"icons.bmp": strip(39, 3)}, refused, 0, "icons.bmp (96 dpi): 39 pieces, at least 40 are needed"),
+                ({"scrollbar.bmp": bitmap(2, 5, lambda x, y: (255, 0, 255))}, "screens of 96 dpi: taken", 1,
+                 *(f"scrollbar.bmp (96 dpi): piece {n}, is empty".replace(",", f", {part},", 1) for n, part in
+                   enumerate(("button up", "button down", "thumb", "track"), 1)))):
+            for path in self.skin(changes):
+                code, text = self.run_kit("skin", "check", "--dpi", "96", path)
+                lines = text.decode().splitlines()
+                sizes = [line for i, line in enumerate(self.SIZES) if i != gone]
+                self.assertEqual((code, lines[0], [line for line in lines if line in self.SIZES],
+                                  [line for line in lines if line.startswith(path)]),
+                                 (1 if faults else 0, first, sizes, [f"{path}: {fault}" for fault in faults]))
+        report = json.loads(self.run_kit("skin", "check", "--json", "a")[1])
+        self.assertEqual([(screen["dpi"], screen["taken"]) for screen in report], [(96, True), (192, False)])
+        self.assertEqual(self.run_kit("skin", "check", self.put("x.zip", b"PK"))[0], 2)
+
+    def test_skin_sheet_holds_every_piece_as_it_is_drawn(self):
+        for path in self.skin({}):
+            self.assertEqual(self.run_kit("skin", "sheet", path, "s.html")[0], 0)
+            page = self.get("s.html").decode()
+            self.assertNotRegex(page.replace("data:image/png;base64,", ""), r"src=\"(?!i)|https?:|url\(")
+            self.assertEqual(page.count("<figure>"), 50)
+            for caption in ("1 appointment", "40 collapsed group", "4 track", "6 special events"):
+                self.assertEqual(page.count(f"<figcaption>{caption}</figcaption>"), 1)
+            pictures = [base64.b64decode(data) for data in re.findall(r"base64,([^\"]+)", page)]
+            self.assertEqual(len(pictures), 100)
+            pixels = zlib.decompress(pictures[0][41:-16])
+            self.assertEqual((pictures[0][16:24], pixels),
+                             (struct.pack(">II", 3, 3), (b"\0\0\0\xfa\xff" + b"\0\0\xfa\0" * 2) * 3))
+            # The first tab icon is all magenta, the second is not.
+            self.assertEqual([zlib.decompress(pictures[i][41:-16])[4] for i in (88, 90)], [0, 255])
+
+    def test_icons_are_measured_and_grouped(self):
+        sound = bitmap(15, 15, lambda x, y: (x, y, 0))
+        digests = hashlib.md5(sound).digest() + hashlib.md5(b"x").digest()
+        catalogue = struct.pack("<i", 2) + "Work".encode("utf-16-le") + b"\0" * 4 + "Öl".encode("utf-16-le") + b"\0" * 4
+        catalogue += struct.pack("<i", 0) + struct.pack("<i", 2) + digests
+        self.put("icons.dat", catalogue)
+        self.check(0, ["Work (0)", "Öl (2)"], "icons", "list", "icons.dat")
+        self.check(1, ["cut: cut or contradicts itself, so that the program has no groups"],
+                   "icons", "list", self.put("cut", catalogue[:-1]))
+        os.mkdir(os.path.join(self.folder, "i"))
+        self.put("i/a.bmp", sound)
+        self.put("i/b.BMP", bitmap(30, 30, lambda x, y: (1, 1, 1)))
+        self.put("i/.c.bmp", b"")
+        self.put("i/note.txt", b"")
+        icons = [f"i{os.sep}a.bmp: 15 x 15, Öl", f"i{os.sep}b.BMP: 30 x 30, Other Icons"]
+
+        def checked(*arguments):
+            code, text = self.run_kit("icons", "check", "i", *arguments)
+            return code, [line.replace("\\", os.sep) for line in text.decode().splitlines()]
+        self.assertEqual(checked("icons.dat"), (0, icons))
+        self.put("i/d.bmp", sound[:-1])
+        self.put("i/e.bmp", bitmap(31, 2, lambda x, y: (1, 1, 1)))
+        self.assertEqual(checked("icons.dat"), (1, icons + [
+            f"i{os.sep}d.bmp: no whole, uncompressed bitmap; it is passed over",
+            f"i{os.sep}e.bmp: 31 x 2 pixels, more than 30; it is passed over on screens of 96 dpi"]))
+        self.assertEqual(checked("--dpi", "192")[1][2], f"i{os.sep}e.bmp: 31 x 2, Other Icons")
+        self.assertEqual(self.run_kit("icons", "check", "icons.dat")[0], 2)
+
+    def test_layouts_are_read_line_by_line(self):
+        self.put("l", "# mine\r\nMine=labc(abcà) dé(dé)\r\n\nIvrit=rש(ש)\n".encode())
+        self.check(0, ["Mine: abc dé", "Ivrit, right to left: ש"], "layout", "check", "l")
+        self.put("l", utf16("A=labc (abc)\nB=labc()\nC\nD,=l" + "a(a)" * 32 + "\nE="))
+        length = "empty, or longer than 127 characters"
+        self.check(1, ["l:1: a space elsewhere than behind a )", 'l:2: a group that is not "letters(matches)"',
+                       'l:3: no line "name=layout"', "l:4: a name that is empty or has a comma", "l:4: " + length,
+                       "l:5: " + length], "layout", "check", "l")
 
 
 if __name__ == "__main__":

@@ -14,3 +14,8 @@ void AddSettingsFromReg(CLI::App& settings, int& exitCode);
 void AddLanguageCheck(CLI::App& language, int& exitCode);
 void AddLanguageUpdate(CLI::App& language, int& exitCode);
 void AddLanguagePseudo(CLI::App& language, int& exitCode);
+void AddSkinCheck(CLI::App& skin, int& exitCode);
+void AddSkinSheet(CLI::App& skin, int& exitCode);
+void AddIconsCheck(CLI::App& icons, int& exitCode);
+void AddIconsList(CLI::App& icons, int& exitCode);
+void AddLayoutCheck(CLI::App& layout, int& exitCode);

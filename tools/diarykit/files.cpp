@@ -1,5 +1,6 @@
 #include "tools/diarykit/files.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +12,11 @@ std::filesystem::path PathOf(const std::string& utf8) {
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
+std::string NameOf(const std::filesystem::path& path) {
+    const std::u8string name = path.u8string();
+    return {name.begin(), name.end()};
+}
+
 }  // namespace
 
 bool IsFile(const std::string& path) {
@@ -18,9 +24,34 @@ bool IsFile(const std::string& path) {
     return std::filesystem::is_regular_file(PathOf(path), error);
 }
 
+bool IsFolder(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_directory(PathOf(path), error);
+}
+
+std::string InFolder(const std::string& folder, const std::string& name) {
+    return NameOf(PathOf(folder) / PathOf(name));
+}
+
+std::vector<std::string> BitmapsIn(const std::string& folder) {
+    std::vector<std::string> paths;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(PathOf(folder), error)) {
+        std::string extension = NameOf(entry.path().extension());
+        std::transform(extension.begin(), extension.end(), extension.begin(),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c; });
+        const bool isHidden = NameOf(entry.path().filename()).starts_with('.');
+        if (extension == ".bmp" && !isHidden && entry.is_regular_file(error)) {
+            paths.push_back(NameOf(entry.path()));
+        }
+    }
+    if (error) throw UseError(folder + ": cannot be read");
+    std::sort(paths.begin(), paths.end());
+    return paths;
+}
+
 std::string BesideFile(const std::string& path, const std::string& name) {
-    const std::u8string beside = PathOf(path).replace_filename(PathOf(name)).u8string();
-    return {beside.begin(), beside.end()};
+    return NameOf(PathOf(path).replace_filename(PathOf(name)));
 }
 
 std::vector<std::uint8_t> ReadInput(const std::string& path) {

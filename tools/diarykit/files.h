@@ -13,6 +13,10 @@ struct UseError : std::runtime_error {
 };
 
 bool IsFile(const std::string& path);
+bool IsFolder(const std::string& path);
+std::string InFolder(const std::string& folder, const std::string& name);
+// The paths of a folder's bitmap files, sorted; hidden ones, which begin with a dot, do not count.
+std::vector<std::string> BitmapsIn(const std::string& folder);
 // The path of a file in the folder of another one.
 std::string BesideFile(const std::string& path, const std::string& name);
 

@@ -28,6 +28,20 @@ int RunKit(const std::vector<std::string>& arguments) {
     AddLanguageUpdate(*language, exitCode);
     AddLanguagePseudo(*language, exitCode);
 
+    CLI::App* const skin = kit.add_subcommand("skin", "Skins, for those who draw them");
+    skin->require_subcommand(1);
+    AddSkinCheck(*skin, exitCode);
+    AddSkinSheet(*skin, exitCode);
+
+    CLI::App* const icons = kit.add_subcommand("icons", "Category icons and their catalogue");
+    icons->require_subcommand(1);
+    AddIconsCheck(*icons, exitCode);
+    AddIconsList(*icons, exitCode);
+
+    CLI::App* const layout = kit.add_subcommand("layout", "Layouts of phone keypads");
+    layout->require_subcommand(1);
+    AddLayoutCheck(*layout, exitCode);
+
     try {
         std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
         kit.parse(reversed);

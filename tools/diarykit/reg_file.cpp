@@ -150,6 +150,7 @@ class Parser {
         const std::uint32_t root = RootOfName(TakeKeyName(rest));
         if (!root) return Fault(line, "does not begin with the name of a root key");
         if (!keys_.empty() && root != root_) return Fault(line, "a settings file has one root key");
+        if (DepthOf(rest) > kDeepestKey) return Fault(line, "deeper than a registry nests keys");
         root_ = root;
         keyIsGood_ = true;
         keys_.push_back({TidyPath(rest), {}});
@@ -299,14 +300,4 @@ std::optional<std::wstring> FormatReg(const StoredSettings& settings, std::wstri
 StoredSettings ParseReg(std::wstring_view text, std::wstring_view under,
                         std::vector<RegFault>& faults) {
     return Parser(text, under, faults).Run();
-}
-
-std::wstring TextOfRegFile(std::span<const std::uint8_t> bytes) {
-    if (bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE) {
-        return ByteReader(bytes.subspan(2)).TakeText(bytes.size() - 2);
-    }
-    std::wstring text = FromUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-    constexpr wchar_t kByteOrderMark = 0xFEFF;
-    if (text.starts_with(kByteOrderMark)) text.erase(0, 1);
-    return text;
 }

@@ -27,6 +27,3 @@ std::optional<std::wstring> FormatReg(const StoredSettings& settings, std::wstri
 // that the text names.
 StoredSettings ParseReg(std::wstring_view text, std::wstring_view under,
                         std::vector<RegFault>& faults);
-
-// The characters of such a file, which is UTF-16 behind a byte-order mark or else UTF-8.
-std::wstring TextOfRegFile(std::span<const std::uint8_t> bytes);

@@ -28,7 +28,7 @@ int ToReg(const Options& options) {
 
 int FromReg(const Options& options) {
     std::vector<RegFault> faults;
-    const std::wstring text = TextOfRegFile(ReadInput(options.path));
+    const std::wstring text = TextOfFile(ReadInput(options.path));
     const StoredSettings settings = ParseReg(text, FromUtf8(options.under), faults);
     std::vector<Finding> findings;
     for (const RegFault& fault : faults) findings.push_back({options.path, fault.line, fault.text});

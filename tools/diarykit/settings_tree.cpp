@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr std::size_t kDeepest = 64;
-
 constexpr struct {
     std::uint32_t number;
     const wchar_t* name;
@@ -25,12 +23,6 @@ std::wstring Joined(std::wstring_view path, std::wstring_view name) {
     return path.empty() ? std::wstring(name) : std::wstring(path) + L'\\' + std::wstring(name);
 }
 
-std::size_t DepthOf(std::wstring_view path) {
-    std::size_t depth = 0;
-    while (!TakeKeyName(path).empty()) ++depth;
-    return depth;
-}
-
 class TreeSink : public SettingsSink {
   public:
     explicit TreeSink(StoredSettings& settings) : settings_(settings) {}
@@ -43,7 +35,8 @@ class TreeSink : public SettingsSink {
     }
     bool EnterKey(const std::wstring& name) override {
         const std::wstring path = TidyPath(paths_.empty() ? name : paths_.back() + L'\\' + name);
-        if (paths_.size() >= kDeepest || DepthOf(path) > kDeepest) return false;
+        const std::size_t depth = DepthOf(settings_.path) + DepthOf(path);
+        if (paths_.size() >= kDeepestKey || depth > kDeepestKey) return false;
         paths_.push_back(path);
         settings_.Key(path);
         return true;
@@ -78,6 +71,12 @@ void WriteValue(SettingsFileWriter& writer, const StoredValue& value) {
 }
 
 }  // namespace
+
+std::size_t DepthOf(std::wstring_view path) {
+    std::size_t depth = 0;
+    while (!TakeKeyName(path).empty()) ++depth;
+    return depth;
+}
 
 StoredKey& StoredSettings::Key(std::wstring_view wanted) {
     const auto find = [this](std::wstring_view key) {

@@ -38,8 +38,12 @@ struct StoredSettings {
     bool operator==(const StoredSettings&) const = default;
 };
 
-// Of a file that cannot be read to its end, what comes before. Keys that are nested deeper than a
-// registry has them end it, too.
+// Deeper than this no registry nests its keys.
+inline constexpr std::size_t kDeepestKey = 64;
+std::size_t DepthOf(std::wstring_view path);
+
+// Of a file that cannot be read to its end, what comes before. Keys that are nested deeper than
+// that end it, too.
 StoredSettings ReadSettings(std::span<const std::uint8_t> bytes);
 // The same of a file; throws a UseError when there is none.
 StoredSettings ReadSettings(const std::string& path);

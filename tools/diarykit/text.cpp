@@ -1,6 +1,6 @@
 #include "tools/diarykit/text.h"
 
-#include <cstdint>
+#include "base/byte_reader.h"
 
 namespace {
 
@@ -101,3 +101,13 @@ std::string Plain(std::wstring_view units) {
 }
 
 std::string Quoted(std::wstring_view units) { return '"' + Plain(units) + '"'; }
+
+std::wstring TextOfFile(std::span<const std::uint8_t> bytes) {
+    if (bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE) {
+        return ByteReader(bytes.subspan(2)).TakeText(bytes.size() - 2);
+    }
+    std::wstring text = FromUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    constexpr wchar_t kByteOrderMark = 0xFEFF;
+    if (text.starts_with(kByteOrderMark)) text.erase(0, 1);
+    return text;
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,3 +14,6 @@ std::wstring FromUtf8(std::string_view text);
 std::string Plain(std::wstring_view units);
 // Likewise, in quotes.
 std::string Quoted(std::wstring_view units);
+
+// The characters of a file that is UTF-16 behind a byte-order mark, or else UTF-8.
+std::wstring TextOfFile(std::span<const std::uint8_t> bytes);
