@@ -1,11 +1,8 @@
 #include "tools/diarykit/language_pseudo.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "app/language/language_file.h"
-#include "tools/diarykit/commands.h"
-#include "tools/diarykit/files.h"
 #include "tools/diarykit/language_lines.h"
 
 namespace {
@@ -65,23 +62,4 @@ std::wstring PseudoLanguage(std::wstring_view templateText) {
         result += start + L'|' + (fits ? translation : L"") + L"\r\n";
     }
     return result;
-}
-
-void AddLanguagePseudo(CLI::App& language, int&) {
-    struct Options {
-        std::string templatePath, output;
-    };
-    CLI::App* const command = language.add_subcommand(
-        "pseudo",
-        "Writes a language to try the program with: every text in brackets, accented and 40 % "
-        "longer. Texts without letters, which need no translation, stay untranslated.");
-    const auto options = std::make_shared<Options>();
-    command->add_option("TEMPLATE", options->templatePath, "The file that the program writes")
-        ->required();
-    command->add_option("-o,--output", options->output,
-                        "Where to write (UTF-16); without it the standard output");
-    command->callback([options] {
-        const LanguageText text = ReadLanguageText(options->templatePath);
-        WriteOutput(options->output, Utf16File(PseudoLanguage(text.characters)));
-    });
 }

@@ -1,13 +1,10 @@
 #include "tools/diarykit/settings_check.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "pages/stores/mail_filter.h"
 #include "settings/keyboard_layout.h"
 #include "settings/settings_file_facts.h"
-#include "tools/diarykit/commands.h"
-#include "tools/diarykit/files.h"
 #include "tools/diarykit/known_values.h"
 #include "tools/diarykit/text.h"
 
@@ -130,23 +127,4 @@ std::optional<std::wstring> PathInProductKey(const StoredSettings& settings, con
 
 std::vector<Finding> CheckSettings(const std::string& file, std::span<const std::uint8_t> bytes) {
     return Checker(file, ReadSettings(bytes)).Run();
-}
-
-void AddSettingsCheck(CLI::App& settings, int& exitCode) {
-    struct Options {
-        std::string path;
-        bool json = false;
-    };
-    CLI::App* const command = settings.add_subcommand(
-        "check",
-        "Says what is odd about a settings file: it cannot be read to its end, writes outside the "
-        "diary's own key, or holds unknown names, other types than the program's, or values that "
-        "no page would show.");
-    const auto options = std::make_shared<Options>();
-    command->add_option("FILE", options->path, "A settings file (.dias)")->required();
-    command->add_flag("--json", options->json, "Write JSON");
-    command->callback([options, &exitCode] {
-        exitCode =
-            PrintFindings(CheckSettings(options->path, ReadInput(options->path)), options->json);
-    });
 }

@@ -1,9 +1,9 @@
-#include "tools/diarykit/findings.h"
+#include "tools/diarykit/commands/print_findings.h"
 
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
-#include "tools/diarykit/kit.h"
+#include "tools/diarykit/commands/kit.h"
 
 int PrintFindings(const std::vector<Finding>& findings, bool asJson) {
     if (asJson) {

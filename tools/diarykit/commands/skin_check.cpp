@@ -3,8 +3,8 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "tools/diarykit/commands.h"
-#include "tools/diarykit/findings.h"
+#include "tools/diarykit/commands/commands.h"
+#include "tools/diarykit/commands/print_findings.h"
 #include "tools/diarykit/skin_pieces.h"
 
 namespace {

@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-#include "tools/diarykit/kit.h"
+#include "tools/diarykit/commands/kit.h"
 #include "tools/diarykit/text.h"
 
 int wmain(int count, wchar_t** arguments) {

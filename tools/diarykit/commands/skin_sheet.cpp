@@ -1,6 +1,6 @@
 #include <CLI/CLI.hpp>
 
-#include "tools/diarykit/commands.h"
+#include "tools/diarykit/commands/commands.h"
 #include "tools/diarykit/files.h"
 #include "tools/diarykit/skin_pieces.h"
 

@@ -5,9 +5,9 @@
 #include "appearance/categories/icon_catalogue.h"
 #include "appearance/categories/icon_size.h"
 #include "base/scale.h"
-#include "tools/diarykit/commands.h"
+#include "tools/diarykit/commands/commands.h"
+#include "tools/diarykit/commands/print_findings.h"
 #include "tools/diarykit/files.h"
-#include "tools/diarykit/findings.h"
 #include "tools/diarykit/md5.h"
 #include "tools/diarykit/text.h"
 

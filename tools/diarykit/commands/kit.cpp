@@ -1,10 +1,10 @@
-#include "tools/diarykit/kit.h"
+#include "tools/diarykit/commands/kit.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 
-#include "tools/diarykit/commands.h"
+#include "tools/diarykit/commands/commands.h"
 #include "tools/diarykit/files.h"
 
 int RunKit(const std::vector<std::string>& arguments) {

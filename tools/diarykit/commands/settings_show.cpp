@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 
 #include "settings/settings_file_facts.h"
-#include "tools/diarykit/commands.h"
-#include "tools/diarykit/findings.h"
+#include "tools/diarykit/commands/commands.h"
+#include "tools/diarykit/commands/print_findings.h"
 #include "tools/diarykit/known_values.h"
 #include "tools/diarykit/settings_check.h"
 #include "tools/diarykit/settings_tree.h"

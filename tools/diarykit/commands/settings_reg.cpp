@@ -1,8 +1,8 @@
 #include <CLI/CLI.hpp>
 
-#include "tools/diarykit/commands.h"
+#include "tools/diarykit/commands/commands.h"
+#include "tools/diarykit/commands/print_findings.h"
 #include "tools/diarykit/files.h"
-#include "tools/diarykit/findings.h"
 #include "tools/diarykit/reg_file.h"
 #include "tools/diarykit/settings_check.h"
 #include "tools/diarykit/text.h"

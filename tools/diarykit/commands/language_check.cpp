@@ -1,7 +1,8 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 
-#include "tools/diarykit/commands.h"
+#include "tools/diarykit/commands/commands.h"
+#include "tools/diarykit/commands/print_findings.h"
 #include "tools/diarykit/files.h"
 #include "tools/diarykit/language_check.h"
 #include "tools/diarykit/language_lines.h"
