@@ -18,7 +18,6 @@ namespace {
 
 constexpr int kResourceTypeDialogInit = 240;
 constexpr int kBandLine = 1;       // under the title band
-constexpr int kBottomMargin = 8;   // below the last control
 constexpr int kScrollStep = 16;    // one line of the scroll bar
 constexpr int kFocusMargin = 4;    // around a control that is scrolled into view
 constexpr int kTitleLength = 256;  // of a sheet's caption
@@ -61,6 +60,7 @@ bool FullScreenDialog::OnInitDialog() {
 }
 
 void FullScreenDialog::InitFullScreenDialog() {
+    layout_.Attach(hwnd(), templateId_);
     scrollMessage_ = RegisterWindowMessageW(L"PPCD_ScrollMessage");
 
     SHMENUBARINFO bar = {};
@@ -85,13 +85,27 @@ void FullScreenDialog::InitFullScreenDialog() {
     OnTranslated();
     if (focusFirst) SetFocus(GetWindow(hwnd(), GW_CHILD));
 
-    for (HWND child = GetWindow(hwnd(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (!(GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE)) continue;
-        contentHeight_ =
-            std::max(contentHeight_, static_cast<int>(ControlRect(hwnd(), child).bottom));
+    layout_.NoteOwnSizes();
+    initialised_ = true;
+    LayOut();
+}
+
+void FullScreenDialog::LayOut() {
+    if (!initialised_) return;
+    RECT window = {};
+    GetWindowRect(hwnd(), &window);
+    // Without the scroll bar, which is there only where something needs it.
+    const int width = window.right - window.left;
+    const int height = window.bottom - window.top;
+    if (const HWND filling = FillingControl()) {
+        const int top = BandHeight() + ScaleY(kBandLine);
+        MoveWindow(filling, 0, top, width, height - top, TRUE);
+        return;
     }
-    contentHeight_ += ScaleY(kBottomMargin);
+    const HWND focus = GetFocus();
+    contentHeight_ = layout_.Place(width, height, Fills(), ScrollPosition());
     UpdateScrollRange();
+    if (IsChild(hwnd(), focus)) ScrollIntoView(focus);
 }
 
 void FullScreenDialog::FillListsFromResource() {
@@ -147,7 +161,7 @@ std::optional<INT_PTR> FullScreenDialog::OnMessage(UINT message, WPARAM wParam, 
     }
     switch (message) {
         case WM_PAINT: OnPaint(); return TRUE;
-        case WM_SIZE: UpdateScrollRange(); return FALSE;
+        case WM_SIZE: LayOut(); return FALSE;
         case WM_VSCROLL: OnVerticalScroll(LOWORD(wParam)); return TRUE;
         case WM_HELP: ShowHelp(); return TRUE;
         case WM_COMMAND: {
@@ -185,21 +199,12 @@ void FullScreenDialog::OnPaint() {
 int FullScreenDialog::ScrollPosition() const { return VerticalScroll(hwnd(), SIF_POS).nPos; }
 
 void FullScreenDialog::UpdateScrollRange() {
-    if (!contentHeight_) return;
-    const int height = ClientHeight(hwnd());
-    if (const HWND filling = FillingControl()) {
-        RECT client = {};
-        GetClientRect(hwnd(), &client);
-        const int top = BandHeight() + ScaleY(kBandLine);
-        MoveWindow(filling, 0, top, client.right, height - top, TRUE);
-        return;
-    }
     ScrollTo(ScrollPosition());
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE;
     info.nMax = contentHeight_ - 1;
-    info.nPage = height;
+    info.nPage = ClientHeight(hwnd());
     SetScrollInfo(hwnd(), SB_VERT, &info, TRUE);
 }
 

@@ -1,14 +1,17 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 
 #include "controls/dialog.h"
+#include "controls/dialog_layout.h"
 #include "controls/modal_windows.h"
+#include "controls/template_layout.h"
 
 // What every options page and full-screen dialog shares: Done button, menu bar, title band,
-// lists filled from the resource library, translated texts, and scrolling where the screen is too
-// low.
+// lists filled from the resource library, translated texts, a layout that suits the screen however
+// it is held, and scrolling where it is too low all the same.
 class FullScreenDialog : public Dialog {
   public:
     // What the title band says.
@@ -35,6 +38,8 @@ class FullScreenDialog : public Dialog {
     virtual unsigned MenuBarId() const { return 0; }
     // Paints a preview, or an entry of a list that the dialog draws itself.
     virtual void OnDrawItem(const DRAWITEMSTRUCT&) {}
+    // The controls that take what the others leave of the screen.
+    virtual std::span<const Fill> Fills() const { return {}; }
     // A control that takes all below the title band and scrolls by itself; null where the dialog
     // scrolls.
     virtual HWND FillingControl() const { return nullptr; }
@@ -47,6 +52,8 @@ class FullScreenDialog : public Dialog {
     virtual void ComeToFront() const {}
     // Opens the help at the dialog's section.
     void ShowHelp() const;
+    // Places the controls anew, after one came or went or its text became another.
+    void LayOut();
     // Scrolls until a control shows. Controls that say in WM_COMMAND that they have the focus are
     // scrolled to anyway.
     void ScrollIntoView(HWND control);
@@ -70,5 +77,7 @@ class FullScreenDialog : public Dialog {
     Band band_;
     UINT scrollMessage_ = 0;
     int contentHeight_ = 0;  // pixels, unscrolled
+    TemplateLayout layout_;
+    bool initialised_ = false;
     std::unique_ptr<ModalWindow> modal_;
 };

@@ -6,6 +6,9 @@
 // template stops there and skips those.
 #pragma once
 
+// A dialog's template for wide screens has an id that is higher by this much.
+#define IDD_WIDE 29000
+
 // Icons of the main screen; the ids are the ones the plug-in's skins and documentation know.
 #define IDI_CALENDAR 102
 #define IDI_TASKS 103
@@ -342,7 +345,8 @@
 #define IDC_FLAG_IMPORTANCE 5533
 #define IDC_FLAG_LOW_PRIORITY 5534
 #define IDC_FLAG_NOTE 5535
-#define IDC_FLAG_PICTURES 5536
+// A flag's picture has an id that is higher by this much.
+#define FLAG_PICTURE 20
 
 // Contacts: general.
 #define IDD_CONTACTS_COMMON 2040

@@ -7,6 +7,13 @@ fail() {
     exit 1
 }
 
+# The screens that devices had: pixels, and dots per inch.
+SCREENS=(
+    240x320@96 320x240@96 240x240@96 240x400@96 400x240@96
+    320x320@128
+    480x640@192 640x480@192 480x480@192 480x800@192 800x480@192
+)
+
 # Of Debian: what building needs, what running needs besides, what a display of our own and pictures of it need,
 # and what testing needs.
 BUILD_PACKAGES=(
@@ -15,7 +22,12 @@ BUILD_PACKAGES=(
 )
 RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
 SCREEN_PACKAGES=(xvfb imagemagick)
-TEST_PACKAGES=(xvfb g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev)
+TEST_PACKAGES=(
+    xvfb g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
+    g++-mingw-w64-i686-posix mingw-w64-i686-dev
+)
+# What the 32-bit Debian is made with.
+I386_PACKAGES=(debootstrap)
 
 # Installs what is missing. Quick when nothing is.
 install_packages() { # PACKAGES...

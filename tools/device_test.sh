@@ -16,8 +16,12 @@ rm -rf "$device" "${WINE_DIR:?}/$name"
 furnish_device "$device" "$BIN" "$dpi"
 start_display "$size"
 start_session "$name" "$dpi" "$device"
+set_screen "$device" "$size"
 # No browser shall open while tests ask for help.
 reg_add 'HKCU\Software\Wine\WineBrowser' Browsers REG_SZ true
 trap 'end_session; end_display; rm -rf "${WINE_DIR:?}/$name" "$device"' EXIT
 cd "$device"
-wine "$program" "$@" </dev/null
+# A program of another width than Wine's does not run and succeeds all the same.
+output=$WINE_DIR/$name/output
+wine "$program" "$@" </dev/null | tee "$output"
+[ -s "$output" ] || fail "$program printed nothing"

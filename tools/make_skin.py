@@ -20,8 +20,9 @@ SVG = "{http://www.w3.org/2000/svg}"
 SCROLL_BAR_PARTS = ["up", "down", "thumb", "track"]
 TAB_DRAWINGS = ["today", "task_done", "contact", "note", "message_unread", "birthday"]
 # The artwork for screens below 144 dots per inch, and from there on.
-SCALES = {1: ("icons.bmp", "scrollbar.bmp", "tab_icons_16.bmp"),
-          2: ("icons_vga.bmp", "scrollbar_vga.bmp", "tab_icons_32.bmp")}
+SCALES = {1: ("icons.bmp", "scrollbar.bmp"), 2: ("icons_vga.bmp", "scrollbar_vga.bmp")}
+# In pixels, on screens of 96, 128 and 192 dots per inch.
+TAB_ICON_SIZES = [16, 21, 32]
 MAGENTA = (255, 0, 255)
 
 
@@ -55,12 +56,13 @@ class Sheet:
                 sys.exit(f"{self.path} has no drawing \"{name}\"")
             drawing = self.drawings[name]
             height = int(drawing.get("data-height", self.height))
-            cell = xml.SubElement(picture, f"{SVG}svg", x="0", y=str(y), width=str(self.width * scale),
-                                  height=str(height * scale), viewBox=f"0 0 {self.width} {height}")
+            shown_height = round(height * scale)
+            cell = xml.SubElement(picture, f"{SVG}svg", x="0", y=str(y), width=str(round(self.width * scale)),
+                                  height=str(shown_height), viewBox=f"0 0 {self.width} {height}")
             xml.SubElement(cell, f"{SVG}g").extend(drawing)
-            heights.append(height * scale)
-            y += height * scale + gap
-        picture.set("width", str(self.width * scale))
+            heights.append(shown_height)
+            y += shown_height + gap
+        picture.set("width", str(round(self.width * scale)))
         picture.set("height", str(y))
         return pictures.render(xml.tostring(picture)), heights
 
@@ -78,10 +80,9 @@ def strip(sheet, names, scale):
     return pictures.bitmap(result)
 
 
-def tab_icons(sheet, scale):
+def tab_icons(sheet, size):
     """Squares side by side; magenta is transparent."""
-    rows, _ = sheet.render(TAB_DRAWINGS, scale, 0)
-    size = sheet.width * scale
+    rows, _ = sheet.render(TAB_DRAWINGS, size / sheet.width, 0)
     squares = [rows[i * size:(i + 1) * size] for i in range(len(TAB_DRAWINGS))]
     return pictures.bitmap([[pixel[:3] if pixel[3] >= 128 else MAGENTA for square in squares for pixel in square[y]]
                    for y in range(size)])
@@ -93,10 +94,11 @@ def main():
     skin, output = map(pathlib.Path, sys.argv[1:])
     icons, scroll_bar = Sheet(skin, "icons.svg"), Sheet(skin, "scroll_bar.svg")
     files = {}
-    for scale, (icon_file, scroll_bar_file, tab_file) in SCALES.items():
+    for scale, (icon_file, scroll_bar_file) in SCALES.items():
         files[icon_file] = strip(icons, icon_names(), scale)
         files[scroll_bar_file] = strip(scroll_bar, SCROLL_BAR_PARTS, scale)
-        files[tab_file] = tab_icons(icons, scale)
+    for size in TAB_ICON_SIZES:
+        files[f"tab_icons_{size}.bmp"] = tab_icons(icons, size)
     if output.suffix != ".zip":
         output.mkdir(parents=True, exist_ok=True)
         for name, data in files.items():

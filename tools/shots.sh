@@ -38,7 +38,7 @@ settle() {
 take_picture() { # FILE
     settle
     mkdir -p "$(dirname "$1")"
-    import-im6.q16 -display "$DISPLAY" -window root "$1"
+    import-im6.q16 -display "$DISPLAY" -window root -crop "$SCREEN_SIZE+0+0" +repage "$1"
 }
 
 # By keys a picture does not depend on where controls are.
@@ -70,8 +70,10 @@ open_stage() { # NAME DPI SIZE
     rm -rf "$STAGE" "${WINE_DIR:?}/$1"
     furnish_device "$STAGE" "$BIN" "$2"
     give_icons "$STAGE/Program Files/Lum Diary"
+    SCREEN_SIZE=$3
     start_display "$3"
     start_session "$1" "$2" "$STAGE"
+    set_screen "$STAGE" "$3"
     trap 'end_session; end_display' EXIT
     start_today "$STAGE"
 }

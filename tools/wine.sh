@@ -4,12 +4,12 @@
 # A prefix takes seconds to make, so one template per density is made once and cloned. A session needs its
 # display from the start, and a server that stays, or every program would wait for the server's services.
 
-WINE_DIR=$ROOT/build/wine
+WINE_DIR=${WINE_DIR:-$ROOT/build/wine}
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=,winemenubuilder.exe=d" LC_ALL=C.UTF-8
 export FONTCONFIG_FILE=$ROOT/tools/fonts.conf
 
 # Changes with what make_template does, so that an older template is made anew.
-TEMPLATE_VERSION=3
+TEMPLATE_VERSION=4
 
 quietly() { "$@" </dev/null >/dev/null 2>&1; }
 
@@ -38,12 +38,15 @@ make_template() {
     reg_add 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0
     quietly wineserver -k
     quietly wineserver -w
-    clone_prefix "$template" "$WINE_DIR/template-192"
-    export WINEPREFIX=$WINE_DIR/template-192
-    quietly wineserver -p
-    reg_add 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD 192
-    quietly wineserver -k
-    quietly wineserver -w
+    local dpi
+    for dpi in 128 192; do
+        clone_prefix "$template" "$WINE_DIR/template-$dpi"
+        export WINEPREFIX=$WINE_DIR/template-$dpi
+        quietly wineserver -p
+        reg_add 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$dpi"
+        quietly wineserver -k
+        quietly wineserver -w
+    done
     echo "$TEMPLATE_VERSION" >"$WINE_DIR/version"
 }
 
@@ -54,9 +57,15 @@ clone_prefix() { # FROM TO: shares the system's files, which nobody writes, and 
     cp -a --remove-destination "$1/dosdevices/." "$2/dosdevices/"
 }
 
+# A display that has room for a screen either way up.
+display_size() { # WIDTHxHEIGHT
+    local longer=$((${1%x*} > ${1#*x} ? ${1%x*} : ${1#*x}))
+    echo "${longer}x$longer"
+}
+
 start_display() { # WIDTHxHEIGHT
     local number=$WINE_DIR/display-$$
-    Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp 3>"$number" </dev/null >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "$(display_size "$1")x24" -nolisten tcp 3>"$number" </dev/null >/dev/null 2>&1 &
     XVFB_PID=$!
     local tries=0
     until [ -s "$number" ]; do
@@ -79,6 +88,11 @@ start_session() { # NAME DPI DEVICE: a clone of its own with the device as drive
     reg_add 'HKCU\Software\PocketPC Devices\Default\HKEY_LOCAL_MACHINE\Drivers\Display\GPE' \
         LogicalPixelsX REG_DWORD "$2"
     furnish_owner "$3"
+}
+
+# The upper left part of the display becomes the device's screen.
+set_screen() { # DEVICE WIDTHxHEIGHT
+    (cd "$1" && wine "$BIN/devicectl.exe" screen "$2" </dev/null) || fail "The screen could not be set"
 }
 
 # What the device's owner keeps on it, as far as it is not there yet, and what FURNISH_WITH names besides:

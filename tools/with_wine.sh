@@ -6,7 +6,7 @@ set -euo pipefail
 ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$ROOT/tools/common.sh"
 . "$ROOT/tools/wine.sh"
-make_template
+make_template >&2
 clone_prefix "$WINE_DIR/template-96" "$WINE_DIR/with-$$"
 export WINEPREFIX=$WINE_DIR/with-$$
 trap 'quietly wineserver -k; rm -rf "${WINEPREFIX:?}"' EXIT

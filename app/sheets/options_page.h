@@ -37,6 +37,7 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     virtual std::optional<INT_PTR> OnControlNotification(const NMHDR&) { return std::nullopt; }
 
     void ComeToFront() const override;
+    std::span<const Fill> Fills() const override { return fills_; }
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -62,6 +63,8 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
     void Store();
 
     PageRows rows_;
+    std::span<const Fill> fills_;
+    bool ownIsUnread_ = false;         // OnLoad could not read all; then nothing of that is stored
     HPROPSHEETPAGE handle_ = nullptr;  // the sheet's
 };
 

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "app/sheets/page_rows.h"
+#include "controls/dialog_layout.h"
 
 class OptionsPage;
 
@@ -15,4 +16,6 @@ struct PageDescription {
     std::span<const Row> rows;
     // Makes a page with code of its own; null where the rows are all there is to it.
     std::unique_ptr<OptionsPage> (*make)(const PageDescription&) = nullptr;
+    // The lists and previews that take what the page leaves of the screen.
+    std::span<const Fill> fills = {};
 };

@@ -16,8 +16,6 @@ namespace {
 constexpr int kIconCell = 15;
 constexpr int kMargin = 2;
 constexpr int kMarkWidth = 10;
-constexpr int kBottomMargin = 8;
-constexpr int kLowestList = 48;
 
 // The slider's positions stand for steps of intensity.
 constexpr int kLastStep = 4;
@@ -39,6 +37,11 @@ void DrawIcon(HDC dc, HBITMAP icon, const RECT& cell) {
 
 }  // namespace
 
+std::span<const Fill> CategoryDialog::Fills() const {
+    static constexpr Fill kFills[] = {{IDC_CATEGORY_LIST, 30}};
+    return kFills;
+}
+
 CategoryDialog::CategoryDialog()
     : FullScreenDialog(IDD_CATEGORY_ICONS, L"options_category_icons_main", Band::kOwnTitle) {}
 
@@ -56,7 +59,6 @@ bool CategoryDialog::OnInit() {
     SetWindowLongPtrW(
         slider, GWLP_USERDATA,
         SetWindowLongPtrW(slider, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SliderProcedure)));
-    FitListToScreen();
     CreateListColumn();
     // The first that still has a name.
     int first = 0;
@@ -66,50 +68,13 @@ bool CategoryDialog::OnInit() {
     return false;
 }
 
-// The list takes what the controls below it leave of the screen.
-void CategoryDialog::FitListToScreen() {
-    const HWND list = Item(IDC_CATEGORY_LIST);
-    RECT client, area;
-    // Without the scroll bar, which is there only until it is known that nothing needs it.
-    GetWindowRect(hwnd(), &client);
-    MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&client), 2);
-    const auto areaOf = [this](HWND control) {
-        RECT rect;
-        GetWindowRect(control, &rect);
-        MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
-    };
-    int bottom = 0;
-    for (HWND child = GetWindow(hwnd(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        bottom = std::max<int>(bottom, areaOf(child).bottom);
-    }
-    area = areaOf(list);
-    const int height = area.bottom - area.top;
-    const int grown =
-        std::max<int>(client.bottom - ScaleY(kBottomMargin) - bottom, ScaleY(kLowestList) - height);
-    for (HWND child = GetWindow(hwnd(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        const RECT old = areaOf(child);
-        if (child == list) {
-            MoveWindow(list, area.left, area.top, client.right - 2 * area.left, height + grown,
-                       FALSE);
-        } else {
-            MoveWindow(child, old.left, old.top + grown, old.right - old.left, old.bottom - old.top,
-                       FALSE);
-        }
-    }
-}
-
 void CategoryDialog::CreateListColumn() {
     const HWND list = Item(IDC_CATEGORY_LIST);
     // Nothing is drawn of it; rows are as high as its pictures would be.
     rowHeight_.Reset(
         ImageList_Create(ScaleX(kIconCell), ScaleY(kIconCell) + 2 * ScaleY(1), ILC_COLOR, 0, 1));
     SendMessageW(list, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(rowHeight_.get()));
-    RECT window;
-    GetWindowRect(list, &window);
     LVCOLUMNW column = {};
-    column.mask = LVCF_WIDTH;
-    column.cx = window.right - window.left - GetSystemMetrics(SM_CXVSCROLL) - ScaleX(kIconCell);
     SendMessageW(list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
 }
 

@@ -17,6 +17,7 @@ class CategoryDialog : public FullScreenDialog, private CategoryListener {
   protected:
     bool OnInitDialog() override;
     bool OnInit() override;
+    std::span<const Fill> Fills() const override;
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnDrawItem(const DRAWITEMSTRUCT& item) override;
@@ -25,7 +26,6 @@ class CategoryDialog : public FullScreenDialog, private CategoryListener {
     void OnCategoryChange(CategoryChange change, int index) override;
 
     void CreateListColumn();
-    void FitListToScreen();
     // Lists the categories with a name and selects one of them, by its index; -1 for none.
     void ListCategories(int selected);
     // The index of the selected category; -1 for none.

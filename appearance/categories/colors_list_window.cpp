@@ -56,14 +56,18 @@ GridPoint CColorsListWindow::Place() const {
                           GetSystemMetrics(SM_CYSCREEN), ScaleY(1));
 }
 
+// Above all else, the menu bar included, as a drop-down list is.
+void CColorsListWindow::MoveToPlace() const {
+    const GridPoint place = Place();
+    SetWindowPos(hwnd(), HWND_TOPMOST, place.x, place.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
 bool CColorsListWindow::Run(const GridCell& selected) {
     if (!hwnd() || state_ == State::kOpen) return false;
     selected_ = selected;
     state_ = State::kOpen;
-    const GridPoint place = Place();
-    // Above all else, the menu bar included, as a drop-down list is.
-    SetWindowPos(hwnd(), HWND_TOPMOST, place.x, place.y, 0, 0,
-                 SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    MoveToPlace();
     SetCapture(hwnd());
 
     MSG message = {};
@@ -110,6 +114,10 @@ std::optional<LRESULT> CColorsListWindow::OnMessage(UINT message, WPARAM wParam,
         case WM_LBUTTONUP: PostMessageW(hwnd(), WM_KEYDOWN, VK_RETURN, 0); return 0;
         case WM_CAPTURECHANGED:
             if (reinterpret_cast<HWND>(lParam) != hwnd()) Dismiss();
+            return 0;
+        // The screen may have been turned, and the button with it.
+        case WM_SETTINGCHANGE:
+            if (state_ == State::kOpen) MoveToPlace();
             return 0;
         case WM_CLOSE: Dismiss(); return 0;
         case WM_DESTROY: state_ = State::kDismissed; return 0;

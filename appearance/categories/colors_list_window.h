@@ -33,6 +33,7 @@ class CColorsListWindow : public Window {
     enum class State { kClosed, kOpen, kConfirmed, kDismissed };
 
     GridPoint Place() const;
+    void MoveToPlace() const;
     void OnKey(WPARAM key);
     void OnStylusDown(int x, int y);
     void OnPaint();

@@ -18,6 +18,7 @@ constexpr int kIndent = 10;
 constexpr int kRight = 3;
 constexpr int kStatusBarWidth = 3;
 constexpr int kGap = 2;  // beside the subject
+constexpr int kLowestRow = 15, kHighestRow = 24;
 // The modes of a title pattern that show more than one line.
 constexpr std::int32_t kWholeSubjectOfSelected = 1;
 constexpr std::int32_t kWholeSubject = 2;
@@ -40,7 +41,10 @@ std::optional<ItemIcon> IconOf(wchar_t field) {
 }  // namespace
 
 SampleList::SampleList(HDC dc, const RECT& area, int rows)
-    : dc_(dc), area_(area), rowHeight_(static_cast<int>(area.bottom - area.top) / rows) {
+    : dc_(dc),
+      area_(area),
+      rowHeight_(std::clamp(static_cast<int>(area.bottom - area.top) / rows, ScaleY(kLowestRow),
+                            ScaleY(kHighestRow))) {
     SetBkMode(dc, TRANSPARENT);
     PaintTodayBackground(dc, area);
     textColor_ = GetTextColor(dc);

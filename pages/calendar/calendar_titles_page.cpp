@@ -24,6 +24,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_TITLE_MODE),
 };
 
+constexpr Fill kFills[] = {{IDC_TITLE_FIELDS, 60, 88}, {IDC_TITLE_PREVIEW, 24}};
+
 // The lists whose titles can be edited, in the order of the drop-down.
 struct TitledList {
     unsigned label;
@@ -152,4 +154,4 @@ void CalendarTitlesPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }  // namespace
 
 constexpr PageDescription kCalendarTitlesPage = {IDD_CALENDAR_TITLES, L"calendar_titles", kRows,
-                                                 MakePage<CalendarTitlesPage>};
+                                                 MakePage<CalendarTitlesPage>, kFills};

@@ -11,6 +11,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_FLAG_NOTE, &CDiarySettings::contactPattern),
 };
 
+constexpr Fill kFills[] = {{IDC_TITLE_PREVIEW, 14}};
+
 std::unique_ptr<OptionsPage> Make(const PageDescription& description) {
     return MakeFlagIconsPage(description, &TitleDraft::contact, ItemIcon::kContact,
                              IDS_SAMPLE_CONTACT);
@@ -18,4 +20,5 @@ std::unique_ptr<OptionsPage> Make(const PageDescription& description) {
 
 }  // namespace
 
-constexpr PageDescription kContactsIconsPage = {IDD_CONTACTS_ICONS, L"contacts_icons", kRows, Make};
+constexpr PageDescription kContactsIconsPage = {IDD_CONTACTS_ICONS, L"contacts_icons", kRows, Make,
+                                                kFills};

@@ -21,6 +21,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_TITLE_DOWN),
 };
 
+constexpr Fill kFills[] = {{IDC_TITLE_FIELDS, 50}, {IDC_TITLE_PREVIEW, 54}};
+
 constexpr int kLines = 5;  // of the preview
 
 // The entries of the address list; the number is stored.
@@ -108,4 +110,4 @@ void ContactsViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }  // namespace
 
 constexpr PageDescription kContactsViewStylePage = {IDD_CONTACTS_VIEW_STYLE, L"contacts_view_style",
-                                                    kRows, MakePage<ContactsViewStylePage>};
+                                                    kRows, MakePage<ContactsViewStylePage>, kFills};

@@ -53,14 +53,17 @@ class GeneralCommonPage : public OptionsPage {
     // What a height that adjusts itself was before is neither checked nor stored.
     bool HeightIsEdited() const { return IsWindowEnabled(Item(IDC_HEIGHT)) != FALSE; }
 
-    int smallest_ = 0;  // pixels
-    int shown_ = 0;     // the height in pixels that the page opens with
+    int smallest_ = 0;      // pixels
+    int shown_ = 0;         // the height in pixels that the page opens with
+    bool isKnown_ = false;  // what `smallest_` follows from could be read
     bool landscape_ = false;
 };
 
 void GeneralCommonPage::OnLoad(PageValues& values) {
+    const Registration registration = Registration::Probe();
     smallest_ = SmallestHeight(values.Read(settings::ShowTabs),
-                               Registration::Probe().state == Registration::kTabPerHostTab);
+                               registration.state == Registration::kTabPerHostTab);
+    isKnown_ = !registration.unknown && !values.HasUnread();
     landscape_ = GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN);
     int shown = smallest_;
     for (const bool landscape : {false, true}) {
@@ -68,7 +71,7 @@ void GeneralCommonPage::OnLoad(PageValues& values) {
         auto height = static_cast<std::int32_t>(values.Read(setting));
         if (height < smallest_) {
             height = smallest_;
-            values.Write(setting, static_cast<std::uint32_t>(height));
+            if (isKnown_) values.Write(setting, static_cast<std::uint32_t>(height));
         }
         if (landscape == landscape_) shown = height;
     }
@@ -117,9 +120,9 @@ bool GeneralCommonPage::OnCheck() {
 }
 
 void GeneralCommonPage::OnSave(PageValues& values) {
-    if (HeightIsEdited()) {
-        values.Write(settings::HeightFor(landscape_, smallest_),
-                     GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+    const UINT height = GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE);
+    if (HeightIsEdited() && (isKnown_ || static_cast<int>(height) != shown_)) {
+        values.Write(settings::HeightFor(landscape_, smallest_), height);
     }
     values.Write(settings::CurrentPIM, static_cast<std::uint32_t>(ChosenValue(*this, IDC_PIM, 0)));
 }

@@ -22,6 +22,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_FONT_CLEARTYPE, settings::ClearTypeOnPage).DisabledBy(IDC_FONT_SYSTEM),
     rows::NoValue(IDC_FONT_CLEARTYPE_LABEL).DisabledBy(IDC_FONT_SYSTEM),
 };
+
+constexpr Fill kFills[] = {{IDC_FONT_PREVIEW, 20}};
 constexpr int kSampleMargin = 4;
 
 // Faces that begin with "@" are turned for vertical writing.
@@ -148,4 +150,4 @@ std::optional<INT_PTR> GeneralFontPage::OnMessage(UINT message, WPARAM wParam, L
 }  // namespace
 
 constexpr PageDescription kGeneralFontPage = {IDD_GENERAL_FONT, L"general_font", kRows,
-                                              MakePage<GeneralFontPage>};
+                                              MakePage<GeneralFontPage>, kFills};

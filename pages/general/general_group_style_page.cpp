@@ -17,6 +17,8 @@ constexpr Row kRows[] = {
     rows::Check(IDC_DOUBLE_TAP_SCROLL, &CDiarySettings::doubleTapOnScrollButton),
 };
 
+constexpr Fill kFills[] = {{IDC_STRIPE_PREVIEW, 30}};
+
 // How the headings of groups look, and what taps do.
 class GeneralGroupStylePage : public OptionsPage {
   public:
@@ -46,4 +48,4 @@ void GeneralGroupStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }  // namespace
 
 constexpr PageDescription kGeneralGroupStylePage = {IDD_GENERAL_GROUP_STYLE, L"general_group_style",
-                                                    kRows, MakePage<GeneralGroupStylePage>};
+                                                    kRows, MakePage<GeneralGroupStylePage>, kFills};

@@ -17,6 +17,8 @@ namespace {
 
 constexpr Row kRows[] = {rows::Own(IDC_SKIN, settings::SkinName)};
 
+constexpr Fill kFills[] = {{IDC_SKIN_ICONS, 0}, {IDC_SKIN_SAMPLE, 27}};
+
 void AddSkin(HWND list, const wchar_t* name) {
     SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
 }
@@ -33,6 +35,7 @@ class GeneralSkinsPage : public OptionsPage {
 
   private:
     void ListSkins();
+    void ShowHint(const std::wstring& hint);
     void SelectSkin(const std::wstring& name);
     void OnSkinChosen();
     static std::wstring HintOf(const std::wstring& skin, const SkinArt::Fault& fault);
@@ -43,6 +46,14 @@ class GeneralSkinsPage : public OptionsPage {
 void GeneralSkinsPage::OnTranslated() {
     GetSkinArt().Reset();  // Other programs may have chosen another skin.
     ListSkins();
+    ShowHint({});
+}
+
+// Without a hint its place is the sample's.
+void GeneralSkinsPage::ShowHint(const std::wstring& hint) {
+    SetWindowTextW(Item(IDC_SKIN_HINT), hint.c_str());
+    ShowWindow(Item(IDC_SKIN_HINT), hint.empty() ? SW_HIDE : SW_SHOW);
+    LayOut();
 }
 
 void GeneralSkinsPage::ListSkins() {
@@ -94,8 +105,7 @@ void GeneralSkinsPage::OnSkinChosen() {
         OpenProductKey().Write(settings::SkinName, startingSkin_);
         GetSkinArt().Reset();
     }
-    const std::wstring hint = fault ? HintOf(ItemText(IDC_SKIN, chosen), *fault) : L"";
-    SetWindowTextW(Item(IDC_SKIN_HINT), hint.c_str());
+    ShowHint(fault ? HintOf(ItemText(IDC_SKIN, chosen), *fault) : L"");
     for (const int preview : {IDC_SKIN_ICONS, IDC_SKIN_SCROLL_BAR, IDC_SKIN_SAMPLE}) {
         InvalidateRect(Item(preview), nullptr, TRUE);
     }
@@ -112,4 +122,4 @@ void GeneralSkinsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }  // namespace
 
 constexpr PageDescription kGeneralSkinsPage = {IDD_GENERAL_SKINS, L"general_skins", kRows,
-                                               MakePage<GeneralSkinsPage>};
+                                               MakePage<GeneralSkinsPage>, kFills};

@@ -21,6 +21,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_TABS_UP),
     rows::Own(IDC_TABS_DOWN),
 };
+
+constexpr Fill kFills[] = {{IDC_TABS_LIST, 34}};
 constexpr int kLastTab = static_cast<int>(kDiaryTabs.size()) - 1;
 
 const DiaryTab& Tab(int index) { return kDiaryTabs[static_cast<std::size_t>(index)]; }
@@ -99,9 +101,11 @@ void GeneralTabsPage::OnSave(PageValues& values) {
     values.Write(settings::ShowTabs, layout.shown);
     values.Write(settings::ShowTabsSequence, layout.Sequence());
 
-    const bool apart = Registration::Probe().state == Registration::kTabPerHostTab;
+    const Registration registration = Registration::Probe();
+    const bool apart = registration.state == Registration::kTabPerHostTab;
     const int smallest = SmallestHeight(layout.shown, apart);
     for (const bool landscape : {false, true}) {
+        if (registration.unknown) break;  // The height may do as it is.
         const NumberSetting height = settings::HeightFor(landscape, kUsualHeight);
         if (static_cast<std::int32_t>(values.Read(height)) < smallest) {
             values.Write(height, static_cast<std::uint32_t>(smallest));
@@ -120,4 +124,4 @@ void GeneralTabsPage::OnSave(PageValues& values) {
 }  // namespace
 
 constexpr PageDescription kGeneralTabsPage = {IDD_GENERAL_TABS, L"general_tabs", kRows,
-                                              MakePage<GeneralTabsPage>};
+                                              MakePage<GeneralTabsPage>, kFills};

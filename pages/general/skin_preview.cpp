@@ -16,6 +16,7 @@ namespace {
 constexpr int kTabGap = 4;     // beside a tab's icon
 constexpr int kTabMargin = 1;  // above and below it
 constexpr int kRowHeight = 17;
+constexpr int kIconRowHeight = 14;  // at least
 
 struct SampleItem {
     unsigned text;
@@ -49,14 +50,15 @@ void PaintItemIcons(HDC dc, const RECT& rect) {
     Fill(dc, rect, COLOR_WINDOW);
     SkinArt& art = GetSkinArt();
     if (art.LoadIcons() == SkinArt::kFailed) return;
-    constexpr int kColumns = 10;
-    constexpr int kRows = kItemIconCount / kColumns;
-    const int columnWidth = static_cast<int>(rect.right - rect.left) / kColumns;
-    const int rowHeight = static_cast<int>(rect.bottom - rect.top) / kRows;
+    const int height = static_cast<int>(rect.bottom - rect.top);
+    const int rows = std::max(1, height / ScaleY(kIconRowHeight));
+    const int columns = (kItemIconCount + rows - 1) / rows;
+    const int columnWidth = static_cast<int>(rect.right - rect.left) / columns;
+    const int rowHeight = height / rows;
     for (int i = 0; i < kItemIconCount; ++i) {
         const int margin = (rowHeight - static_cast<int>(art.Icons()->PieceSize(i).cy)) / 2;
-        art.Icons()->Draw(dc, i, rect.left + i % kColumns * columnWidth,
-                          rect.top + i / kColumns * rowHeight + margin);
+        art.Icons()->Draw(dc, i, rect.left + i % columns * columnWidth,
+                          rect.top + i / columns * rowHeight + margin);
     }
 }
 

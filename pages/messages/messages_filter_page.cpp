@@ -27,6 +27,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_MAIL_FILTER_DELETE),
 };
 
+constexpr Fill kFills[] = {{IDC_MAIL_FOLDERS, 20}};
+
 // In the order of the filters that every device has.
 constexpr unsigned kBuiltInNames[] = {IDS_DELETED_ITEMS, IDS_DRAFTS, IDS_INBOX, IDS_OUTBOX,
                                       IDS_SENT_ITEMS};
@@ -352,4 +354,4 @@ void MessagesFilterPage::OnSave(PageValues&) {
 }  // namespace
 
 constexpr PageDescription kMessagesFilterPage = {IDD_MESSAGES_FILTER, L"messages_filter", kRows,
-                                                 MakePage<MessagesFilterPage>};
+                                                 MakePage<MessagesFilterPage>, kFills};

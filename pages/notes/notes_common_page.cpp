@@ -33,6 +33,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_NOTES_LAYOUT, settings::TabLayoutActive),
     rows::Own(IDC_NOTES_LAYOUT, &CDiarySettings::keypadNoLanguageSwitch),
 };
+
+constexpr Fill kFills[] = {{IDC_NOTES_PREVIEW, 30}};
 // The plug-in's codes of groupings.
 constexpr std::int32_t kGroupByLetter = 501, kGroupByCategory = 551, kGroupByFolder = 559;
 constexpr std::uint32_t kSampleBytes = 1536;
@@ -100,4 +102,4 @@ void NotesCommonPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }  // namespace
 
 constexpr PageDescription kNotesCommonPage = {IDD_NOTES_COMMON, L"notes_common", kRows,
-                                              MakePage<NotesCommonPage>};
+                                              MakePage<NotesCommonPage>, kFills};

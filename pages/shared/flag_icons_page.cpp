@@ -71,13 +71,10 @@ void FlagIconsPage::OnDrawItem(const DRAWITEMSTRUCT& item) {
     }
     SkinArt& art = GetSkinArt();
     if (art.LoadIcons() == SkinArt::kFailed) return;
-    RECT place;
-    GetWindowRect(item.hwndItem, &place);
     for (const Flag& flag : kFlags) {
-        RECT box;
-        if (!GetWindowRect(Item(flag.control), &box)) continue;  // not on this page
+        if (flag.control + FLAG_PICTURE != static_cast<int>(item.CtlID)) continue;
         const SIZE size = art.Icons()->PieceSize(static_cast<int>(flag.icon));
-        art.DrawItemIcon(item.hDC, flag.icon, 0, (box.top + box.bottom - size.cy) / 2 - place.top);
+        art.DrawItemIcon(item.hDC, flag.icon, 0, (item.rcItem.bottom - size.cy) / 2);
     }
 }
 

@@ -24,6 +24,11 @@ LayoutsDialog::LayoutsDialog(std::wstring title, LayoutSelection& selection)
       title_(std::move(title)),
       selection_(selection) {}
 
+std::span<const Fill> LayoutsDialog::Fills() const {
+    static constexpr Fill kFills[] = {{IDC_LAYOUTS_LIST, 30}};
+    return kFills;
+}
+
 bool LayoutsDialog::OnInit() {
     SetWindowTextW(hwnd(), title_.c_str());
     list_.Attach(Item(IDC_LAYOUTS_LIST), CheckList::Order::kFixed);

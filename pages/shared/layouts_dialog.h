@@ -22,6 +22,7 @@ class LayoutsDialog : public FullScreenDialog {
     LayoutsDialog(std::wstring title, LayoutSelection& selection);
 
   protected:
+    std::span<const Fill> Fills() const override;
     bool OnInit() override;
     bool OnCommand(int id, int code) override;
     std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -43,7 +43,8 @@ bool DatabaseRecord::Read(HANDLE database, std::initializer_list<CEPROPID> prope
         GetDatabaseLayer().ReadRecord(database, &count, wanted.data(), &buffer, &size);
     // A record that has none of the properties is one all the same.
     const bool read = oid || GetLastError() == ERROR_NO_DATA;
-    const auto values = reinterpret_cast<const CEPROPVAL*>(buffer);
+    const void* const block = buffer;
+    const auto values = static_cast<const CEPROPVAL*>(block);
     for (std::size_t i = 0; oid && i < values_.size() && i < count; ++i) {
         if (values[i].propid != wanted[i] || values[i].wFlags & CEDB_PROPNOTFOUND) continue;
         values_[i].number = NumberOf(values[i]);

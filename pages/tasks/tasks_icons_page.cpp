@@ -12,10 +12,12 @@ constexpr Row kRows[] = {
     rows::Own(IDC_FLAG_LOW_PRIORITY, kPattern), rows::Own(IDC_FLAG_NOTE, kPattern),
 };
 
+constexpr Fill kFills[] = {{IDC_TITLE_PREVIEW, 14}};
+
 std::unique_ptr<OptionsPage> Make(const PageDescription& description) {
     return MakeFlagIconsPage(description, &TitleDraft::task, ItemIcon::kTaskOpen, IDS_SAMPLE_TASK);
 }
 
 }  // namespace
 
-constexpr PageDescription kTasksIconsPage = {IDD_TASKS_ICONS, L"tasks_icons", kRows, Make};
+constexpr PageDescription kTasksIconsPage = {IDD_TASKS_ICONS, L"tasks_icons", kRows, Make, kFills};

@@ -15,6 +15,8 @@ constexpr Row kRows[] = {
     rows::Own(IDC_TITLE_DOWN),
 };
 
+constexpr Fill kFills[] = {{IDC_TITLE_FIELDS, 30, 88}, {IDC_TITLE_PREVIEW, 20}};
+
 // What stands in the lines of tasks.
 class TasksViewStylePage : public TitlePage {
   public:
@@ -45,4 +47,4 @@ void TasksViewStylePage::OnDrawItem(const DRAWITEMSTRUCT& item) {
 }  // namespace
 
 constexpr PageDescription kTasksViewStylePage = {IDD_TASKS_VIEW_STYLE, L"tasks_view_style", kRows,
-                                                 MakePage<TasksViewStylePage>};
+                                                 MakePage<TasksViewStylePage>, kFills};

@@ -66,6 +66,15 @@ class MenuBar {
     bool BelongsTo(HWND root) const { return root && GetAncestor(parent_, GA_ROOT) == root; }
     bool IsWanted() const { return !hidden_ && IsWindowVisible(parent_); }
 
+    void Place() const {
+        const RECT area = shell::WorkArea();
+        SetWindowPos(hwnd_, nullptr, 0, area.bottom, area.right, shell::BarHeight(),
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        InvalidateRect(hwnd_, nullptr, FALSE);
+        RECT cut;
+        if (GetWindowRgnBox(GetAncestor(parent_, GA_ROOT), &cut) != ERROR) CutFromRoot();
+    }
+
     void Show(bool show) {
         constexpr UINT kFlags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
         if (!show) {
@@ -98,10 +107,10 @@ class MenuBar {
         RECT window, bar, cut;
         GetWindowRect(root, &window);
         GetWindowRect(hwnd_, &bar);
-        const LONG height = bar.top - window.top;
-        if (window.bottom <= bar.top || height <= 0) return;
-        if (GetWindowRgnBox(root, &cut) != ERROR && cut.bottom == height) return;
-        SetWindowRgn(root, CreateRectRgn(0, 0, window.right - window.left, height), TRUE);
+        const RECT rest = {0, 0, window.right - window.left, bar.top - window.top};
+        if (window.bottom <= bar.top || rest.bottom <= 0) return;
+        if (GetWindowRgnBox(root, &cut) != ERROR && EqualRect(&cut, &rest)) return;
+        SetWindowRgn(root, CreateRectRgnIndirect(&rest), TRUE);
     }
 
     static MenuBar* Of(HWND hwnd) {
@@ -297,6 +306,10 @@ void ShowMenuBarsOf(HWND root) {
     for (MenuBar* menuBar : MenuBar::All()) {
         menuBar->Show(menuBar->BelongsTo(root) && menuBar->IsWanted());
     }
+}
+
+void PlaceMenuBars() {
+    for (const MenuBar* menuBar : MenuBar::All()) menuBar->Place();
 }
 
 void MenuOpened(HWND owner) {

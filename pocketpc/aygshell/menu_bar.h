@@ -6,6 +6,9 @@
 // hides those of other windows.
 void ShowMenuBarsOf(HWND root);
 
+// Puts all menu bars at the bottom of the screen.
+void PlaceMenuBars();
+
 // To be called when a popup menu of a window opens or closes: the soft key whose command opened it
 // is lit meanwhile, as it is for a menu of the bar's own.
 void MenuOpened(HWND owner);

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "pocketpc/aygshell/menu_bar.h"
+#include "pocketpc/aygshell/screen_change.h"
 #include "pocketpc/common/shell_windows.h"
 
 namespace {
@@ -18,7 +19,7 @@ bool pressed = false;
 RECT OkButton() {
     const int height = shell::BarHeight();
     const int size = height - 2 * shell::Scale(3);
-    const int right = GetSystemMetrics(SM_CXSCREEN) - shell::Scale(4);
+    const int right = shell::Screen().cx - shell::Scale(4);
     const int top = (height - size) / 2;
     return {right - size, top, right, top + size};
 }
@@ -113,6 +114,11 @@ void SetPressed(bool value) {
 }
 
 LRESULT CALLBACK BarProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == shell::ScreenChangeMessage()) {
+        FollowScreen(hwnd, {LOWORD(wParam), HIWORD(wParam)});
+        ShowMenuBarsOf(WindowOnScreen());
+        return 0;
+    }
     switch (message) {
         case WM_PAINT: Paint(hwnd); return 0;
         case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
@@ -156,6 +162,10 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
                 }
                 break;
             }
+            case WM_WINDOWPOSCHANGING:
+                KeepDropDownListOnScreen(message.hwnd,
+                                         *reinterpret_cast<WINDOWPOS*>(message.lParam));
+                break;
             case WM_ENTERMENULOOP: MenuOpened(message.hwnd); break;
             case WM_EXITMENULOOP: MenuClosed(message.hwnd); break;
             case WM_DESTROY:
@@ -208,8 +218,8 @@ void ShowNavigationBar() {
     windowClass.lpszClassName = L"HHTaskBar";
     RegisterClassW(&windowClass);
     bar = CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"HHTaskBar", L"",
-                          WS_POPUP, 0, 0, GetSystemMetrics(SM_CXSCREEN), shell::BarHeight(),
-                          nullptr, nullptr, windowClass.hInstance, nullptr);
+                          WS_POPUP, 0, 0, shell::Screen().cx, shell::BarHeight(), nullptr, nullptr,
+                          windowClass.hInstance, nullptr);
     SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
     SetWindowsHookExW(WH_KEYBOARD, BeforeKey, nullptr, GetCurrentThreadId());
     activeWindow = GetActiveWindow();

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include "pocketpc/common/screen.h"
+
 namespace shell {
 
 // Window properties: a window that shows the Done button, a window's menu bar.
@@ -24,7 +26,8 @@ inline int BarHeight() { return Scale(26); }
 // What lies between the two bars.
 inline RECT WorkArea() {
     const int bar = BarHeight();
-    return {0, bar, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) - bar};
+    const SIZE screen = Screen();
+    return {0, bar, screen.cx, screen.cy - bar};
 }
 
 inline HFONT CreateBarFont(int weight) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/notices.h"
 
 namespace {
@@ -20,6 +21,12 @@ int CompareAs(const std::string& left, const std::string& right) {
     return a < b ? -1 : a > b ? 1 : 0;
 }
 
+// A string's bytes are aligned for units.
+const wchar_t* Units(const std::string& bytes) {
+    const void* const units = bytes.data();
+    return static_cast<const wchar_t*>(units);
+}
+
 int CompareTexts(DWORD flags, const std::string& left, const std::string& right) {
     DWORD compare = 0;
     if (flags & CEDB_SORT_CASEINSENSITIVE) compare |= NORM_IGNORECASE;
@@ -27,10 +34,8 @@ int CompareTexts(DWORD flags, const std::string& left, const std::string& right)
     if (flags & CEDB_SORT_IGNORESYMBOLS) compare |= NORM_IGNORESYMBOLS;
     if (flags & CEDB_SORT_IGNOREKANATYPE) compare |= NORM_IGNOREKANATYPE;
     if (flags & CEDB_SORT_IGNOREWIDTH) compare |= NORM_IGNOREWIDTH;
-    return CompareStringW(LOCALE_USER_DEFAULT, compare,
-                          reinterpret_cast<const wchar_t*>(left.data()),
-                          static_cast<int>(left.size() / sizeof(wchar_t)),
-                          reinterpret_cast<const wchar_t*>(right.data()),
+    return CompareStringW(LOCALE_USER_DEFAULT, compare, Units(left),
+                          static_cast<int>(left.size() / sizeof(wchar_t)), Units(right),
                           static_cast<int>(right.size() / sizeof(wchar_t))) -
            CSTR_EQUAL;
 }
@@ -89,6 +94,7 @@ std::shared_ptr<Volume> FindDatabase(const CEGUID& guid, CEOID& oid, const wchar
 template <typename IsWanted>
 HANDLE Open(PCEGUID guid, PCEOID oid, LPCWSTR name, DWORD flags, const CENOTIFYREQUEST* request,
             bool sorted, IsWanted isWanted) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return INVALID_HANDLE_VALUE;
     const std::lock_guard lock(Store::Get().mutex());
     if (!guid || !oid || (flags & ~CEDB_AUTOINCREMENT) ||
         (request && (request->dwSize != sizeof *request || !IsWindow(request->hwnd)))) {
@@ -368,6 +374,7 @@ HANDLE WINAPI CeOpenDatabaseInSession(HANDLE session, PCEGUID guid, PCEOID oid, 
 
 CEOID WINAPI CeSeekDatabaseEx(HANDLE handle, DWORD type, DWORD_PTR value, WORD count,
                               LPDWORD index) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     return database ? database->Seek(type, value, count, index) : 0;

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/sipapi.h"
 
 namespace {
@@ -11,7 +12,6 @@ constexpr DWORD kPlatformWindowsCe = 3;
 constexpr UINT kGetSipInfo = 225;
 constexpr UINT kGetPlatformType = 257;
 constexpr UINT kGetOemInfo = 258;
-constexpr int kNavigationBarHeight = 26;  // pixels at 96 dots per inch
 
 std::wstring Entry(const wchar_t* name, const std::wstring& defaultText) {
     wchar_t path[MAX_PATH] = {};
@@ -68,14 +68,10 @@ extern "C" BOOL WINAPI Pocket_SipGetInfo(SIPINFO* info) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    const HDC screen = GetDC(nullptr);
-    const int top = (kNavigationBarHeight * GetDeviceCaps(screen, LOGPIXELSY) + 48) / 96;
-    ReleaseDC(nullptr, screen);
-    const int width = GetSystemMetrics(SM_CXSCREEN);
-    const int height = GetSystemMetrics(SM_CYSCREEN);
+    const SIZE screen = shell::Screen();
     info->fdwFlags = SIPF_OFF | SIPF_DOCKED;
-    info->rcVisibleDesktop = {0, top, width, height};
-    info->rcSipRect = {0, height, width, height};
+    info->rcVisibleDesktop = {0, shell::BarHeight(), screen.cx, screen.cy};
+    info->rcSipRect = {0, screen.cy, screen.cx, screen.cy};
     return TRUE;
 }
 
@@ -85,6 +81,12 @@ extern "C" BOOL WINAPI Pocket_SystemParametersInfoW(UINT action, UINT parameter,
         case kGetPlatformType: return CopyText(ThisDevice().platform, parameter, data);
         case kGetOemInfo: return CopyText(L"Stand-in Pocket PC", parameter, data);
         case kGetSipInfo: return Pocket_SipGetInfo(static_cast<SIPINFO*>(data));
+        // All but the navigation bar, whether or not a program has a menu bar.
+        case SPI_GETWORKAREA: {
+            const SIZE screen = shell::Screen();
+            *static_cast<RECT*>(data) = {0, shell::BarHeight(), screen.cx, screen.cy};
+            return TRUE;
+        }
     }
     return SystemParametersInfoW(action, parameter, data, change);
 }

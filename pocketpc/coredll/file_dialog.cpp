@@ -15,7 +15,7 @@ namespace {
 
 constexpr wchar_t kClass[] = L"PocketPC.FileDialog";
 constexpr wchar_t kDocuments[] = L"\\My Documents";
-constexpr int kMargin = 6, kRow = 28, kControl = 21, kLabel = 52, kButton = 60;
+constexpr int kMargin = 6, kRow = 28, kControl = 21, kLabel = 52, kButton = 60, kDropDown = 140;
 enum { kName = 100, kFolder, kFiles };
 
 class FileDialog {
@@ -67,7 +67,7 @@ class FileDialog {
              int height) {
         const HWND control =
             CreateWindowExW(0, type, text, WS_CHILD | WS_VISIBLE | style, shell::Scale(x),
-                            shell::Scale(y), width, shell::Scale(height), hwnd_,
+                            shell::Scale(y), shell::Scale(width), shell::Scale(height), hwnd_,
                             reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), nullptr, nullptr);
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font_), FALSE);
         return control;
@@ -75,35 +75,50 @@ class FileDialog {
 
     void CreateControls() {
         font_ = shell::CreateBarFont(FW_NORMAL);
-        RECT client;
-        GetClientRect(hwnd_, &client);
-        const int right = client.right - shell::Scale(kMargin);
         const int column = kMargin + kLabel;
-        const int width = right - shell::Scale(column);
         int y = kMargin;
         if (save_) {
-            Add(L"STATIC", L"Name:", 0, -1, kMargin, y + 3, shell::Scale(kLabel), kControl);
+            Add(L"STATIC", L"Name:", 0, -1, kMargin, y + 3, kLabel, kControl);
             name_ = Add(L"EDIT", FileName().c_str(), WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, kName,
-                        column, y, width, kControl);
+                        column, y, 0, kControl);
             y += kRow;
         }
-        Add(L"STATIC", L"Folder:", 0, -1, kMargin, y + 3, shell::Scale(kLabel), kControl);
+        Add(L"STATIC", L"Folder:", 0, -1, kMargin, y + 3, kLabel, kControl);
         folder_ = Add(L"COMBOBOX", L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, kFolder, column,
-                      y, width, 140);
+                      y, 0, kDropDown);
         y += kRow;
-        const int buttons = client.bottom - shell::Scale(kRow);
         files_ =
             Add(L"LISTBOX", L"",
                 LBS_NOTIFY | LBS_SORT | LBS_NOINTEGRALHEIGHT | WS_BORDER | WS_VSCROLL | WS_TABSTOP,
-                kFiles, kMargin, y, right - shell::Scale(kMargin), 0);
-        MoveWindow(files_, shell::Scale(kMargin), shell::Scale(y), right - shell::Scale(kMargin),
-                   buttons - shell::Scale(y + kMargin), FALSE);
-        int x = kMargin;
-        for (const auto& [id, text] : {std::pair(IDOK, L"OK"), std::pair(IDCANCEL, L"Cancel")}) {
-            const HWND button = Add(L"BUTTON", text, WS_TABSTOP, id, 0, 0, 0, 0);
-            MoveWindow(button, shell::Scale(x), buttons, shell::Scale(kButton),
-                       shell::Scale(kControl), FALSE);
-            x += kButton + kMargin;
+                kFiles, kMargin, y, 0, 0);
+        Add(L"BUTTON", L"OK", WS_TABSTOP, IDOK, kMargin, 0, kButton, kControl);
+        Add(L"BUTTON", L"Cancel", WS_TABSTOP, IDCANCEL, 2 * kMargin + kButton, 0, kButton,
+            kControl);
+        Layout();
+    }
+
+    // The fields reach to the right margin, the buttons stand at the bottom, the list fills the
+    // rest.
+    void Layout() const {
+        RECT client;
+        GetClientRect(hwnd_, &client);
+        const int right = client.right - shell::Scale(kMargin);
+        const int buttons = client.bottom - shell::Scale(kRow);
+        const auto stretch = [&](HWND control, int height) {
+            if (!control) return;
+            RECT area;
+            GetWindowRect(control, &area);
+            MapWindowPoints(nullptr, hwnd_, reinterpret_cast<POINT*>(&area), 2);
+            MoveWindow(control, area.left, area.top, right - area.left,
+                       height ? height : buttons - shell::Scale(kMargin) - area.top, TRUE);
+        };
+        stretch(name_, shell::Scale(kControl));
+        stretch(folder_, shell::Scale(kDropDown));
+        stretch(files_, 0);
+        for (const int id : {IDOK, IDCANCEL}) {
+            const int x = id == IDOK ? kMargin : 2 * kMargin + kButton;
+            SetWindowPos(GetDlgItem(hwnd_, id), nullptr, shell::Scale(x), buttons, 0, 0,
+                         SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
         }
     }
 
@@ -212,6 +227,9 @@ class FileDialog {
         }
         auto* const dialog = reinterpret_cast<FileDialog*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
         switch (message) {
+            case WM_SIZE:
+                if (dialog->files_) dialog->Layout();
+                return 0;
             case WM_COMMAND: dialog->OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
             case WM_CLOSE: dialog->ended_ = true; return 0;
             case WM_DESTROY: dialog->ended_ = true; break;  // It may go with its owner.

@@ -5,13 +5,14 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pocketpc/common/shell_windows.h"
 
 namespace {
 
-HHOOK hook = nullptr;
+HWND box = nullptr;  // the one that shows
 
 struct Parts {
     HWND icon = nullptr;
@@ -162,10 +163,14 @@ void FitToScreen(HWND box) {
 LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = CallNextHookEx(nullptr, code, wParam, lParam);
     const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && message.message == WM_INITDIALOG && hook) {
-        UnhookWindowsHookEx(hook);
-        hook = nullptr;
-        FitToScreen(message.hwnd);
+    if (code != HC_ACTION) return result;
+    if (message.message == WM_INITDIALOG && !box) {
+        box = message.hwnd;
+        FitToScreen(box);
+    } else if (message.message == WM_SETTINGCHANGE && message.hwnd == box &&
+               message.wParam == shell::kScreenReset) {
+        FitToScreen(box);
+        InvalidateRect(box, nullptr, TRUE);
     }
     return result;
 }
@@ -173,9 +178,11 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 int WINAPI Pocket_MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type) {
-    hook = SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
+    const HWND outer = std::exchange(box, nullptr);
+    const HHOOK hook =
+        SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
     const int answer = MessageBoxW(owner, text, caption, type);
-    if (hook) UnhookWindowsHookEx(hook);
-    hook = nullptr;
+    UnhookWindowsHookEx(hook);
+    box = outer;
     return answer;
 }

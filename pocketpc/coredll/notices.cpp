@@ -2,6 +2,9 @@
 // each listening process has on a thread of its own.
 #include "pocketpc/coredll/notices.h"
 
+#include <cwchar>
+#include <iterator>
+
 #include "pocketpc/coredll/database.h"
 #include "pocketpc/coredll/store.h"
 
@@ -14,17 +17,28 @@ UINT NoticeMessage() {
     return message;
 }
 
-// A notice in two parameters: a volume's identifier has two words that differ between volumes, of
-// which half of one is left out; codes are small, and a parent is a record's database or nothing.
-static_assert(sizeof(WPARAM) == 8 && sizeof(LPARAM) == 8);
+// A notice is longer than a message's parameters where these have 32 bits. It goes as the name of a
+// global atom, which each receiver gives up; the parent is a record's database or nothing.
+constexpr wchar_t kNoticeFormat[] = L"%lx %lx %lx %lx %lx %x %lx";
+constexpr int kNoticeLength = 7 * 9;
 
-WPARAM PackVolume(const Notice& notice) {
-    return WPARAM{notice.volume.Data2} << 32 | WPARAM{notice.volume.Data3 & 0xFFFF} << 16 |
-           notice.code;
+ATOM AddNotice(const Notice& notice) {
+    wchar_t text[kNoticeLength] = {};
+    const CEGUID& volume = notice.volume;
+    std::swprintf(text, std::size(text), kNoticeFormat, volume.Data1, volume.Data2, volume.Data3,
+                  volume.Data4, notice.database, notice.code, notice.oid);
+    return GlobalAddAtomW(text);
 }
 
-LPARAM PackObjects(const Notice& notice) {
-    return static_cast<LPARAM>(ULONG_PTR{notice.database} << 32 | notice.oid);
+bool TakeNotice(ATOM atom, Notice& notice) {
+    wchar_t text[kNoticeLength] = {};
+    GlobalGetAtomNameW(atom, text, kNoticeLength);
+    GlobalDeleteAtom(atom);
+    CEGUID& volume = notice.volume;
+    const int words = std::swscanf(text, kNoticeFormat, &volume.Data1, &volume.Data2, &volume.Data3,
+                                   &volume.Data4, &notice.database, &notice.code, &notice.oid);
+    notice.parent = notice.code == DB_CEOID_DATABASE_DELETED ? 0 : notice.database;
+    return words == 7;
 }
 
 void Post(const OpenDatabase& database, const Notice& notice) {
@@ -46,31 +60,20 @@ void Post(const OpenDatabase& database, const Notice& notice) {
     }
 }
 
-// Posts to this process's handles which `isMeant` says are meant.
-template <typename IsMeant>
-void Deliver(Notice notice, HANDLE changer, IsMeant isMeant) {
+// Posts to this process's handles.
+void Deliver(const Notice& notice, HANDLE changer) {
     Store& store = Store::Get();
     const std::lock_guard lock(store.mutex());
     store.ForEach<OpenDatabase>([&](HANDLE handle, const OpenDatabase& database) {
         if (handle == changer || !database.request() || database.oid() != notice.database) return;
-        const CEGUID volume = store.IdentifierOf(database.volume());
-        if (!isMeant(volume)) return;
-        notice.volume = volume;
-        Post(database, notice);
+        if (IsSame(store.IdentifierOf(database.volume()), notice.volume)) Post(database, notice);
     });
 }
 
 LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != NoticeMessage()) return DefWindowProcW(hwnd, message, wParam, lParam);
     Notice notice = {};
-    notice.code = LOWORD(wParam);
-    notice.database = static_cast<CEOID>(static_cast<ULONG_PTR>(lParam) >> 32);
-    notice.oid = static_cast<CEOID>(lParam);
-    notice.parent = notice.code == DB_CEOID_DATABASE_DELETED ? 0 : notice.database;
-    Deliver(notice, nullptr, [&](const CEGUID& volume) {
-        notice.volume = volume;
-        return PackVolume(notice) == wParam;
-    });
+    if (TakeNotice(static_cast<ATOM>(wParam), notice)) Deliver(notice, nullptr);
     return 0;
 }
 
@@ -106,13 +109,14 @@ void ListenForNotices() {
 }
 
 void SendNotice(const Notice& notice, HANDLE changer) {
-    Deliver(notice, changer, [&](const CEGUID& volume) { return IsSame(volume, notice.volume); });
+    Deliver(notice, changer);
     HWND window = nullptr;
     while ((window = FindWindowExW(HWND_MESSAGE, window, kClass, nullptr))) {
         DWORD process = 0;
         GetWindowThreadProcessId(window, &process);
         if (process == GetCurrentProcessId()) continue;
-        PostMessageW(window, NoticeMessage(), PackVolume(notice), PackObjects(notice));
+        const ATOM atom = AddNotice(notice);
+        if (!PostMessageW(window, NoticeMessage(), atom, 0)) GlobalDeleteAtom(atom);
     }
 }
 

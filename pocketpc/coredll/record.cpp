@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/database.h"
 #include "pocketpc/coredll/notices.h"
 
@@ -53,7 +54,8 @@ class Block {
 
     // Returns how many of the properties were there.
     int Write(BYTE* buffer) const {
-        const auto array = reinterpret_cast<CEPROPVAL*>(buffer);
+        void* const block = buffer;
+        const auto array = static_cast<CEPROPVAL*>(block);
         BYTE* rest = buffer + ids_.size() * sizeof(CEPROPVAL);
         int present = 0;
         for (std::size_t i = 0; i < ids_.size(); ++i) {
@@ -69,11 +71,12 @@ class Block {
                 std::memcpy(&array[i].val, bytes->data(), std::min(bytes->size(), size));
                 continue;
             }
+            void* const value = rest;
             const std::size_t room = Room(ids_[i], *bytes);
-            std::memset(rest, 0, room);
-            std::memcpy(rest, bytes->data(), bytes->size());
+            std::memset(value, 0, room);
+            std::memcpy(value, bytes->data(), bytes->size());
             if (TypeFromPropID(ids_[i]) == CEVT_LPWSTR) {
-                array[i].val.lpwstr = reinterpret_cast<LPWSTR>(rest);
+                array[i].val.lpwstr = static_cast<LPWSTR>(value);
             } else {
                 array[i].val.blob = {static_cast<DWORD>(bytes->size()), rest};
             }
@@ -101,6 +104,7 @@ class Block {
 // Makes the caller's block at least `needed` bytes large.
 bool Grow(LPBYTE* buffer, DWORD size, DWORD needed, HANDLE heap) {
     if (*buffer && size >= needed) return true;
+    if (failing::Fails(failing::kMemory, ERROR_NOT_ENOUGH_MEMORY)) return false;
     void* grown = nullptr;
     if (heap) {
         grown = *buffer ? HeapReAlloc(heap, 0, *buffer, needed) : HeapAlloc(heap, 0, needed);
@@ -171,6 +175,7 @@ extern "C" {
 
 CEOID WINAPI CeReadRecordPropsEx(HANDLE handle, DWORD flags, LPWORD count, CEPROPID* ids,
                                  LPBYTE* buffer, LPDWORD size, HANDLE heap) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     if (!database) return 0;
@@ -207,6 +212,8 @@ CEOID WINAPI CeReadRecordProps(HANDLE handle, DWORD flags, LPWORD count, CEPROPI
 }
 
 CEOID WINAPI CeWriteRecordProps(HANDLE handle, CEOID record, WORD count, CEPROPVAL* values) {
+    if (const DWORD error = failing::StoringError(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY))
+        return Refuse(error);
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     if (!database) return 0;
@@ -244,6 +251,7 @@ CEOID WINAPI CeWriteRecordProps(HANDLE handle, CEOID record, WORD count, CEPROPV
 }
 
 BOOL WINAPI CeDeleteRecord(HANDLE handle, CEOID record) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return FALSE;
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     if (!database) return FALSE;

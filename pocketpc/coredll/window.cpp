@@ -1,6 +1,8 @@
 // Window calls whose manners differ.
 #include <windows.h>
 
+#include "pocketpc/common/screen.h"
+
 namespace {
 
 // Means nothing on the device; on the desktop it asks for a child of an MDI window, which fails.
@@ -43,6 +45,22 @@ extern "C" HWND WINAPI Pocket_GetWindow(HWND hwnd, UINT relation) {
         return FindWindowW(L"DesktopExplorerWindow", nullptr);
     }
     return GetWindow(hwnd, relation);
+}
+
+// The display may be larger than the screen, which can be turned on it.
+extern "C" int WINAPI Pocket_GetSystemMetrics(int index) {
+    if (index == SM_CXSCREEN) return shell::Screen().cx;
+    if (index == SM_CYSCREEN) return shell::Screen().cy;
+    return GetSystemMetrics(index);
+}
+
+extern "C" BOOL WINAPI Pocket_GetWindowRect(HWND hwnd, RECT* rect) {
+    if (!GetWindowRect(hwnd, rect)) return FALSE;
+    if (hwnd == GetDesktopWindow()) {
+        const SIZE screen = shell::Screen();
+        *rect = {0, 0, screen.cx, screen.cy};
+    }
+    return TRUE;
 }
 
 extern "C" DWORD WINAPI Pocket_GetSysColor(int index) { return GetSysColor(DesktopColor(index)); }

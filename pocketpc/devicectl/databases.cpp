@@ -163,7 +163,8 @@ std::vector<RecordText> ListRecords(const OpenedDatabase& database) {
                                             &buffer, &size);
         if (!oid && GetLastError() != ERROR_NO_DATA) break;
         RecordText record = {oid, {}};
-        const auto values = reinterpret_cast<const CEPROPVAL*>(buffer);
+        const void* const block = buffer;
+        const auto values = static_cast<const CEPROPVAL*>(block);
         for (WORD i = 0; i < count; ++i) record.values.push_back(ValueText(values[i]));
         list.push_back(std::move(record));
     }

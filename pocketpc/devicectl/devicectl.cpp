@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "pocketpc/common/screen.h"
 #include "pocketpc/common/text.h"
 #include "pocketpc/devicectl/databases.h"
 #include "pocketpc/devicectl/furnish.h"
@@ -34,6 +35,8 @@ constexpr char kUsage[] =
   devicectl mail-account NAME SERVICE          a new account; prints its number
   devicectl mail-folder N NAME [KIND]          a new folder in account or folder N; prints its number
   devicectl mail-remove N                      account or folder N with all below it
+  devicectl screen WIDTHxHEIGHT                the upper left part of the display becomes the screen
+  devicectl turn                               holds the screen the other way up
 
 A VOLUME is a file such as \pim.vol, or "store" for the object store itself. A KEY begins with HKCU or HKLM.
 A VALUE is NUMBER:TYPE=DATA, as in 2:string=Business. Types: i2 ui2 i4 ui4 r8 bool string time blob recid;
@@ -181,6 +184,21 @@ int EditMail(const Words& words) {
     return 0;
 }
 
+int ChangeScreen(const Words& words) {
+    unsigned width = 0, height = 0;
+    if (swscanf(words[2].c_str(), L"%ux%u", &width, &height) != 2 || !width || !height ||
+        width > 0x7FFF || height > 0x7FFF) {
+        return Fail(L"no size of a screen: " + words[2]);
+    }
+    shell::SetScreen({static_cast<LONG>(width), static_cast<LONG>(height)});
+    return 0;
+}
+
+int TurnScreen() {
+    shell::TurnScreen();
+    return 0;
+}
+
 struct Command {
     const wchar_t* verb;
     std::size_t fewestWords;
@@ -203,6 +221,8 @@ constexpr Command kCommands[] = {
     {L"mail-account", 4, EditMail},
     {L"mail-folder", 4, EditMail},
     {L"mail-remove", 3, EditMail},
+    {L"screen", 3, ChangeScreen},
+    {L"turn", 2, [](const Words&) { return TurnScreen(); }},
 };
 
 }  // namespace

@@ -22,7 +22,8 @@ HKEY RootOf(const std::wstring& path, std::wstring& rest) {
 std::wstring DataText(DWORD type, const std::vector<BYTE>& data) {
     wchar_t text[16];
     if (type == REG_SZ) {
-        return L"string " + std::wstring(reinterpret_cast<const wchar_t*>(data.data()));
+        const void* const units = data.data();
+        return L"string " + std::wstring(static_cast<const wchar_t*>(units));
     }
     if (type == REG_DWORD) {
         DWORD number = 0;

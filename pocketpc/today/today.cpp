@@ -19,6 +19,7 @@ constexpr COLORREF kLineColor = RGB(0x9C, 0xB4, 0xD8);
 constexpr COLORREF kBackground = RGB(0xE4, 0xEE, 0xFA);
 constexpr WPARAM kReloadItems = 0xF2;  // of WM_WININICHANGE
 constexpr std::size_t kMostLines = 8;
+constexpr UINT kTurn = WM_APP;
 
 HWND itemsWindow = nullptr;
 TodayPicture* picture = nullptr;
@@ -91,7 +92,7 @@ RECT FirstRow(HWND hwnd) {
 // The background and the owner's picture, in a window that begins at `top` of the screen.
 void PaintBackground(HDC dc, const RECT& area, int top) {
     shell::FillColor(dc, area, kBackground);
-    picture->Paint(dc, shell::WorkArea().top - top, GetSystemMetrics(SM_CXSCREEN));
+    picture->Paint(dc, shell::WorkArea().top - top, shell::Screen().cx);
 }
 
 // Where no program's bars lie over them, the places of both bars are the screen's own.
@@ -157,12 +158,28 @@ void StartProgram() {
     CloseHandle(process.hProcess);
 }
 
+void FitToScreen(HWND hwnd) {
+    const SIZE screen = shell::Screen();
+    SetWindowPos(hwnd, nullptr, 0, 0, screen.cx, screen.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    const RECT work = shell::WorkArea();
+    MoveWindow(itemsWindow, 0, ItemsTop(), work.right, work.bottom - ItemsTop(), TRUE);
+    InvalidateRect(hwnd, nullptr, TRUE);
+    InvalidateRect(itemsWindow, nullptr, TRUE);
+}
+
 LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == shell::ScreenChangeMessage()) {
+        FitToScreen(hwnd);
+        return 0;
+    }
     switch (message) {
         case WM_PAINT: PaintScreen(hwnd); return 0;
         case WM_ERASEBKGND: return TRUE;
         case TODAYM_GETCOLOR: return Color(wParam);
         case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
+        // Above the items is the date. Posted, as others are told from there.
+        case WM_LBUTTONUP: PostMessageW(hwnd, kTurn, 0, 0); return 0;
+        case kTurn: shell::TurnScreen(); return 0;
         case WM_WINDOWPOSCHANGING:
             // The Today screen lies under every program.
             reinterpret_cast<WINDOWPOS*>(lParam)->hwndInsertAfter = HWND_BOTTOM;
@@ -220,7 +237,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
     updateMessage = RegisterWindowMessageW(L"LumDiary_UpdateSettings");
     TodayPicture ownersPicture;
     picture = &ownersPicture;
-    const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    const SIZE size = shell::Screen();
+    const RECT screen = {0, 0, size.cx, size.cy};
     const HWND today =
         Create(L"DesktopExplorerWindow", L"Desktop", TodayProcedure, WS_POPUP | WS_CLIPCHILDREN,
                WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, screen, nullptr);

@@ -244,8 +244,9 @@ class Language(KitTest):
         for number, (line, place) in enumerate(zip(found, places), 1):
             self.assertRegex(line, rf"^l:{number}: .* does not fit its {place}, by \d+ pixels? at (96|192) dpi$")
         self.assertRegex(found[5], r"^l:8: .* does not fit its label on dialog \"About\", by 17 pixels at 96")
-        self.check(0, ['l:1: "Overdue tasks": check box on page calendar_tasks'],
-                   "language", "check", "--library", LIBRARY, "t", "l", "--line", "1")
+        shown = 'l:1: "Overdue tasks": check box on page calendar_tasks'
+        self.check(0, [shown, shown + " on wide screens"], "language", "check", "--library", LIBRARY,
+                   "t", "l", "--line", "1")
         self.assertEqual(self.run_kit("language", "check", "--library", "t", "t", "l")[0], 2)
 
 

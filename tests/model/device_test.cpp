@@ -83,8 +83,10 @@ TEST_F(Registry, KeepsTheRootsApartAndBelowTheHive) {
 }
 
 TEST_F(Registry, RefusesWhatIsNoRootAndNoOpenKey) {
-    for (const std::uintptr_t value : {std::uintptr_t{0}, std::uintptr_t{0x80000004},
-                                       std::uintptr_t{0x180000002}, std::uintptr_t{0x1234}}) {
+    // A root with one bit more, above the lower half of the pointer.
+    constexpr auto kNearlyRoot = 0x80000002 ^ std::uintptr_t{1} << sizeof(HKEY) * 4;
+    for (const std::uintptr_t value :
+         {std::uintptr_t{0}, std::uintptr_t{0x80000004}, kNearlyRoot, std::uintptr_t{0x1234}}) {
         const auto key = reinterpret_cast<HKEY>(value);
         EXPECT_EQ(Create(key, L"Software\\Device Test"), ERROR_INVALID_HANDLE) << value;
         EXPECT_EQ(RegSetValueExW(key, L"x", 0, REG_SZ, nullptr, 0), ERROR_INVALID_HANDLE) << value;

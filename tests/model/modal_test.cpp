@@ -43,6 +43,8 @@ struct BoxOnScreen {
     }
 };
 
+void CALLBACK Destroy(HWND hwnd, UINT, UINT_PTR, DWORD) { DestroyWindow(hwnd); }
+
 bool Contains(const RECT& outer, const RECT& inner) {
     return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
            inner.bottom <= outer.bottom;
@@ -101,8 +103,7 @@ TEST(Modal, LoopsHandTheEndOfTheProgramOn) {
     // The owner of a dialog may go without an end of the program.
     request.hwndOwner = CreateWindowExW(0, L"EDIT", L"", WS_POPUP, 0, 30, 90, 90, nullptr, nullptr,
                                         nullptr, nullptr);
-    SetTimer(request.hwndOwner, 1, 20,
-             [](HWND hwnd, UINT, UINT_PTR, DWORD) { DestroyWindow(hwnd); });
+    SetTimer(request.hwndOwner, 1, 20, Destroy);
     EXPECT_FALSE(GetSaveFileNameW(&request));
 }
 

@@ -135,7 +135,7 @@ TEST(MenuBar, AnswersAsAToolBar) {
     info.cchText = 4;
     EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), 1);
     EXPECT_STREQ(text, L"Sch");
-    info.cbSize = 32;  // the device's size
+    info.cbSize -= 4;
     EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), -1);
     EXPECT_FALSE(SendMessageW(bar, TB_GETBUTTON, 2, reinterpret_cast<LPARAM>(&buttons[0])));
 }

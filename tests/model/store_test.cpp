@@ -134,7 +134,8 @@ TEST_F(Databases, KeepRecordsOfEveryTypeUnderLastingIdentifiers) {
     ASSERT_EQ(
         CeReadRecordProps(database.get(), CEDB_ALLOWREALLOC, &count, ids.data(), &buffer, &size),
         record);
-    const auto read = reinterpret_cast<const CEPROPVAL*>(buffer);
+    const void* const block = buffer;
+    const auto read = static_cast<const CEPROPVAL*>(block);
     EXPECT_EQ(read[0].propid, ids[0]);
     EXPECT_EQ(read[0].wFlags, CEDB_PROPNOTFOUND);
     EXPECT_STREQ(read[1].val.lpwstr, L"a\x0416");

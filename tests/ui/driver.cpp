@@ -52,7 +52,8 @@ template <typename Structure>
 std::wstring RemoteText(HWND window, UINT message, WPARAM wParam, Structure structure,
                         wchar_t* Structure::*textMember) {
     const RemoteMemory memory(window, sizeof structure + kTextLength * sizeof(wchar_t));
-    structure.*textMember = reinterpret_cast<wchar_t*>(memory.address() + sizeof structure);
+    void* const text = memory.address() + sizeof structure;
+    structure.*textMember = static_cast<wchar_t*>(text);
     memory.Write(&structure, sizeof structure);
     SendMessageW(window, message, wParam, reinterpret_cast<LPARAM>(memory.address()));
     return memory.ReadText(sizeof structure);

@@ -17,7 +17,8 @@ class Translation : public DeviceTest {
     }
     static std::wstring ReadLanguageFile() {
         const std::string bytes = ReadBytes(kLanguageFile);
-        return {reinterpret_cast<const wchar_t*>(bytes.data()), bytes.size() / sizeof(wchar_t)};
+        const void* const units = bytes.data();
+        return {static_cast<const wchar_t*>(units), bytes.size() / sizeof(wchar_t)};
     }
 };
 

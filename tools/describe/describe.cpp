@@ -15,10 +15,10 @@
 #include <vector>
 
 #include "app/open_entry.h"
+#include "base/dialog_template.h"
 #include "base/owned_handle.h"
 #include "tools/describe/describe_values.h"
 #include "tools/describe/describe_widths.h"
-#include "tools/describe/dialog_template.h"
 #include "tools/describe/page_tables.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "app/sheets/page_description.h"
-#include "tools/describe/dialog_template.h"
+#include "base/dialog_template.h"
 
 // The program's tables, as more than one of the descriptions needs them.
 

@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "app/language/dialog_init.h"
-#include "tools/describe/dialog_template.h"
+#include "base/dialog_template.h"
+#include "resources/ids.h"
 #include "tools/diarykit/known_values.h"
 #include "tools/diarykit/resource_library.h"
 #include "tools/diarykit/text.h"
@@ -61,24 +62,29 @@ class Collector {
 
     // A dialog that no row knows is known by its caption.
     static std::string NameOf(std::uint32_t id, const DialogTemplate& parts) {
+        const bool isWide = id > IDD_WIDE;
+        std::string name = "dialog " + Quoted(parts.caption);
         for (const ShownValue& shown : ShownValues()) {
-            if (shown.dialog == id) return "page " + shown.page;
+            if (shown.dialog == (isWide ? id - IDD_WIDE : id)) name = "page " + shown.page;
         }
-        return "dialog " + Quoted(parts.caption);
+        return isWide ? name + " on wide screens" : name;
     }
 
     void AddDialog(const LibraryResource& resource) {
         auto parts = ParseDialogTemplate(resource.bytes);
         if (!parts) return;
         const std::string where = NameOf(resource.id, *parts);
+        // Wide templates leave labels and check boxes to the program, which breaks their texts.
+        const bool breaks = resource.id > IDD_WIDE;
         Add(parts->caption, {Kind::kCaption, where, resource.id});
         for (const DialogTemplate::Control& control : parts->controls) {
-            TextPlace place = {Kind::kLabel, where, control.id, static_cast<int>(control.width),
-                               static_cast<int>(control.height)};
+            TextPlace place = {Kind::kLabel, where, control.id, breaks ? 0 : control.width,
+                               control.height};
             if (IsClass(control, L"#0080", L"button")) {
                 const std::uint32_t type = control.style & kButtonTypes;
                 const bool isPush = type >= kFirstPushType && type <= kLastPushType;
                 place.kind = isPush ? Kind::kButton : Kind::kCheckBox;
+                if (isPush) place.width = control.width;
                 Add(control.text, place);
             } else if (IsClass(control, L"#0082", L"static") && !control.text.starts_with(L'#')) {
                 Add(control.text, place);
@@ -89,10 +95,10 @@ class Collector {
 
     void AddEntry(const std::wstring& text, std::uint32_t dialog, std::uint32_t id) {
         for (const Dialog& candidate : dialogs_) {
-            if (candidate.id != dialog) continue;
+            if (candidate.id != dialog && candidate.id != dialog + IDD_WIDE) continue;
             for (const DialogTemplate::Control& control : candidate.parts.controls) {
                 if (control.id != id) continue;
-                Add(text, {Kind::kListEntry, candidate.where, id, static_cast<int>(control.width)});
+                Add(text, {Kind::kListEntry, candidate.where, id, control.width});
             }
         }
     }

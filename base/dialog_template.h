@@ -11,11 +11,12 @@ struct DialogTemplate {
     struct Control {
         std::uint32_t id = 0;
         std::uint32_t style = 0;
-        std::uint32_t width = 0, height = 0;  // in the dialog's units
-        std::wstring className;               // a number such as "#0080" for those of the system
-        std::wstring text;                    // likewise for a resource
+        int x = 0, y = 0, width = 0, height = 0;  // dialog units
+        std::wstring className;  // a number such as "#0080" for those of the system
+        std::wstring text;       // likewise for a resource
     };
     std::uint32_t style = 0;
+    int width = 0, height = 0;  // dialog units
     std::wstring caption;
     std::vector<Control> controls;  // in the tab order
 };

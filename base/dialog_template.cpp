@@ -1,4 +1,4 @@
-#include "tools/describe/dialog_template.h"
+#include "base/dialog_template.h"
 
 #include <utility>
 
@@ -9,6 +9,8 @@ namespace {
 constexpr std::uint32_t kNumberFollows = 0xFFFF;
 
 void Align(ByteReader& reader) { reader.Take((4 - reader.position() % 4) % 4); }
+
+int TakeShort(ByteReader& reader) { return static_cast<std::int16_t>(reader.TakeNumber(2)); }
 
 // A text up to its terminator, or a number behind a mark.
 std::wstring TakeName(ByteReader& reader) {
@@ -38,7 +40,9 @@ std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::uint8_t> 
     reader.Take(8);  // the help's id, the extended style
     result.style = reader.TakeNumber();
     const std::uint32_t count = reader.TakeNumber(2);
-    reader.Take(8);  // the place
+    reader.Take(4);  // the place
+    result.width = TakeShort(reader);
+    result.height = TakeShort(reader);
     TakeName(reader);
     TakeName(reader);
     result.caption = TakeName(reader);
@@ -51,9 +55,10 @@ std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::uint8_t> 
         Align(reader);
         reader.Take(8);
         control.style = reader.TakeNumber();
-        reader.Take(4);
-        control.width = reader.TakeNumber(2);
-        control.height = reader.TakeNumber(2);
+        control.x = TakeShort(reader);
+        control.y = TakeShort(reader);
+        control.width = TakeShort(reader);
+        control.height = TakeShort(reader);
         control.id = reader.TakeNumber();
         control.className = TakeName(reader);
         control.text = TakeName(reader);

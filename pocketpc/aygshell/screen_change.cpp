@@ -1,0 +1,87 @@
+// The order of what follows a turn, and that menus and lists close, are guesses; that windows which
+// fill the screen get WM_SIZE and all of them WM_SETTINGCHANGE is documented.
+#include "pocketpc/aygshell/screen_change.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "pocketpc/aygshell/menu_bar.h"
+#include "pocketpc/common/shell_windows.h"
+
+namespace {
+
+bool IsOfClass(HWND hwnd, const wchar_t* name) {
+    wchar_t className[32] = {};
+    GetClassNameW(hwnd, className, 32);
+    return _wcsicmp(className, name) == 0;
+}
+
+BOOL CALLBACK AddWindow(HWND hwnd, LPARAM windows) {
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(hwnd);
+    return TRUE;
+}
+
+BOOL CALLBACK CloseList(HWND hwnd, LPARAM) {
+    if (IsOfClass(hwnd, WC_COMBOBOXW)) SendMessageW(hwnd, CB_SHOWDROPDOWN, FALSE, 0);
+    return TRUE;
+}
+
+void Move(HWND hwnd, const RECT& area) {
+    SetWindowPos(hwnd, nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// What filled the width goes on doing so, down to the menu bar or below it.
+void Fit(HWND hwnd, SIZE before) {
+    const SIZE screen = shell::Screen();
+    const RECT work = shell::WorkArea();
+    RECT area;
+    GetWindowRect(hwnd, &area);
+    if (area.left == 0 && area.right == before.cx) {
+        const bool belowMenuBar = area.bottom >= before.cy;
+        Move(hwnd, {0, area.top, screen.cx, belowMenuBar ? screen.cy : work.bottom});
+        return;
+    }
+    const int x =
+        std::clamp<int>(area.left, 0, std::max<int>(0, screen.cx - area.right + area.left));
+    const int y = std::clamp<int>(area.top, work.top,
+                                  std::max<int>(work.top, work.bottom - area.bottom + area.top));
+    OffsetRect(&area, x - area.left, y - area.top);
+    Move(hwnd, area);
+}
+
+}  // namespace
+
+void FollowScreen(HWND navigationBar, SIZE before) {
+    EndMenu();
+    Move(navigationBar, {0, 0, shell::Screen().cx, shell::BarHeight()});
+    InvalidateRect(navigationBar, nullptr, FALSE);
+    std::vector<HWND> windows;
+    EnumThreadWindows(GetCurrentThreadId(), AddWindow, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [](HWND hwnd) {
+        return !IsWindowVisible(hwnd) || IsOfClass(hwnd, L"HHTaskBar") ||
+               IsOfClass(hwnd, L"menu_worker");
+    });
+    for (const HWND hwnd : windows) {
+        EnumChildWindows(hwnd, CloseList, 0);
+        Fit(hwnd, before);
+    }
+    PlaceMenuBars();
+    for (const HWND hwnd : windows) {
+        SendMessageW(hwnd, WM_SETTINGCHANGE, shell::kScreenReset, 0);
+    }
+}
+
+void KeepDropDownListOnScreen(HWND list, WINDOWPOS& position) {
+    const SIZE screen = shell::Screen();
+    const bool moves = !(position.flags & (SWP_NOMOVE | SWP_NOSIZE));
+    if (!moves || position.y + position.cy <= screen.cy || !IsOfClass(list, L"ComboLBox")) return;
+    const HWND focus = GetFocus();
+    const HWND combo = IsOfClass(focus, WC_COMBOBOXW) ? focus : GetParent(focus);
+    RECT area;
+    if (!GetWindowRect(combo, &area)) return;
+    position.y = std::max<int>(0, area.top - position.cy);
+    position.cy = std::min<int>(position.cy, area.top - position.y);
+}

@@ -1,0 +1,46 @@
+#include "pocketpc/common/screen.h"
+
+namespace shell {
+
+namespace {
+
+// A property of the desktop's window, so that every process of the device sees it.
+constexpr wchar_t kProperty[] = L"PocketPC.Screen";
+constexpr UINT kLongestAnswer = 2000;  // milliseconds
+
+void Tell(const wchar_t* className, SIZE before) {
+    for (HWND hwnd = nullptr; (hwnd = FindWindowExW(nullptr, hwnd, className, nullptr));) {
+        SendMessageTimeoutW(hwnd, ScreenChangeMessage(), MAKELONG(before.cx, before.cy), 0,
+                            SMTO_ABORTIFHUNG, kLongestAnswer, nullptr);
+    }
+}
+
+}  // namespace
+
+UINT ScreenChangeMessage() {
+    static const UINT message = RegisterWindowMessageW(L"PocketPC.ScreenChange");
+    return message;
+}
+
+SIZE Screen() {
+    const auto size =
+        static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(GetPropW(GetDesktopWindow(), kProperty)));
+    if (size) return {LOWORD(size), HIWORD(size)};
+    return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+void SetScreen(SIZE screen) {
+    const SIZE before = Screen();
+    const auto size = static_cast<DWORD>(MAKELONG(screen.cx, screen.cy));
+    SetPropW(GetDesktopWindow(), kProperty, reinterpret_cast<HANDLE>(ULONG_PTR{size}));
+    // The Today screen lies below, so that it is there when programs uncover it.
+    Tell(L"DesktopExplorerWindow", before);
+    Tell(L"HHTaskBar", before);
+}
+
+void TurnScreen() {
+    const SIZE screen = Screen();
+    SetScreen({screen.cy, screen.cx});
+}
+
+}  // namespace shell
