@@ -3,16 +3,20 @@
 #include <commdlg.h>
 
 #include <algorithm>
-#include <cwchar>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "app/language/language_table.h"
 #include "app/registry_exporter.h"
 #include "app/reload_after_import.h"
 #include "base/fill_in.h"
+#include "base/read_file.h"
 #include "base/wait_cursor.h"
 #include "resources/ids.h"
+#include "settings/install_path.h"
+#include "settings/settings_file_facts.h"
 #include "settings/settings_key.h"
 
 namespace {
@@ -46,28 +50,43 @@ void SayThatItFailed(unsigned text) {
     Say(GetLanguageTable().LoadString(text).c_str(), MB_ICONINFORMATION);
 }
 
+bool ExportTo(const wchar_t* path) {
+    RegistryExporter exporter;
+    exporter.Exclude(L"Version");
+    exporter.Exclude(L"Build");
+    return exporter.Export(path, HKEY_LOCAL_MACHINE, kProductKey);
+}
+
+// The question whether to import a file; what the user could not expect of it follows in paragraphs
+// of its own.
+std::wstring ImportQuestion(const std::wstring& path, std::span<const std::uint8_t> file) {
+    const SettingsFileFacts facts = LookThroughSettingsFile(file);
+    const LanguageTable& table = GetLanguageTable();
+    std::wstring question = FillIn(table.LoadString(IDS_CONFIRM_IMPORT), {path});
+    if (facts.writesOutside) question += L"\n\n" + table.LoadString(IDS_IMPORT_WRITES_OUTSIDE);
+    if (!facts.whole) question += L"\n\n" + table.LoadString(IDS_IMPORT_DAMAGED);
+    return question;
+}
+
 }  // namespace
 
 void ExportSettings(HWND owner) {
     const auto path = AskForFile(owner, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
     if (!path) return;
     const WaitCursor wait;
-    RegistryExporter exporter;
-    exporter.Exclude(L"Version");
-    exporter.Exclude(L"Build");
-    if (!exporter.Export(path->c_str(), HKEY_LOCAL_MACHINE, kProductKey)) {
-        SayThatItFailed(IDS_EXPORT_FAILED);
-    }
+    if (!ExportTo(path->c_str())) SayThatItFailed(IDS_EXPORT_FAILED);
 }
 
 bool ImportSettings(HWND owner) {
     const auto path = AskForFile(owner, GetOpenFileNameW, OFN_FILEMUSTEXIST);
     if (!path) return false;
-    const std::wstring question =
-        FillIn(GetLanguageTable().LoadString(IDS_CONFIRM_IMPORT), {*path});
+    // Read once: what is asked about is what is imported, even of a file that is written below.
+    const auto file = ReadWholeFile(*path).value_or(std::vector<std::uint8_t>{});
+    const std::wstring question = ImportQuestion(*path, file);
     if (Say(question.c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES) return false;
     const WaitCursor wait;
-    const bool done = RegistryExporter().Import(path->c_str());
+    ExportTo(GetInstallPath(L"Before import.dias").c_str());  // The way back, if it can be kept.
+    const bool done = RegistryExporter().Import(file);
     ReloadAfterImport();  // Even of a file that failed, something was stored.
     if (!done) SayThatItFailed(IDS_IMPORT_FAILED);
     return true;

@@ -185,6 +185,10 @@ bool RegistryExporter::Export(const wchar_t* path, HKEY root, const wchar_t* key
 
 bool RegistryExporter::Import(const wchar_t* path) const {
     const std::optional<std::vector<std::uint8_t>> bytes = ReadWholeFile(path);
+    return bytes && Import(*bytes);
+}
+
+bool RegistryExporter::Import(std::span<const std::uint8_t> file) const {
     RegistrySink sink;
-    return bytes && ReadSettingsFile(*bytes, sink);
+    return ReadSettingsFile(file, sink);
 }

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -19,6 +21,8 @@ class RegistryExporter {
     // Adds the file's values to the key that the file itself names. False when the file cannot be
     // read to its end; what was read until then has been stored.
     bool Import(const wchar_t* path) const;
+    // The same of a file's bytes.
+    bool Import(std::span<const std::uint8_t> file) const;
 
   private:
     std::vector<std::wstring> excluded_;

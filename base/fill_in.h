@@ -23,3 +23,6 @@ class TextArgument {
 // anything but a letter. A text is translated by its users, so that its placeholders may be any: a
 // text that does not have exactly those of the arguments comes back as it is.
 std::wstring FillIn(const std::wstring& text, std::initializer_list<TextArgument> arguments);
+
+// The letters of a text's placeholders, in their order.
+std::wstring PlaceholdersOf(const std::wstring& text);

@@ -142,6 +142,10 @@
 #define IDS_IMPORT_FAILED 1101
 #define IDS_HEIGHT_REFUSED 1102
 
+// What is said before a settings file is imported.
+#define IDS_IMPORT_WRITES_OUTSIDE 1110
+#define IDS_IMPORT_DAMAGED 1111
+
 // Groups of icons; the catalogue names them by their texts.
 #define IDS_ICONS_OTHER 1250
 #define IDS_ICONS_WORK 1251

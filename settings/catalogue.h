@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <span>
 
+// The key, under HKEY_LOCAL_MACHINE, that this program and the plug-in share.
+inline constexpr const wchar_t kProductKey[] = L"\\Software\\Lum Software House\\Lum Diary";
+
 // A number of the product key: its name and the default that the first read creates.
 struct NumberSetting {
     const wchar_t* name = nullptr;

@@ -21,10 +21,15 @@ std::optional<std::wstring> WithoutSpaces(std::wstring_view text) {
 
 }  // namespace
 
-std::optional<KeyboardLayout> KeyboardLayout::Parse(std::wstring_view text) {
+std::optional<KeyboardLayout> KeyboardLayout::Parse(std::wstring_view text, Fault* fault) {
+    Fault ignored;
+    Fault& why = fault ? *fault : ignored;
+    why = Fault::kLength;
     if (text.empty() || text.size() > kLongestLayoutText) return std::nullopt;
+    why = Fault::kSpace;
     const std::optional<std::wstring> groups = WithoutSpaces(text.substr(1));
     if (!groups) return std::nullopt;
+    why = Fault::kGroup;
 
     KeyboardLayout layout;
     layout.rightToLeft = text.front() == kRightToLeft;

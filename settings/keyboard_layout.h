@@ -18,9 +18,15 @@ struct KeyboardLayout {
     bool rightToLeft = false;
     std::vector<Key> keys;  // in the order of the keypad
 
-    // The layout that a text such as "labc(abc) def(def)" describes; none when it is invalid or
-    // does not fit the plug-in's buffer.
-    static std::optional<KeyboardLayout> Parse(std::wstring_view text);
+    // What keeps a text from being a layout.
+    enum class Fault {
+        kLength,  // there is none, or it does not fit the plug-in's buffer
+        kSpace,   // a space elsewhere than behind a group
+        kGroup,   // a group that is not "label(matches)"
+    };
+    // The layout that a text such as "labc(abc) def(def)" describes; none when it is invalid, and
+    // why then goes to `fault`.
+    static std::optional<KeyboardLayout> Parse(std::wstring_view text, Fault* fault = nullptr);
     bool operator==(const KeyboardLayout&) const = default;
 };
 

@@ -16,9 +16,6 @@
 // written.
 inline constexpr std::uint32_t SETTINGS_NO_DEFAULT = 0xDEF0;
 
-// The key, under HKEY_LOCAL_MACHINE, that this program and the plug-in share.
-inline constexpr const wchar_t kProductKey[] = L"\\Software\\Lum Software House\\Lum Diary";
-
 // The most bytes that a value of the registry holds.
 inline constexpr std::size_t kLargestValue = 4096;
 

@@ -18,6 +18,7 @@ mv "$STAGE/Program Files/Lum Diary/LumDiary_en.txt" "$template"
 close_stage
 wrong=0
 for file in "$ROOT"/shipped/translations/*.txt; do
-    python3 "$ROOT/tools/check_language.py" "$template" "$file" || wrong=1
+    "$ROOT/tools/with_wine.sh" wine "$BIN/diarykit.exe" language check --library "$BIN/DiaryRes.Dll" \
+        "$template" "$file" || wrong=1
 done
 exit $wrong

@@ -33,13 +33,13 @@ room_for() { # WIDTHxHEIGHT...
 # Of Debian: what building needs, what running needs besides, what a display of our own and pictures of it need,
 # and what testing needs.
 BUILD_PACKAGES=(
-    cmake ninja-build python3 librsvg2-bin
+    cmake ninja-build python3 librsvg2-bin libcli11-dev nlohmann-json3-dev
     g++-mingw-w64-x86-64-posix mingw-w64-x86-64-dev libz-mingw-w64-dev
 )
 RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
 SCREEN_PACKAGES=(xvfb imagemagick)
 TEST_PACKAGES=(
-    xvfb g++ googletest clang clang-format libclang-rt-14-dev zip
+    xvfb g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
     g++-mingw-w64-i686-posix mingw-w64-i686-dev
 )
 # What the 32-bit Debian is made with.

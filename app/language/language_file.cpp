@@ -6,7 +6,7 @@ namespace {
 
 constexpr wchar_t kSeparator = L'|';
 
-std::wstring TextOf(std::span<const std::uint8_t> bytes, bool utf16) {
+std::wstring CharactersOf(std::span<const std::uint8_t> bytes, bool utf16) {
     std::wstring text;
     const std::size_t width = utf16 ? 2 : 1;
     text.reserve(bytes.size() / width);
@@ -44,8 +44,14 @@ Field TakeField(std::wstring_view& line) {
     return field;
 }
 
-// Takes one line, with a line break of two characters as a whole.
-LanguageEntry TakeEntry(std::wstring_view& rest) {
+}  // namespace
+
+LanguageText TextOfLanguageFile(std::span<const std::uint8_t> bytes) {
+    const bool utf16 = bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE;
+    return {CharactersOf(utf16 ? bytes.subspan(2) : bytes, utf16), utf16};
+}
+
+LanguageEntry TakeLanguageEntry(std::wstring_view& rest) {
     const std::wstring_view room = rest.substr(0, kLongestLanguageLine);
     std::wstring_view line = room;
     Field source = TakeField(line);
@@ -56,15 +62,12 @@ LanguageEntry TakeEntry(std::wstring_view& rest) {
     return {std::move(source.text), std::move(translation.text)};
 }
 
-}  // namespace
-
 std::vector<LanguageEntry> ParseLanguageFile(std::span<const std::uint8_t> bytes) {
-    const bool utf16 = bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE;
-    const std::wstring text = TextOf(utf16 ? bytes.subspan(2) : bytes, utf16);
+    const LanguageText text = TextOfLanguageFile(bytes);
     std::vector<LanguageEntry> entries;
-    for (std::wstring_view rest = text; !rest.empty();) {
-        LanguageEntry entry = TakeEntry(rest);
-        if (!utf16 || !entry.source.empty()) entries.push_back(std::move(entry));
+    for (std::wstring_view rest = text.characters; !rest.empty();) {
+        LanguageEntry entry = TakeLanguageEntry(rest);
+        if (!text.utf16 || !entry.source.empty()) entries.push_back(std::move(entry));
     }
     return entries;
 }
@@ -84,7 +87,7 @@ std::wstring EscapeLanguageText(std::wstring_view text) {
 }
 
 std::wstring LanguageTemplateText(std::span<const std::wstring> texts) {
-    std::wstring result = L"$$$$$$$$ NEW FILE $$$$$$$\r\n";
+    std::wstring result = std::wstring(kLanguageTemplateMark) + L"\r\n";
     for (const std::wstring& text : texts) {
         result += EscapeLanguageText(text);
         result += L"|\r\n";

@@ -19,10 +19,22 @@ struct LanguageEntry {
 // The longest line of a language file, in characters. What is longer goes on as a line of its own.
 inline constexpr std::size_t kLongestLanguageLine = 4094;
 
+// The first line of a file that the program writes. It translates nothing.
+inline constexpr std::wstring_view kLanguageTemplateMark = L"$$$$$$$$ NEW FILE $$$$$$$";
+
 // Reads a language file: UTF-16 little-endian behind a byte-order mark, else one character a byte.
 // A line is "source|translation", with "\n", "\r", "\\" and "\|" for what cannot stand there
 // itself. Takes any bytes; the text ends at the first NUL.
 std::vector<LanguageEntry> ParseLanguageFile(std::span<const std::uint8_t> bytes);
+
+// The steps of it: the file's characters, and its front entry with the line break behind it. An
+// entry that ends at a second bar or after the longest line leaves the rest of its line.
+struct LanguageText {
+    std::wstring characters;
+    bool utf16 = false;
+};
+LanguageText TextOfLanguageFile(std::span<const std::uint8_t> bytes);
+LanguageEntry TakeLanguageEntry(std::wstring_view& rest);
 
 // A text as it is written in a field of the file.
 std::wstring EscapeLanguageText(std::wstring_view text);

@@ -53,6 +53,11 @@ bool IconCatalogue::Read(std::span<const std::uint8_t> file) {
     return true;
 }
 
+std::size_t IconCatalogue::CountOf(std::size_t group) const {
+    return std::count_if(groups_.begin(), groups_.end(),
+                         [group](const auto& icon) { return icon.second == group; });
+}
+
 std::optional<std::size_t> IconCatalogue::FindGroup(const IconDigest& digest) const {
     const auto found = groups_.find(digest);
     if (found == groups_.end()) return std::nullopt;

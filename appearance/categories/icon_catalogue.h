@@ -22,6 +22,8 @@ class IconCatalogue {
     bool Read(std::span<const std::uint8_t> file);
 
     const std::vector<std::wstring>& titles() const { return titles_; }
+    // How many icons belong to a group.
+    std::size_t CountOf(std::size_t group) const;
     // The first group that lists the icon.
     std::optional<std::size_t> FindGroup(const IconDigest& digest) const;
 

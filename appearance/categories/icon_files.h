@@ -9,9 +9,6 @@
 #include "appearance/categories/icon_sources.h"
 #include "base/owned_handle.h"
 
-// The largest icon, in pixels at 96 dots per inch.
-inline constexpr int kLargestIcon = 30;
-
 // The names of a folder's bitmap files; hidden ones, which begin with a dot, and folders do not
 // count. The folder may end in a backslash or not.
 std::vector<std::wstring> FindBitmapFiles(const std::wstring& folder);

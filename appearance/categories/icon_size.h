@@ -4,6 +4,9 @@
 #include <optional>
 #include <span>
 
+// The largest icon, in pixels at 96 dots per inch.
+inline constexpr int kLargestIcon = 30;
+
 struct BitmapSize {
     int width = 0;
     int height = 0;

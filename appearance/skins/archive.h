@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,8 @@ class Archive {
     // Opens a file whose name passes through the ANSI code page: where that lacks one of its
     // characters, the file is not found. Null when it is no archive.
     static std::unique_ptr<Archive> Open(const std::wstring& path);
+    // The same of an archive's bytes, which its user keeps for as long.
+    static std::unique_ptr<Archive> OfBytes(std::span<const std::uint8_t> bytes);
     ~Archive();
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;

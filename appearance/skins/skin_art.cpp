@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/language/module.h"
+#include "appearance/skins/skin_members.h"
 #include "base/scale.h"
 #include "resources/ids.h"
 #include "settings/catalogue.h"
@@ -12,7 +13,6 @@
 namespace {
 
 constexpr COLORREF kTransparent = RGB(255, 0, 255);
-constexpr int kTabIconSize = 16;  // at 96 dots per inch
 
 // The piece that each SkinIcon comes from. What the skin's strip lacks, the built-in one has.
 constexpr ItemIcon kIconPieces[kSkinIconCount] = {
@@ -24,13 +24,8 @@ constexpr ItemIcon kIconPieces[kSkinIconCount] = {
     ItemIcon::kNote,        // SkinIcon::kNote
 };
 
-bool IsHighResolution() { return ScaleX(1) >= 2; }
-
-const char* IconsMember() { return IsHighResolution() ? "icons_vga.bmp" : "icons.bmp"; }
-const char* ScrollBarMember() { return IsHighResolution() ? "scrollbar_vga.bmp" : "scrollbar.bmp"; }
-std::string TabIconsMember() {
-    return "tab_icons_" + std::to_string(ScaleX(kTabIconSize)) + ".bmp";
-}
+bool OnHighResolution() { return IsHighResolution(HorizontalDpi()); }
+SkinMembers Members() { return SkinMembersFor(HorizontalDpi()); }
 
 // Cuts a bitmap into squares, row by row from its upper left corner.
 OwnedImageList CutSquares(const BitmapView& view, int size) {
@@ -43,18 +38,17 @@ OwnedImageList CutSquares(const BitmapView& view, int size) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 24;
     const std::size_t stride = (3 * static_cast<std::size_t>(size) + 3) / 4 * 4;
-    for (int top = 0; top + size <= view.height; top += size) {
-        for (int left = 0; left + size <= view.width; left += size) {
-            void* pixels = nullptr;
-            const OwnedBitmap square(
-                CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-            if (!square) return {};
-            for (int row = 0; row < size; ++row) {
-                memcpy(static_cast<std::uint8_t*>(pixels) + stride * row,
-                       view.Pixel(left, top + row), 3 * static_cast<std::size_t>(size));
-            }
-            if (ImageList_AddMasked(list.get(), square.get(), kTransparent) < 0) return {};
+    const SquareGrid grid(view, size);
+    for (int i = 0; i < grid.Count(); ++i) {
+        void* pixels = nullptr;
+        const OwnedBitmap square(
+            CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+        if (!square) return {};
+        for (int row = 0; row < size; ++row) {
+            memcpy(static_cast<std::uint8_t*>(pixels) + stride * row,
+                   view.Pixel(grid.Left(i), grid.Top(i) + row), 3 * static_cast<std::size_t>(size));
         }
+        if (ImageList_AddMasked(list.get(), square.get(), kTransparent) < 0) return {};
     }
     return list;
 }
@@ -88,20 +82,21 @@ SkinArt::LoadResult SkinArt::LoadStrip(std::optional<SkinStrip>& strip, const ch
 }
 
 SkinArt::LoadResult SkinArt::LoadIcons() {
-    return LoadStrip(icons_, IconsMember(), IsHighResolution() ? IDB_ICONS_HIGH : IDB_ICONS);
+    return LoadStrip(icons_, Members().icons.c_str(),
+                     OnHighResolution() ? IDB_ICONS_HIGH : IDB_ICONS);
 }
 
 SkinArt::LoadResult SkinArt::LoadScrollBar() {
-    return LoadStrip(scrollBar_, ScrollBarMember(),
-                     IsHighResolution() ? IDB_SCROLL_BAR_HIGH : IDB_SCROLL_BAR);
+    return LoadStrip(scrollBar_, Members().scrollBar.c_str(),
+                     OnHighResolution() ? IDB_SCROLL_BAR_HIGH : IDB_SCROLL_BAR);
 }
 
 SkinArt::LoadResult SkinArt::LoadTabIcons() {
     if (!OpenSkin()) return kFailed;
     if (!tabIcons_) {
-        const auto file = source_.ReadMember(TabIconsMember().c_str());
+        const auto file = source_.ReadMember(Members().tabIcons.c_str());
         const std::optional<BitmapView> view = file ? ParseBitmapFile(*file) : std::nullopt;
-        if (view) tabIcons_ = CutSquares(*view, ScaleX(kTabIconSize));
+        if (view) tabIcons_ = CutSquares(*view, Members().tabIconSize);
     }
     return tabIcons_ ? kFromSkin : kFailed;
 }
@@ -112,12 +107,12 @@ std::optional<SkinArt::Fault> SkinArt::FindFault() {
     const auto fault = [this](const std::string& member) {
         return Fault{member, !source_.GetMemberSize(member.c_str())};
     };
-    if (LoadIcons() != kFromSkin || icons_->Count() < kItemIconCount) return fault(IconsMember());
+    if (LoadIcons() != kFromSkin || icons_->Count() < kItemIconCount) return fault(Members().icons);
     if (LoadScrollBar() != kFromSkin || scrollBar_->Count() < kScrollBarPartCount) {
-        return fault(ScrollBarMember());
+        return fault(Members().scrollBar);
     }
     if (LoadTabIcons() != kFromSkin || ImageList_GetImageCount(tabIcons_.get()) < kTabIconCount) {
-        return fault(TabIconsMember());
+        return fault(Members().tabIcons);
     }
     return {};
 }
@@ -142,7 +137,7 @@ HICON SkinArt::Icon(SkinIcon icon) {
     if (!handle && LoadIcons() != kFailed) handle = icons_->CreateIcon(piece);
     if (!handle) {
         const std::optional<SkinStrip> builtIn = SkinStrip::FromResource(
-            ResourceLibrary(), IsHighResolution() ? IDB_ICONS_HIGH : IDB_ICONS);
+            ResourceLibrary(), OnHighResolution() ? IDB_ICONS_HIGH : IDB_ICONS);
         if (builtIn) handle = builtIn->CreateIcon(piece);
     }
     return handle.get();

@@ -47,6 +47,13 @@ class DeviceTest : public ::testing::Test {
         return OpenProductKey().ReadString(name);
     }
 
+    // Whether a message box has a text.
+    static bool BoxSays(HWND box, const std::wstring& text) {
+        for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+            if (Text(child) == text) return true;
+        }
+        return false;
+    }
     static bool WriteBytes(const wchar_t* path, const void* data, DWORD size) {
         const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
         DWORD written = 0;

@@ -3,6 +3,7 @@
 
 #include "app/registry_exporter.h"
 #include "resources/ids.h"
+#include "settings/settings_file.h"
 #include "tests/ui/device.h"
 
 namespace {
@@ -10,14 +11,18 @@ namespace {
 using namespace ui;
 
 constexpr wchar_t kFile[] = L"\\My Documents\\Lum Diary.dias";
+constexpr wchar_t kBefore[] = L"\\Program Files\\Lum Diary\\Before import.dias";
 
 class Import : public DeviceTest {
   protected:
     void SetUp() override {
         DeviceTest::SetUp();
-        DeleteFileW(kFile);
+        TearDown();
     }
-    void TearDown() override { DeleteFileW(kFile); }
+    void TearDown() override {
+        DeleteFileW(kFile);
+        DeleteFileW(kBefore);
+    }
 
     // Leaves the settings there are now in the file alone.
     static bool MoveToFile() {
@@ -84,10 +89,50 @@ TEST_F(Import, StoresWhatTheFileHasAndNothingElse) {
     ASSERT_TRUE(program.Main());
     std::set<std::wstring> expected = Names();
     EXPECT_TRUE(expected.insert(L"CalendarPeriod").second);
+    Put(L"OneClick", 2);
+    expected.insert(L"OneClick");
     ASSERT_TRUE(RunImport(program));
     EXPECT_EQ(Stored(L"CalendarPeriod"), 30u);
     EXPECT_EQ(Names(), expected);
+    // The way back: what there was stays in a file, which can itself be imported.
+    Put(L"OneClick", 3);
+    ASSERT_TRUE(CopyFileW(kBefore, kFile, FALSE));
+    ASSERT_TRUE(RunImport(program));
+    EXPECT_EQ(Stored(L"OneClick"), 2u);
+    EXPECT_EQ(Names(), expected);
     EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(Import, TellsWhatAFileWouldDo) {
+    constexpr wchar_t kQuestion[] =
+        L"Import the settings in \\My Documents\\Lum Diary.dias? They overwrite those there are; "
+        L"what the file lacks stays.";
+    constexpr wchar_t kOutside[] = L"\n\nThis file also changes settings that are not the diary's.";
+    constexpr wchar_t kDamaged[] =
+        L"\n\nThis file is damaged. Only what comes before the damage can be imported.";
+    struct Case {
+        const wchar_t* path;
+        DWORD end;
+        std::wstring said;
+    };
+    const Program program;
+    for (const Case& c : {Case{kProductKey, 1, L""}, Case{L"\\Software\\Other", 1, kOutside},
+                          Case{kProductKey, 9, kDamaged},
+                          Case{L"\\Software\\Other", 9, std::wstring(kOutside) + kDamaged}}) {
+        SettingsFileWriter file;
+        file.Begin(0x80000002, c.path);
+        file.BeginKey(L"");
+        file.Number(L"CalendarPeriod", 30);
+        file.EndKey();
+        file.bytes.insert(file.bytes.end(), {static_cast<std::uint8_t>(c.end), 0, 0, 0});
+        const auto size = static_cast<DWORD>(file.bytes.size());
+        ASSERT_TRUE(WriteBytes(kFile, file.bytes.data(), size));
+        const HWND question = Ask(program);
+        EXPECT_TRUE(BoxSays(question, kQuestion + c.said)) << c.path << c.end;
+        PostMessageW(question, WM_COMMAND, IDNO, 0);
+        EXPECT_TRUE(Until([&] { return !IsWindow(question); }));
+    }
+    EXPECT_EQ(Stored(L"CalendarPeriod"), std::nullopt);
 }
 
 TEST_F(Import, ClosingEndsWhatAsks) {

@@ -20,13 +20,6 @@ class Translation : public DeviceTest {
         const void* const units = bytes.data();
         return {static_cast<const wchar_t*>(units), bytes.size() / sizeof(wchar_t)};
     }
-    // Whether a message box has a text.
-    static bool BoxSays(HWND box, const std::wstring& text) {
-        for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-            if (Text(child) == text) return true;
-        }
-        return false;
-    }
 };
 
 TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {

@@ -2,6 +2,8 @@
 // has forgotten.
 //
 // usage: describe settings   docs/settings.md: every value, its default, the pages that edit it
+//        describe values     tools/diarykit/known_values.inc: what pages show of each value
+//        describe widths     tools/diarykit/font_widths.inc: the letters of the dialogs' font
 //        describe pages      a line for each page: entry, page, how it is reached, its anchor
 //        describe check      what the tables lack beside DiaryRes.Dll in the same folder
 #include <windows.h>
@@ -15,44 +17,11 @@
 #include "app/open_entry.h"
 #include "base/dialog_template.h"
 #include "base/owned_handle.h"
-#include "settings/diary_settings.h"
+#include "tools/describe/describe_values.h"
+#include "tools/describe/describe_widths.h"
+#include "tools/describe/page_tables.h"
 
 namespace {
-
-// Names and defaults are ASCII.
-std::string Narrow(const std::wstring& text) { return {text.begin(), text.end()}; }
-
-std::vector<const PageDescription*> AllPages() {
-    std::vector<const PageDescription*> pages;
-    for (const MainEntry& entry : MainEntries()) {
-        pages.insert(pages.end(), entry.pages.begin(), entry.pages.end());
-    }
-    return pages;
-}
-
-// The value that a row edits; empty for none.
-std::wstring ValueOf(const Row& row) {
-    if (row.shared) return NameOf(row.shared);
-    if (row.pattern) return NameOf(row.pattern);
-    if (row.text.key) return std::wstring(row.text.key) + L'\\' + row.text.name;
-    if (row.text.name) return row.text.name;
-    return row.setting.name ? row.setting.name : L"";
-}
-
-std::wstring NameOf(const CatalogueEntry& entry) {
-    return entry.key ? std::wstring(entry.key) + L'\\' + entry.name : entry.name;
-}
-
-// The anchors of the pages that edit a value, in their order.
-std::vector<std::wstring> EditedOn(const std::wstring& value) {
-    std::vector<std::wstring> anchors;
-    for (const PageDescription* page : AllPages()) {
-        const bool edits = std::any_of(page->rows.begin(), page->rows.end(),
-                                       [&](const Row& row) { return ValueOf(row) == value; });
-        if (edits) anchors.push_back(page->anchor);
-    }
-    return anchors;
-}
 
 std::string DefaultOf(const CatalogueEntry& entry) {
     switch (entry.rule) {
@@ -119,14 +88,6 @@ void PrintPages() {
         }
         ++number;
     }
-}
-
-std::optional<DialogTemplate> TemplateOf(HMODULE library, unsigned id) {
-    const HRSRC resource = FindResourceW(library, MAKEINTRESOURCEW(id), RT_DIALOG);
-    if (!resource) return {};
-    const auto* const bytes =
-        static_cast<const std::uint8_t*>(LockResource(LoadResource(library, resource)));
-    return ParseDialogTemplate({bytes, SizeofResource(library, resource)});
 }
 
 // Each row needs its control, or it would store 0; each control that the keys reach needs its row,
@@ -205,15 +166,10 @@ int CheckWideTemplates(HMODULE library, int& looked) {
     return faults;
 }
 
-int Check() {
-    const OwnedLibrary library(LoadLibraryExW(L"DiaryRes.Dll", nullptr, LOAD_LIBRARY_AS_DATAFILE));
-    if (!library) {
-        std::printf("DiaryRes.Dll cannot be loaded\n");
-        return 1;
-    }
+int Check(HMODULE library) {
     int faults = 0, controls = 0;
     for (const PageDescription* page : AllPages()) {
-        faults += CheckControls(library.get(), *page);
+        faults += CheckControls(library, *page);
         controls += static_cast<int>(page->rows.size());
     }
     for (const CatalogueEntry& entry : Catalogue()) {
@@ -224,7 +180,7 @@ int Check() {
         ++faults;
     }
     int wide = 0;
-    faults += CheckWideTemplates(library.get(), wide);
+    faults += CheckWideTemplates(library, wide);
     std::printf("%d rows of %d pages, %d values and %d wide templates looked at\n", controls,
                 static_cast<int>(AllPages().size()), static_cast<int>(Catalogue().size()), wide);
     return faults || !controls || !wide ? 1 : 0;
@@ -234,14 +190,23 @@ int Check() {
 
 int main(int count, char** arguments) {
     const std::string what = count == 2 ? arguments[1] : "";
+    const OwnedLibrary library(LoadLibraryExW(L"DiaryRes.Dll", nullptr, LOAD_LIBRARY_AS_DATAFILE));
+    if (!library) {
+        std::printf("DiaryRes.Dll cannot be loaded\n");
+        return 1;
+    }
     if (what == "settings") {
         PrintSettings();
+    } else if (what == "values") {
+        PrintValues(library.get());
+    } else if (what == "widths") {
+        PrintWidths();
     } else if (what == "pages") {
         PrintPages();
     } else if (what == "check") {
-        return Check();
+        return Check(library.get());
     } else {
-        std::fprintf(stderr, "usage: describe settings | pages | check\n");
+        std::fprintf(stderr, "usage: describe settings | values | widths | pages | check\n");
         return 2;
     }
     return 0;

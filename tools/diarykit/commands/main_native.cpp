@@ -1,0 +1,3 @@
+#include "tools/diarykit/commands/kit.h"
+
+int main(int count, char** arguments) { return RunKit({arguments + 1, arguments + count}); }
