@@ -73,9 +73,11 @@ std::optional<LRESULT> MainFrame::OnMessage(UINT message, WPARAM wParam, LPARAM 
         case WM_SETFOCUS: SetFocus(listView_); return 0;
         case WM_SIZE:
             if (!listView_) return 0;
-            // Otherwise a scroll bar that is needed no more would go on taking its room.
-            MoveWindow(listView_, 0, 0, LOWORD(lParam), kAnyHeight, FALSE);
-            MoveWindow(listView_, 0, 0, LOWORD(lParam), HIWORD(lParam), TRUE);
+            // The list arranges its entries before it shows or hides a scroll bar. So first there
+            // is none, then the one that is needed, then they are arranged beside it.
+            for (const int height : {kAnyHeight, HIWORD(lParam) - 1, int{HIWORD(lParam)}}) {
+                MoveWindow(listView_, 0, 0, LOWORD(lParam), height, TRUE);
+            }
             return 0;
     }
     return std::nullopt;

@@ -266,6 +266,11 @@ void FullScreenDialog::ScrollTo(int position) {
     SetScrollInfo(hwnd(), SB_VERT, &info, TRUE);
     ScrollWindowEx(hwnd(), 0, current - wanted, nullptr, nullptr, nullptr, nullptr,
                    SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+    // The controls, too, that have come to where the band was.
+    RECT band = {};
+    GetClientRect(hwnd(), &band);
+    band.bottom = BandHeight() + ScaleY(kBandLine);
+    InvalidateRect(hwnd(), &band, TRUE);
     UpdateWindow(hwnd());
 }
 

@@ -179,8 +179,8 @@ void Type(const Key& key) {
     }
     const HWND focus = GetFocus();
     if (key.virtualKey) {
-        constexpr LPARAM kReleased = 0xC0000000;
-        const LPARAM once = 1 | LPARAM{MapVirtualKeyW(key.virtualKey, 0)} << 16;
+        constexpr auto kReleased = static_cast<LPARAM>(0xC0000000);
+        const LPARAM once = 1 | static_cast<LPARAM>(MapVirtualKeyW(key.virtualKey, 0) << 16);
         PostMessageW(focus, WM_KEYDOWN, key.virtualKey, once);
         PostMessageW(focus, WM_KEYUP, key.virtualKey, once | kReleased);
     } else {
