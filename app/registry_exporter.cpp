@@ -55,10 +55,10 @@ class Export {
         wchar_t child[kNameLength];
         for (DWORD index = 0;; ++index) {
             DWORD length = kNameLength;
-            if (RegEnumKeyExW(key, index, child, &length, nullptr, nullptr, nullptr, nullptr) !=
-                ERROR_SUCCESS) {
-                break;
-            }
+            const LSTATUS status =
+                RegEnumKeyExW(key, index, child, &length, nullptr, nullptr, nullptr, nullptr);
+            if (status == ERROR_NO_MORE_ITEMS) break;
+            if (status != ERROR_SUCCESS) return false;
             const OwnedKey childKey = OpenKey(key, child);
             if (!childKey || !WriteKey(childKey.get(), child)) return false;
         }

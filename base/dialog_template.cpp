@@ -53,7 +53,8 @@ std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::uint8_t> 
     for (std::uint32_t i = 0; i < count && !reader.failed(); ++i) {
         DialogTemplate::Control control;
         Align(reader);
-        reader.Take(8);
+        reader.Take(4);  // the help's id
+        control.extendedStyle = reader.TakeNumber();
         control.style = reader.TakeNumber();
         control.x = TakeShort(reader);
         control.y = TakeShort(reader);

@@ -10,7 +10,7 @@
 struct DialogTemplate {
     struct Control {
         std::uint32_t id = 0;
-        std::uint32_t style = 0;
+        std::uint32_t style = 0, extendedStyle = 0;
         int x = 0, y = 0, width = 0, height = 0;  // dialog units
         std::wstring className;  // a number such as "#0080" for those of the system
         std::wstring text;       // likewise for a resource

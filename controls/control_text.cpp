@@ -14,6 +14,8 @@ namespace {
 // edges of buttons and drop-down lists around theirs.
 constexpr int kCheckBox = 18, kButtonEdges = 12, kListEdges = 8;
 constexpr int kLineEdges = 2;
+constexpr int kRowEdges = 24;
+constexpr int kRowLength = 256;
 
 std::wstring TextOf(HWND control) {
     const int length = GetWindowTextLengthW(control);
@@ -56,6 +58,22 @@ int WidestEntry(HWND combo) {
     return widest;
 }
 
+// Rows that the dialog draws itself hold the owner's names.
+int WidestRow(HWND list) {
+    if (GetWindowLongW(list, GWL_STYLE) & LVS_OWNERDRAWFIXED) return 0;
+    const auto count = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+    wchar_t text[kRowLength] = {};
+    int widest = 0;
+    for (int i = 0; i < count; ++i) {
+        LVITEMW item = {};
+        item.pszText = text;
+        item.cchTextMax = kRowLength;
+        SendMessageW(list, LVM_GETITEMTEXTW, i, reinterpret_cast<LPARAM>(&item));
+        widest = std::max<int>(widest, Measure(list, text, DT_SINGLELINE).cx);
+    }
+    return widest ? widest + ScaleX(kRowEdges) + GetSystemMetrics(SM_CXVSCROLL) : 0;
+}
+
 }  // namespace
 
 bool IsOfClass(HWND control, const wchar_t* className) {
@@ -75,8 +93,14 @@ ControlKind KindOf(HWND control) {
 }
 
 int TextWidth(HWND control, int width) {
+    if (IsOfClass(control, WC_LISTVIEWW)) return WidestRow(control);
     if (KindOf(control) == ControlKind::kOther) return 0;
-    if (IsOfClass(control, WC_EDITW) || IsOfClass(control, TRACKBAR_CLASSW)) return width / 2;
+    // Sorted lists hold names that are not the program's and may be cut.
+    const bool names =
+        IsOfClass(control, WC_COMBOBOXW) && GetWindowLongW(control, GWL_STYLE) & CBS_SORT;
+    if (names || IsOfClass(control, WC_EDITW) || IsOfClass(control, TRACKBAR_CLASSW)) {
+        return width / 2;
+    }
     if (IsOfClass(control, WC_COMBOBOXW)) {
         return WidestEntry(control) + GetSystemMetrics(SM_CXVSCROLL) + ScaleX(kListEdges);
     }

@@ -9,6 +9,7 @@
 bool IsOfClass(HWND control, const wchar_t* className);
 ControlKind KindOf(HWND control);
 // How wide in pixels a control must be to show its text, or the longest of its list, in one line;
+// 0 where it shows none;
 // for a control of kField without a text, how wide it must be to be of use. `width` is its own.
 int TextWidth(HWND control, int width);
 // The height in pixels of a control of kText that has this width.

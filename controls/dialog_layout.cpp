@@ -33,23 +33,22 @@ class Fitting {
         FindColumns();
     }
 
-    // Who stands right of the leftmost filling control goes along with its right edge.
+    // Whatever stands right of the leftmost filling control goes along with its right edge.
     void FitWidth(int extra) {
-        const int margin = metrics_.width - metrics_.rightMargin;
-        int edge = margin;
+        int edge = metrics_.width - metrics_.rightMargin;
         for (const Filling& fill : filling_) edge = std::min(edge, places_[fill.index].right);
         for (ControlPlace& place : places_) {
-            const bool moves = place.left >= edge;
-            const bool grows = place.right >= margin || place.right == edge;
-            if (moves) place.left += extra;
-            if (moves || grows) place.right += extra;
+            if (place.right < edge) continue;
+            if (place.left >= edge || WidthOf(place) <= metrics_.narrow) place.left += extra;
+            place.right += extra;
         }
     }
 
     void FitTexts() {
         for (std::size_t i = 0; i < places_.size(); ++i) {
-            if (const ControlPlace* const field = FieldOf(i); field && !Fits(places_[i])) {
-                WidenLabels(places_[i].left, field->left);
+            const ControlPlace* const field = FieldOf(i);
+            if (field && !(Fits(places_[i]) && Fits(*field))) {
+                ShareRows(places_[i].left, field->left);
             }
         }
         for (std::size_t i = 0; i < places_.size(); ++i) {
@@ -67,6 +66,7 @@ class Fitting {
     void FitHeight(int height) {
         const Places before = places_;
         for (const Filling& fill : filling_) {
+            if (!fill.least) continue;
             const ControlPlace& own = before[fill.index];
             int lowest = 0, sharers = 0;
             for (std::size_t i = 0; i < before.size(); ++i) {
@@ -75,7 +75,9 @@ class Fitting {
                 }
             }
             // Those above and below each other share what there is.
-            for (const Filling& other : filling_) sharers += ShareColumn(before[other.index], own);
+            for (const Filling& other : filling_) {
+                if (other.least && ShareColumn(before[other.index], own)) ++sharers;
+            }
             const int extra = height - metrics_.bottomMargin - lowest;
             places_[fill.index].bottom += std::max(extra / sharers, fill.least - HeightOf(own));
         }
@@ -110,7 +112,8 @@ class Fitting {
             for (std::size_t j = 0; j < places_.size(); ++j) {
                 const ControlPlace &a = places_[i], &b = places_[j];
                 if (!a.shown || !b.shown || columns_[i] == columns_[j]) continue;
-                if (!ShareColumn(a, b) && !StandsRightOf(a, b)) continue;
+                const bool texts = a.kind == ControlKind::kText && b.kind == ControlKind::kText;
+                if (!ShareColumn(a, b) && (texts || !StandsRightOf(a, b))) continue;
                 std::replace(columns_.begin(), columns_.end(), std::size_t{columns_[j]},
                              std::size_t{columns_[i]});
             }
@@ -128,25 +131,29 @@ class Fitting {
         return nullptr;
     }
 
+    std::size_t IndexOf(const ControlPlace* place) const {
+        return static_cast<std::size_t>(place - places_.data());
+    }
+
     // All labels from `left` on whose fields begin at `fieldLeft` stay in line.
-    void WidenLabels(int left, int fieldLeft) {
+    void ShareRows(int left, int fieldLeft) {
         std::vector<std::size_t> labels;
-        int missing = 0;
+        // By how much the fields' edge must go right for the labels, and may for the fields.
+        int least = -metrics_.width, most = metrics_.width;
         for (std::size_t i = 0; i < places_.size(); ++i) {
             const ControlPlace* const field = FieldOf(i);
             if (!field || places_[i].left != left || field->left != fieldLeft) continue;
             labels.push_back(i);
-            missing = std::max(missing, places_[i].textWidth - WidthOf(places_[i]));
+            least = std::max(least, places_[i].textWidth - WidthOf(places_[i]));
+            most = std::min(most, RightLimit(IndexOf(field)) - field->left - field->textWidth);
         }
-        const bool room = std::all_of(labels.begin(), labels.end(), [&](std::size_t label) {
-            const auto field = static_cast<std::size_t>(FieldOf(label) - places_.data());
-            return RightLimit(field) - places_[field].left - missing >= places_[field].textWidth;
-        });
+        const int by = least > 0 ? least : std::min(most, 0);
         for (const std::size_t label : labels) {
-            const auto field = static_cast<std::size_t>(FieldOf(label) - places_.data());
-            if (room) {
-                MoveBeside(label, field, missing);
-            } else if (!Fits(places_[label])) {
+            const std::size_t field = IndexOf(FieldOf(label));
+            if (least <= most) {
+                MoveBeside(label, field, by);
+            } else if (!Fits(places_[label]) ||
+                       RightLimit(field) - places_[field].left < places_[field].textWidth) {
                 MoveBelow(label, field);
             }
         }
@@ -165,11 +172,9 @@ class Fitting {
         const ControlPlace old = places_[field];
         const int top = places_[label].bottom + metrics_.lineGap;
         for (ControlPlace& place : places_) {
-            // Such as the arrows of a number.
-            const bool follows =
-                place.left >= old.left && ShareRow(place, old) &&
-                columns_[static_cast<std::size_t>(&place - places_.data())] == columns_[field];
-            if (!follows) continue;
+            // With what touches it, such as the arrows of a number.
+            const bool touches = place.left >= old.left && place.left <= old.right;
+            if (!touches || !ShareRow(place, old)) continue;
             const int width = WidthOf(place), height = HeightOf(place);
             place.left += places_[label].left - old.left;
             place.right = place.left + width;
@@ -202,7 +207,8 @@ class Fitting {
             followers.push_back(&place);
             last = std::max(last, place.right);
         }
-        const int by = std::min(own.textWidth - WidthOf(own), RightOfColumn(index) - last);
+        const int room = RightOfColumn(index) - last;
+        const int by = followers.empty() ? room : std::min(own.textWidth - WidthOf(own), room);
         places_[index].right += by;
         for (ControlPlace* const follower : followers) {
             follower->left += by;

@@ -26,7 +26,7 @@ struct ControlPlace {
 // all it has takes, so that nothing scrolls within what scrolls.
 struct Fill {
     int control;
-    int least;
+    int least;      // 0: takes width only
     int whole = 0;  // 0: as `least`
 };
 
@@ -36,6 +36,7 @@ struct LayoutMetrics {
     int rightMargin;   // beside what reaches to the right
     int bottomMargin;  // below the lowest
     int labelGap;      // at most this is between a label and its field
+    int narrow;        // up to here a control keeps its width, such as arrows
     int lineGap;       // between a label and its field below it
 };
 
@@ -44,9 +45,9 @@ using HeightAtWidth = std::function<int(std::size_t control, int width)>;
 
 // Fits controls to a dialog of a size that they were not designed for, and to longer texts:
 // What ends at the right margin goes on doing so; where a filling control stands left of it, that
-// one grows instead. Labels make their fields narrower, or stand above them; other texts take what
-// is free beside them, and more lines. What stands below makes room, and filling controls take what
-// is left. `fills` have their heights in pixels. Returns the height that is needed, which may
-// be more than there is.
+// one grows instead. Labels and fields share what they have, or labels stand above; other texts
+// take what is free beside them, and more lines. What stands below makes room, and filling controls
+// take what is left. `fills` have their heights in pixels. Returns the height that is needed, which
+// may be more than there is.
 int FitToDialog(std::vector<ControlPlace>& places, std::span<const Fill> fills,
                 const LayoutMetrics& metrics, int width, int height, const HeightAtWidth& heightAt);

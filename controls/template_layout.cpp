@@ -15,6 +15,7 @@ namespace {
 // Dialog units: beside what reaches to the right, between a label and its field beside it and
 // below.
 constexpr int kRightMargin = 5, kLabelGap = 4, kLineGap = 1;
+constexpr int kNarrow = 16;
 constexpr int kBottomMargin = 8;  // below the last control
 
 std::optional<DialogTemplate> LoadTemplate(unsigned id) {
@@ -25,6 +26,11 @@ std::optional<DialogTemplate> LoadTemplate(unsigned id) {
         static_cast<const std::uint8_t*>(LockResource(LoadResource(library, resource)));
     if (!bytes) return {};
     return ParseDialogTemplate({bytes, SizeofResource(library, resource)});
+}
+
+bool IsCut(const ControlPlace& place) {
+    return place.shown && place.kind != ControlKind::kText &&
+           place.textWidth > place.right - place.left;
 }
 
 RECT RectInDialog(HWND dialog, HWND control) {
@@ -60,48 +66,54 @@ void TemplateLayout::NoteOwnSizes() {
 }
 
 int TemplateLayout::Place(int width, int height, std::span<const Fill> fills, int scrolled) const {
-    const std::optional<DialogTemplate> design = SuitableTemplate(width);
-    if (!design || design->controls.size() != controls_.size()) return 0;
+    int needed = 0;
+    std::vector<ControlPlace> places;
+    const std::optional<DialogTemplate> wide = LoadTemplate(templateId_ + IDD_WIDE);
+    if (wide && wide->controls.size() == controls_.size() &&
+        ToPixels(wide->width, 0, 0, 0).left <= width) {
+        places = Fit(*wide, width, height, fills, needed);
+        // A translation may be too long for two columns.
+        if (std::any_of(places.begin(), places.end(), IsCut)) places.clear();
+    }
+    if (places.empty()) {
+        const std::optional<DialogTemplate> usual = LoadTemplate(templateId_);
+        if (!usual || usual->controls.size() != controls_.size()) return 0;
+        places = Fit(*usual, width, height, fills, needed);
+    }
+    bool moved = false;
+    for (std::size_t i = 0; i < controls_.size(); ++i) {
+        if (IsWindow(controls_[i].hwnd) && Move(controls_[i], places[i], scrolled)) moved = true;
+    }
+    if (moved) InvalidateRect(dialog_, nullptr, TRUE);
+    return needed;
+}
+
+std::vector<ControlPlace> TemplateLayout::Fit(const DialogTemplate& design, int width, int height,
+                                              std::span<const Fill> fills, int& needed) const {
     std::vector<Fill> fillsInPixels(fills.begin(), fills.end());
     for (Fill& fill : fillsInPixels) {
         const RECT heights = ToPixels(0, fill.least, 0, fill.whole);
         fill.least = static_cast<int>(heights.top);
         fill.whole = static_cast<int>(heights.bottom);
     }
-    const RECT designed = ToPixels(design->width, kLineGap, kRightMargin, 0);
+    const RECT designed = ToPixels(design.width, kLineGap, kRightMargin, 0);
+    const RECT gaps = ToPixels(kLabelGap, 0, kNarrow, 0);
     const LayoutMetrics metrics = {
-        static_cast<int>(designed.left), static_cast<int>(designed.right), ScaleY(kBottomMargin),
-        static_cast<int>(ToPixels(kLabelGap, 0, 0, 0).left), static_cast<int>(designed.top)};
-    const auto heightAt = [this](std::size_t control, int width) {
-        return HeightAt(control, width);
+        static_cast<int>(designed.left), static_cast<int>(designed.right),
+        ScaleY(kBottomMargin),           static_cast<int>(gaps.left),
+        static_cast<int>(gaps.right),    static_cast<int>(designed.top)};
+    const auto heightAt = [this](std::size_t control, int at) {
+        return TextHeight(controls_[control].hwnd, at);
     };
-    const auto fit = [&](std::vector<ControlPlace>& places, int width) {
-        return FitToDialog(places, fillsInPixels, metrics, width, height, heightAt);
-    };
-    const std::vector<ControlPlace> places = PlacesOf(*design);
+    const std::vector<ControlPlace> places = PlacesOf(design);
     std::vector<ControlPlace> fitted = places;
-    int needed = fit(fitted, width);
-    if (needed > height) {
-        fitted = places;
-        for (Fill& fill : fillsInPixels) fill.least = std::max(fill.least, fill.whole);
-        needed = fit(fitted, width - GetSystemMetrics(SM_CXVSCROLL));
-    }
-    bool moved = false;
-    for (std::size_t i = 0; i < controls_.size(); ++i) {
-        if (IsWindow(controls_[i].hwnd) && Move(controls_[i], fitted[i], scrolled)) moved = true;
-    }
-    if (moved) InvalidateRect(dialog_, nullptr, TRUE);
-    return needed;
-}
-
-int TemplateLayout::HeightAt(std::size_t control, int width) const {
-    return TextHeight(controls_[control].hwnd, width);
-}
-
-std::optional<DialogTemplate> TemplateLayout::SuitableTemplate(int width) const {
-    std::optional<DialogTemplate> design = LoadTemplate(templateId_ + IDD_WIDE);
-    if (design && ToPixels(design->width, 0, 0, 0).left <= width) return design;
-    return LoadTemplate(templateId_);
+    needed = FitToDialog(fitted, fillsInPixels, metrics, width, height, heightAt);
+    if (needed <= height) return fitted;
+    for (Fill& fill : fillsInPixels) fill.least = std::max(fill.least, fill.whole);
+    fitted = places;
+    needed = FitToDialog(fitted, fillsInPixels, metrics, width - GetSystemMetrics(SM_CXVSCROLL),
+                         height, heightAt);
+    return fitted;
 }
 
 RECT TemplateLayout::ToPixels(int left, int top, int right, int bottom) const {

@@ -17,9 +17,9 @@ class TemplateLayout {
     void Attach(HWND dialog, unsigned templateId);
     // To be called once the controls have the sizes that they give themselves.
     void NoteOwnSizes();
-    // Fits them into a dialog of this size that is scrolled by so many pixels. Returns the height
-    // that all of them need, at the width that is left if that takes a scroll bar; 0 when the
-    // template does not fit the controls.
+    // Fits them into a dialog of this size in pixels, which is scrolled by `scrolled` of them.
+    // Returns the height that all of them need, at the width that is left if that takes a scroll
+    // bar; 0 when no template fits the controls.
     int Place(int width, int height, std::span<const Fill> fills, int scrolled) const;
 
   private:
@@ -29,10 +29,10 @@ class TemplateLayout {
         RECT difference;
     };
 
-    std::optional<DialogTemplate> SuitableTemplate(int width) const;
+    std::vector<ControlPlace> Fit(const DialogTemplate& design, int width, int height,
+                                  std::span<const Fill> fills, int& needed) const;
     RECT ToPixels(int left, int top, int right, int bottom) const;
     std::vector<ControlPlace> PlacesOf(const DialogTemplate& design) const;
-    int HeightAt(std::size_t control, int width) const;
     // False when it stands there already.
     bool Move(const Control& control, const ControlPlace& place, int scrolled) const;
 

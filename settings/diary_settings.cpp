@@ -49,9 +49,12 @@ void CDiarySettings::Load() {
     for (const SharedPattern& pattern : kPatterns) {
         (this->*pattern.member).Parse(key.ReadString(pattern.name, pattern.defaultPattern));
     }
+    hasUnreadPatterns_ = key.TakeUnread();
+    unread_.clear();
     for (const SharedNumber& number : kNumbers) {
         const auto defaultValue = static_cast<std::uint32_t>(DefaultOf(number));
         this->*number.member = static_cast<std::int32_t>(key.ReadDword(number.name, defaultValue));
+        if (key.TakeUnread()) unread_.push_back(number.member);
     }
 }
 

@@ -41,26 +41,31 @@ bool built = false;  // the process's one
 
 KeyboardLayouts::KeyboardLayouts() {
     AddStored();
+    const bool allAreKnown = !hasUnread_;
     CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
     for (const BuiltInLayout& builtIn : kBuiltInLayouts) {
         if (PositionOf(builtIn.name) >= 0) continue;
         const std::wstring text = FromUtf8(builtIn.text);
         if (text.empty()) continue;
-        key.WriteString(builtIn.name, text.c_str());
+        if (allAreKnown) key.WriteString(builtIn.name, text.c_str());
         entries_.push_back({builtIn.name, nullptr});
     }
 }
 
 void KeyboardLayouts::AddStored() {
     CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
-    std::wstring name;
-    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
+    const std::vector<std::wstring> names = key.ValueNames();
+    hasUnread_ = key.TakeUnread();
+    for (const std::wstring& name : names) {
         std::unique_ptr<KeyboardLayout> layout = Read(key, name);
-        if (!layout) continue;
+        const bool isUnread = key.TakeUnread();  // and is read when it is asked for
+        hasUnread_ = hasUnread_ || isUnread;
+        if (!layout && !isUnread) continue;
         const int position = PositionOf(name);
         if (position < 0) {
             entries_.push_back({name, std::move(layout)});
-        } else if (Entry& known = entries_[static_cast<std::size_t>(position)]; known.layout) {
+        } else if (Entry& known = entries_[static_cast<std::size_t>(position)];
+                   known.layout && layout) {
             *known.layout = std::move(*layout);
         }
     }
@@ -75,6 +80,7 @@ const KeyboardLayout* KeyboardLayouts::At(int position) {
     if (!entry.layout) {
         CSettingsKey key = OpenProductKey(settings::keys::KeyboardLayouts);
         entry.layout = Read(key, entry.name);
+        hasUnread_ = hasUnread_ || key.HasUnread();
     }
     return entry.layout.get();
 }
@@ -106,14 +112,21 @@ std::wstring KeyboardLayouts::NameOf(const KeyboardLayout* layout) const {
 }
 
 OfferedLayouts KeyboardLayouts::LoadOffered(const std::wstring& tab) {
+    if (hasUnread_) AddStored();
     CSettingsKey key = OpenProductKey();
     const std::wstring namesOf = tab + settings::TabLayouts.name;
     const std::wstring activeOf = tab + settings::TabLayoutActive.name;
     const std::wstring names = key.ReadString(namesOf.c_str(), settings::TabLayouts.defaultText);
     const auto active = static_cast<std::int32_t>(
         key.ReadDword(activeOf.c_str(), settings::TabLayoutActive.defaultValue));
-    return OfferedLayouts::Parse(names, active,
-                                 [this](const std::wstring& name) { return Find(name); });
+    OfferedLayouts offered = OfferedLayouts::Parse(
+        names, active, [this](const std::wstring& name) { return Find(name); });
+    if (hasUnread_ || key.HasUnread()) {
+        partlyLoaded_.insert(tab);
+    } else {
+        partlyLoaded_.erase(tab);
+    }
+    return offered;
 }
 
 std::wstring KeyboardLayouts::NamesOf(const OfferedLayouts& offered) const {
@@ -130,7 +143,7 @@ bool KeyboardLayouts::CanStore(const OfferedLayouts& offered) const {
 }
 
 bool KeyboardLayouts::SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const {
-    if (!CanStore(offered)) return false;
+    if (!CanStore(offered) || partlyLoaded_.contains(tab)) return false;
     CSettingsKey key = OpenProductKey();
     return key.WriteString((tab + settings::TabLayouts.name).c_str(), NamesOf(offered).c_str()) &&
            key.WriteDword((tab + settings::TabLayoutActive.name).c_str(),

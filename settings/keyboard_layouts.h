@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -34,7 +35,7 @@ class KeyboardLayouts {
     OfferedLayouts LoadOffered(const std::wstring& tab);
     // Whether a list is short enough to be stored.
     bool CanStore(const OfferedLayouts& offered) const;
-    // Stores nothing of a list that is too long.
+    // Stores nothing of a list that is too long, or that could not be loaded whole.
     bool SaveOffered(const std::wstring& tab, const OfferedLayouts& offered) const;
 
   private:
@@ -46,6 +47,8 @@ class KeyboardLayouts {
     std::wstring NamesOf(const OfferedLayouts& offered) const;
 
     std::vector<Entry> entries_;
+    bool hasUnread_ = false;               // of what is stored; it is tried again
+    std::set<std::wstring> partlyLoaded_;  // tabs whose lists lack what could not be read
 };
 
 // The one collection of the process, built by the first call.

@@ -21,26 +21,31 @@ constexpr DWORD kNameLength = 256;
 
 std::wstring PluginKey(const std::wstring& name) { return std::wstring(kPlugins) + L"\\" + name; }
 
-bool Exists(const std::wstring& path) {
-    return CSettingsKey(HKEY_LOCAL_MACHINE, path.c_str(), false, false).IsOpen();
+// In these, `unknown` is set when the registry cannot say.
+
+bool Exists(const std::wstring& path, bool& unknown) {
+    const CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), false, false);
+    unknown = unknown || key.HasUnread();
+    return key.IsOpen();
 }
 
 // The key's first key; empty when it has none, or is not there itself. The tab host makes one in
 // the key of a plug-in that it holds.
-std::wstring FirstSubKey(const std::wstring& path) {
+std::wstring FirstSubKey(const std::wstring& path, bool& unknown) {
+    if (!Exists(path, unknown)) return {};
     const OwnedKey key = OpenKey(HKEY_LOCAL_MACHINE, path.c_str());
-    if (!key) return {};
     wchar_t name[kNameLength] = {};
     DWORD length = kNameLength;
-    if (RegEnumKeyExW(key.get(), 0, name, &length, nullptr, nullptr, nullptr, nullptr) !=
-        ERROR_SUCCESS) {
-        length = 0;
-    }
-    return {name, length};
+    const LSTATUS status =
+        key ? RegEnumKeyExW(key.get(), 0, name, &length, nullptr, nullptr, nullptr, nullptr)
+            : ERROR_INVALID_HANDLE;
+    unknown = unknown || (status != ERROR_SUCCESS && status != ERROR_NO_MORE_ITEMS);
+    return {name, status == ERROR_SUCCESS ? length : 0};
 }
 
-Registration::State TodayState() {
+Registration::State TodayState(bool& unknown) {
     CSettingsKey key(HKEY_LOCAL_MACHINE, kTodayItem, false, false);
+    unknown = unknown || key.HasUnread();
     if (!key.IsOpen()) return Registration::kNone;
     if (key.ReadString(kLibraryValue).empty()) return Registration::kTodayDisabled;
     const std::uint32_t enabled = key.ReadDword(L"enabled", SETTINGS_NO_DEFAULT);
@@ -48,20 +53,24 @@ Registration::State TodayState() {
                                                      : Registration::kTodayDisabled;
 }
 
-// Registers with the tab host under a key; whether the host holds the plug-in there.
-bool RegisterWithHost(const std::wstring& hostKey, const std::wstring& name) {
+// Registers with the tab host under a key; false when that cannot be stored. Sets `held` when the
+// host holds the plug-in there.
+bool RegisterWithHost(const std::wstring& hostKey, const std::wstring& name, bool& held) {
     const std::wstring path = PluginKey(hostKey);
+    bool done = false;
     {
         CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
-        key.WriteString(kLibraryValue, kLibrary);
-        key.WriteString(L"Name3.0", name.c_str());
-        key.WriteString(L"Label", L"");
+        done = key.WriteString(kLibraryValue, kLibrary) &&
+               key.WriteString(L"Name3.0", name.c_str()) && key.WriteString(L"Label", L"");
     }
-    const std::wstring held = FirstSubKey(path);
-    if (held.empty()) return false;
-    CSettingsKey(HKEY_LOCAL_MACHINE, (path + L"\\" + held).c_str(), false, true)
-        .WriteString(kLibraryValue, kLibrary);
-    return true;
+    bool unknown = false;
+    const std::wstring holder = FirstSubKey(path, unknown);
+    if (!holder.empty()) {
+        held = true;
+        CSettingsKey(HKEY_LOCAL_MACHINE, (path + L"\\" + holder).c_str(), false, true)
+            .WriteString(kLibraryValue, kLibrary);
+    }
+    return done && !unknown;
 }
 
 void RegisterWithToday() {
@@ -77,14 +86,14 @@ void RegisterWithToday() {
 
 Registration Registration::Probe() {
     Registration result;
-    result.hostInstalled = Exists(kHost);
-    result.state = TodayState();
-    if (Exists(PluginKey(kCombined))) {
-        if (!FirstSubKey(PluginKey(kCombined)).empty()) result.state = kOneHostTab;
+    result.hostInstalled = Exists(kHost, result.unknown);
+    result.state = TodayState(result.unknown);
+    if (Exists(PluginKey(kCombined), result.unknown)) {
+        if (!FirstSubKey(PluginKey(kCombined), result.unknown).empty()) result.state = kOneHostTab;
         return result;
     }
     for (const DiaryTab& tab : kDiaryTabs) {
-        if (FirstSubKey(PluginKey(tab.hostKey)).empty()) continue;
+        if (FirstSubKey(PluginKey(tab.hostKey), result.unknown).empty()) continue;
         result.state = kTabPerHostTab;
         break;
     }
@@ -97,6 +106,8 @@ void RegisterPlugin(const std::array<std::wstring, kDiaryTabs.size()>& labels) {
         CSettingsKey settings = OpenProductKey();
         combined = settings.Read(settings::AllTabsInShell) != 0;
         const Registration now = Registration::Probe();
+        // The other way of registering would take its own away.
+        if (now.unknown || settings.HasUnread()) return;
         const bool heldApart = now.state == Registration::kTabPerHostTab;
         if (now.hostInstalled && (heldApart || now.state == Registration::kOneHostTab)) {
             combined = !heldApart;
@@ -105,13 +116,13 @@ void RegisterPlugin(const std::array<std::wstring, kDiaryTabs.size()>& labels) {
     }
     bool held = false;
     if (combined) {
-        held = RegisterWithHost(kCombined, L"Lum Diary");
+        if (!RegisterWithHost(kCombined, L"Lum Diary", held)) return;
         for (const DiaryTab& tab : kDiaryTabs) {
             DeleteKeyTree(HKEY_LOCAL_MACHINE, PluginKey(tab.hostKey).c_str());
         }
     } else {
         for (std::size_t i = kDiaryTabs.size(); i-- > 0;) {
-            held |= RegisterWithHost(kDiaryTabs[i].hostKey, L"Lum Diary - " + labels[i]);
+            if (!RegisterWithHost(kDiaryTabs[i].hostKey, L"Lum Diary - " + labels[i], held)) return;
         }
         DeleteKeyTree(HKEY_LOCAL_MACHINE, PluginKey(kCombined).c_str());
     }

@@ -16,13 +16,15 @@ struct Registration {
     };
     State state = kNone;
     bool hostInstalled = false;
+    bool unknown = false;  // part of it could not be read
 
     static Registration Probe();
 };
 
 // Registers the plug-in as the setting "AllTabsInShell" says, or as the tab host already holds it,
 // in which case the setting follows. `labels` are the tabs' names in the order of kDiaryTabs.
-// Failures are not reported: what cannot be written is skipped.
+// Failures are not reported: the registration there was is taken away only when the new one is
+// stored.
 void RegisterPlugin(const std::array<std::wstring, kDiaryTabs.size()>& labels);
 
 // Tells the Today screen to load its items anew, and gives it the time to do so: a second.

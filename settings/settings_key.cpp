@@ -1,6 +1,10 @@
 #include "settings/settings_key.h"
 
-#include <vector>
+#include <algorithm>
+#include <map>
+#include <span>
+
+#include "base/names.h"
 
 namespace {
 
@@ -9,19 +13,28 @@ constexpr DWORD kNameLength = 260;
 
 bool IsReadableText(const wchar_t* text) { return text && !IsBadReadPtr(text, sizeof(wchar_t)); }
 
+// What stands in for values that could not be read: its bytes, by the value's path.
+std::map<std::wstring, std::vector<BYTE>>& StandIns() {
+    static std::map<std::wstring, std::vector<BYTE>> standIns;
+    return standIns;
+}
+
 }  // namespace
 
 CSettingsKey::CSettingsKey(HKEY root, const wchar_t* path, bool create, bool flushOnClose)
-    : flushOnClose_(flushOnClose) {
+    : root_(root), path_(path), flushOnClose_(flushOnClose) {
     if (create) {
-        if (RegCreateKeyExW(root, path, 0, nullptr, 0, 0, nullptr, &handle_, &disposition_) !=
-            ERROR_SUCCESS) {
+        openStatus_ =
+            RegCreateKeyExW(root, path, 0, nullptr, 0, 0, nullptr, &handle_, &disposition_);
+        if (openStatus_ != ERROR_SUCCESS) {
             handle_ = nullptr;
             dirty_ = true;
         }
-    } else if (RegOpenKeyExW(root, path, 0, 0, &handle_) != ERROR_SUCCESS) {
-        handle_ = nullptr;
+    } else {
+        openStatus_ = RegOpenKeyExW(root, path, 0, 0, &handle_);
+        if (openStatus_ != ERROR_SUCCESS) handle_ = nullptr;
     }
+    hasUnread_ = openStatus_ != ERROR_SUCCESS && openStatus_ != ERROR_FILE_NOT_FOUND;
 }
 
 CSettingsKey::~CSettingsKey() {
@@ -29,66 +42,105 @@ CSettingsKey::~CSettingsKey() {
     RegCloseKey(handle_);
 }
 
+LSTATUS CSettingsKey::Query(const wchar_t* name, void* data, DWORD* size) {
+    if (!handle_) {
+        hasUnread_ = hasUnread_ || openStatus_ != ERROR_FILE_NOT_FOUND;
+        return openStatus_;
+    }
+    const LSTATUS status =
+        RegQueryValueExW(handle_, name, nullptr, nullptr, static_cast<BYTE*>(data), size);
+    if (status == ERROR_SUCCESS) {
+        ForgetStandIn(name);
+    } else if (status != ERROR_FILE_NOT_FOUND && status != ERROR_MORE_DATA) {
+        hasUnread_ = true;
+    }
+    return status;
+}
+
+bool CSettingsKey::Set(const wchar_t* name, DWORD type, const void* data, DWORD size) {
+    const auto* const bytes = static_cast<const BYTE*>(data);
+    if (!StandIns().empty()) {
+        const auto standIn = StandIns().find(IdOf(name));
+        if (standIn != StandIns().end() &&
+            std::ranges::equal(standIn->second, std::span(bytes, size)))
+            return false;
+    }
+    dirty_ = true;
+    if (RegSetValueExW(handle_, name, 0, type, bytes, size) != ERROR_SUCCESS) return false;
+    ForgetStandIn(name);
+    return true;
+}
+
+void CSettingsKey::PutDefault(const wchar_t* name, bool isMissing, DWORD type, const void* data,
+                              DWORD size) {
+    const auto* const bytes = static_cast<const BYTE*>(data);
+    if (!isMissing) {
+        StandIns()[IdOf(name)] = {bytes, bytes + size};
+        return;
+    }
+    // A default that is filled in is no change of the user's: the key stays clean.
+    const bool wasDirty = dirty_;
+    ForgetStandIn(name);
+    Set(name, type, data, size);
+    dirty_ = wasDirty;
+}
+
+void CSettingsKey::ForgetStandIn(const wchar_t* name) const {
+    if (!StandIns().empty()) StandIns().erase(IdOf(name));
+}
+
+std::wstring CSettingsKey::IdOf(const wchar_t* name) const {
+    return std::to_wstring(reinterpret_cast<ULONG_PTR>(root_)) + path_ + L'\\' + name;
+}
+
 std::uint32_t CSettingsKey::ReadDword(const wchar_t* name, std::uint32_t defaultValue) {
+    if (!IsReadableText(name)) return defaultValue;
     std::uint32_t value = 0;
     DWORD size = sizeof value;
-    if (IsReadableText(name) &&
-        RegQueryValueExW(handle_, name, nullptr, nullptr, reinterpret_cast<BYTE*>(&value), &size) ==
-            ERROR_SUCCESS) {
-        return value;
-    }
+    const LSTATUS status = Query(name, &value, &size);
+    if (status == ERROR_SUCCESS) return value;
     if (defaultValue != SETTINGS_NO_DEFAULT) {
-        // A default that is filled in is no change of the user's: the key stays clean.
-        const bool wasDirty = dirty_;
-        WriteDword(name, defaultValue);
-        dirty_ = wasDirty;
+        // What is too long for a number counts as missing.
+        const bool isMissing = status == ERROR_FILE_NOT_FOUND || status == ERROR_MORE_DATA;
+        PutDefault(name, isMissing, REG_DWORD, &defaultValue, sizeof defaultValue);
     }
     return defaultValue;
 }
 
 bool CSettingsKey::WriteDword(const wchar_t* name, std::uint32_t value) {
-    if (!IsReadableText(name)) return false;
-    dirty_ = true;
-    return RegSetValueExW(handle_, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value),
-                          sizeof value) == ERROR_SUCCESS;
+    return IsReadableText(name) && Set(name, REG_DWORD, &value, sizeof value);
 }
 
 std::wstring CSettingsKey::ReadString(const wchar_t* name, const wchar_t* defaultText) {
     if (!IsReadableText(name)) return {};
     DWORD size = 0;
-    if (RegQueryValueExW(handle_, name, nullptr, nullptr, nullptr, &size) == ERROR_SUCCESS) {
+    LSTATUS status = Query(name, nullptr, &size);
+    if (status == ERROR_SUCCESS) {
         std::vector<wchar_t> text(size + 1);
-        if (RegQueryValueExW(handle_, name, nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()),
-                             &size) == ERROR_SUCCESS) {
-            return text.data();
-        }
+        status = Query(name, text.data(), &size);
+        if (status == ERROR_SUCCESS) return text.data();
     }
     if (!IsReadableText(defaultText)) return {};
-    WriteString(name, defaultText);
+    const DWORD length = static_cast<DWORD>((wcslen(defaultText) + 1) * sizeof(wchar_t));
+    PutDefault(name, status == ERROR_FILE_NOT_FOUND, REG_SZ, defaultText, length);
     return defaultText;
 }
 
 bool CSettingsKey::WriteString(const wchar_t* name, const wchar_t* text) {
     if (!IsReadableText(name) || !IsReadableText(text)) return false;
-    dirty_ = true;
-    const DWORD size = static_cast<DWORD>((wcslen(text) + 1) * sizeof(wchar_t));
-    return RegSetValueExW(handle_, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size) ==
-           ERROR_SUCCESS;
+    return Set(name, REG_SZ, text, static_cast<DWORD>((wcslen(text) + 1) * sizeof(wchar_t)));
 }
 
 bool CSettingsKey::ReadBinary(const wchar_t* name, void* buffer, DWORD* size) {
     if (!IsReadableText(name) || !size) return false;
     if (buffer && *size && (IsBadReadPtr(buffer, *size) || IsBadWritePtr(buffer, *size)))
         return false;
-    return RegQueryValueExW(handle_, name, nullptr, nullptr, static_cast<BYTE*>(buffer), size) ==
-           ERROR_SUCCESS;
+    return Query(name, buffer, size) == ERROR_SUCCESS;
 }
 
 bool CSettingsKey::WriteBinary(const wchar_t* name, const void* data, DWORD size) {
     if (!IsReadableText(name) || !data || IsBadReadPtr(data, size)) return false;
-    dirty_ = true;
-    return RegSetValueExW(handle_, name, 0, REG_BINARY, static_cast<const BYTE*>(data), size) ==
-           ERROR_SUCCESS;
+    return Set(name, REG_BINARY, data, size);
 }
 
 bool CSettingsKey::DeleteValue(const wchar_t* name) {
@@ -97,11 +149,18 @@ bool CSettingsKey::DeleteValue(const wchar_t* name) {
     return true;
 }
 
-void CSettingsKey::DeleteValues() {
-    // Always the first one: the others move up as it goes.
-    std::wstring name;
-    while (FirstValueName(name) && DeleteValue(name.c_str())) {
+void CSettingsKey::DeleteValuesBut(std::span<const std::wstring> kept) {
+    for (const std::wstring& name : ValueNames()) {
+        const auto isName = [&](const std::wstring& other) { return IsSameName(other, name); };
+        if (std::ranges::none_of(kept, isName)) DeleteValue(name.c_str());
     }
+}
+
+std::vector<std::wstring> CSettingsKey::ValueNames() {
+    std::vector<std::wstring> names;
+    std::wstring name;
+    for (bool more = FirstValueName(name); more; more = NextValueName(name)) names.push_back(name);
+    return names;
 }
 
 bool CSettingsKey::FirstValueName(std::wstring& name) {
@@ -117,8 +176,10 @@ bool CSettingsKey::NextValueName(std::wstring& name) {
 bool CSettingsKey::ValueNameAtIndex(std::wstring& name) {
     wchar_t buffer[kNameLength];
     DWORD length = kNameLength;
-    if (RegEnumValueW(handle_, enumerationIndex_, buffer, &length, nullptr, nullptr, nullptr,
-                      nullptr) != ERROR_SUCCESS) {
+    const LSTATUS status = RegEnumValueW(handle_, enumerationIndex_, buffer, &length, nullptr,
+                                         nullptr, nullptr, nullptr);
+    if (status != ERROR_SUCCESS) {
+        hasUnread_ = hasUnread_ || (handle_ && status != ERROR_NO_MORE_ITEMS);
         return false;
     }
     name.assign(buffer, length);

@@ -4,7 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "base/owned_handle.h"
 #include "settings/catalogue.h"
@@ -26,8 +29,9 @@ inline bool FitsValue(const std::wstring& text) {
 
 // One registry key, opened for the length of one load or save. Reads never fail: a value that
 // cannot be read yields its default, and a missing one is created with it, so that the plug-in,
-// which reads the same values in another process, goes by the same defaults. Failed writes return
-// false.
+// which reads the same values in another process, goes by the same defaults. One that is there but
+// could not be read is left alone, also by a later write of the default that stood in for it: the
+// user did not choose that. Failed writes return false.
 class CSettingsKey {
   public:
     // Opens `path` below `root`; with `create` a missing key is made. With `flushOnClose` the key
@@ -38,6 +42,10 @@ class CSettingsKey {
     CSettingsKey& operator=(const CSettingsKey&) = delete;
 
     bool IsOpen() const { return handle_ != nullptr; }
+    // Whether something that is there, or may be, could not be read.
+    bool HasUnread() const { return hasUnread_; }
+    // The same since the last time this was asked.
+    bool TakeUnread() { return std::exchange(hasUnread_, false); }
 
     // The value's four bytes, whatever its type; `defaultValue` (which is then written, unless it
     // is SETTINGS_NO_DEFAULT) when it is missing or longer.
@@ -71,17 +79,30 @@ class CSettingsKey {
     // False as well when there is no such value.
     bool DeleteValue(const wchar_t* name);
 
-    // Deletes all of the key's values.
-    void DeleteValues();
+    // Deletes all of the key's values but those of these names; none when they cannot all be seen.
+    void DeleteValuesBut(std::span<const std::wstring> kept);
 
     // Walk the names of the key's values; false at the end.
     bool FirstValueName(std::wstring& name);
     bool NextValueName(std::wstring& name);
+    std::vector<std::wstring> ValueNames();
 
   private:
     bool ValueNameAtIndex(std::wstring& name);
+    // The registry's calls by this key's handle; a key that did not open has its own failure.
+    LSTATUS Query(const wchar_t* name, void* data, DWORD* size);
+    bool Set(const wchar_t* name, DWORD type, const void* data, DWORD size);
+    // After a failed read: writes the default if the value is missing, else notes that it stands
+    // in.
+    void PutDefault(const wchar_t* name, bool isMissing, DWORD type, const void* data, DWORD size);
+    void ForgetStandIn(const wchar_t* name) const;
+    std::wstring IdOf(const wchar_t* name) const;
 
+    HKEY root_;
+    std::wstring path_;
     HKEY handle_ = nullptr;
+    LSTATUS openStatus_;
+    bool hasUnread_ = false;
     DWORD disposition_ = 0;
     DWORD enumerationIndex_ = 0;
     bool flushOnClose_;

@@ -127,110 +127,44 @@ run_demo() { # OUTPUT
     say "Pictures of each step are in ${1#"$ROOT"/}"
 }
 
-# A text of the program in the language that pictures are taken in.
-translate() { # TEXT
-    local translation=
-    [ -z "${LANGUAGE:-}" ] ||
-        translation=$(iconv -f utf-16 -t utf-8 "$ROOT/shipped/translations/LumDiary_$LANGUAGE.txt" | tr -d '\r' |
-            sed -n "s/^$1|//p")
-    printf '%s' "${translation:-$1}"
-}
-
-# What any sheet or dialog of the main screen may be called, as a regular expression.
-sheet_titles() {
-    local titles= title
-    for title in General Calendar Task Contact Note Message 'Special event'; do
-        titles+="$(translate "$title options")|"
-    done
-    printf '(%s%s)' "$titles" "$(translate 'Category Icons')"
-}
-
-# What is reached from the main screen or from a page and is no page itself: entry and page, name, and the keys
-# that lead to it, each with the title it brings up: KEY=TITLE, with "_" for a blank.
-GALLERY_DIALOGS=(
-    "3:0 layouts_select Tab= Tab= Tab= Tab= Down= Down=Keyboard_layouts"
-    "7:0 category_icons_main" "7:0 category_icons_chooser Return=Choose_icon"
-    "7:0 category_icons_sources Return=Choose_icon F10=" "7:0 category_icons_colors Tab= Tab= Tab= space="
-    "7:0 category_icons_folders Return=Choose_icon F10= Up= Return=Choose_folder"
-)
-
-# The same for every page, as the program's own tables have them. Some are only reached by turning to them.
-gallery_pages() {
-    local entry page how name turns
-    "$ROOT/tools/describe_program.sh" pages | while read -r entry page how name; do
-        turns=
-        [ "$how" = open ] || for (( ; page > 0; --page)); do turns+=' ctrl+Tab='; done
-        echo "$entry:$page $name$turns"
-    done
-}
-
-picture_page() { # FOLDER PAGE NAME KEYS...
-    local folder=$1 page=$2 name=$3 key
-    shift 3
-    start_program "$STAGE" "-P$page"
-    await_window "$SHEETS"
-    for key in "$@"; do
-        press "${key%%=*}"
-        key=${key#*=}
-        [ -z "$key" ] || await_window "$(translate "${key//_/ }")"
-    done
-    take_picture "$folder/$name.png"
-    close_program
-}
-
-# Every page on every screen, in English and in each language there is a translation for.
+# Pictures of every page and dialog, of one started device for each density and language: in English on every
+# screen, in each language there is a translation for on some, or with ALL=1 on every one.
 run_gallery() { # OUTPUT
     rm -rf "$1"
-    local file pages
-    mapfile -t pages < <(gallery_pages)
-    [ ${#pages[@]} -gt 0 ] || fail "The program told of no pages"
-    pages+=("${GALLERY_DIALOGS[@]}")
-    LANGUAGE= take_gallery "$1"
+    take_gallery "$1" en '' "${SCREENS[@]}"
+    local file language some=(240x320@96)
+    [ -z "${ALL:-}" ] || some=("${SCREENS[@]}")
     for file in "$ROOT"/shipped/translations/LumDiary_*.txt; do
-        LANGUAGE=$(basename "$file" .txt)
-        LANGUAGE=${LANGUAGE#LumDiary_} take_gallery "$1"
+        language=$(basename "$file" .txt)
+        take_gallery "$1" "${language#LumDiary_}" "$file" "${some[@]}"
     done
-    write_gallery_index "$1"
-    say "The pictures are in ${1#"$ROOT"/}"
+    say "Making the pictures' files smaller"
+    python3 "$ROOT/tools/gallery.py" "$1"
+    say "The pictures are in ${1#"$ROOT"/}; index.html shows them side by side"
 }
 
-take_gallery() { # OUTPUT
-    local screen name dpi size page folder
-    SHEETS=$(sheet_titles)
-    for screen in "portrait 96 240x320" "landscape 96 320x240" "double 192 480x640"; do
-        read -r name dpi size <<<"$screen"
-        folder=$1/$name${LANGUAGE:+-$LANGUAGE}
-        say "Taking pictures of every page at $size pixels${LANGUAGE:+ in the language $LANGUAGE}"
-        open_stage "gallery-$name" "$dpi" "$size"
-        [ -z "$LANGUAGE" ] ||
-            cp "$ROOT/shipped/translations/LumDiary_$LANGUAGE.txt" "$STAGE/Program Files/Lum Diary/LumDiary_en.txt"
-        start_program "$STAGE"
-        await_window "$(translate 'Lum Diary Options')"
-        take_picture "$folder/main_screen.png"
-        quietly wine "$BIN/device_send.exe" command 57664
-        await_window "$(translate About)"
-        take_picture "$folder/about.png"
-        close_program
-        for page in "${pages[@]}"; do
-            # shellcheck disable=SC2086  # Page, name and keys are words of it.
-            picture_page "$folder" $page
-        done
+take_gallery() { # OUTPUT LANGUAGE FILE SCREENS...
+    local output=$1 language=$2 file=$3 dpi screen sizes
+    shift 3
+    for dpi in 96 128 192; do
+        sizes=()
+        for screen in "$@"; do [ "${screen#*@}" != "$dpi" ] || sizes+=("${screen%@*}"); done
+        [ ${#sizes[@]} -gt 0 ] || continue
+        say "Taking pictures in the language $language at $dpi dots per inch: ${sizes[*]}"
+        open_stage gallery "$dpi" "$(room_for "${sizes[@]}")"
+        [ -z "$file" ] || cp "$file" "$STAGE/Program Files/Lum Diary/LumDiary_en.txt"
+        mkdir -p "$output/$language"
+        (cd "$STAGE" && wine "$BIN/walk.exe" "Z:$(realpath "$output/$language")" "${sizes[@]}" </dev/null) ||
+            fail "Not every page could be opened"
         close_stage
     done
 }
 
-write_gallery_index() { # OUTPUT
-    {
-        echo '<!DOCTYPE html><title>Every page</title>'
-        echo '<style>body{font-family:sans-serif}figure{display:inline-block;margin:8px}img{border:1px solid #888}</style>'
-        local screen picture
-        for screen in "$1"/*/; do
-            screen=$(basename "$screen")
-            echo "<h1>$screen</h1>"
-            for picture in "$1/$screen"/*.png; do
-                picture=$screen/$(basename "$picture")
-                echo "<figure><img src=\"$picture\"><figcaption>$picture</figcaption></figure>"
-            done
-        done
-    } >"$1/index.html"
+# The smallest display that has room for each of some screens.
+room_for() { # WIDTHxHEIGHT...
+    local size side longest=0
+    for size in "$@"; do
+        for side in "${size%x*}" "${size#*x}"; do [ "$side" -le $longest ] || longest=$side; done
+    done
+    echo "${longest}x$longest"
 }

@@ -10,6 +10,7 @@
 #include "app/language/language_template.h"
 #include "app/language/module.h"
 #include "base/owned_handle.h"
+#include "base/put_in_place.h"
 #include "base/read_file.h"
 
 namespace {
@@ -74,11 +75,17 @@ void TranslateMenuOnce(HMENU menu, const LanguageIndex& index, std::unordered_se
 // Of a dialog that is made for its texts alone.
 INT_PTR CALLBACK IgnoreMessage(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
 
+// Not only unreadable for now: a user's translation is not to be written over.
+bool IsMissing(const std::wstring& path) {
+    return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
+           GetLastError() == ERROR_FILE_NOT_FOUND;
+}
+
 }  // namespace
 
 bool LanguageTable::Load(const std::wstring& path) {
     std::optional<std::vector<std::uint8_t>> bytes = ReadWholeFile(path);
-    if (!bytes && WriteTemplate(path)) bytes = ReadWholeFile(path);
+    if (!bytes && IsMissing(path) && WriteTemplate(path)) bytes = ReadWholeFile(path);
     if (!bytes) return false;
     index_ = LanguageIndex(ParseLanguageFile(*bytes));
     return true;
@@ -141,21 +148,25 @@ HWND LanguageTable::createDialog(HMODULE library, unsigned id, HWND parent) cons
 }
 
 bool LanguageTable::WriteTemplate(const std::wstring& path) const {
-    const OwnedFile file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) return false;
     const HMODULE library = ResourceLibrary() ? ResourceLibrary() : ModuleInstance();
-    const std::vector<std::wstring> texts = CollectTexts(
-        library,
-        [this, library](unsigned id, HWND parent) { return createDialog(library, id, parent); });
-    const std::wstring content = LanguageTemplateText(texts);
-    constexpr wchar_t kByteOrderMark = 0xFEFF;
-    DWORD written = 0;
-    if (!WriteFile(file.get(), &kByteOrderMark, sizeof kByteOrderMark, &written, nullptr))
-        return false;
-    SetFilePointer(file.get(), 0, nullptr, FILE_END);
-    const auto size = static_cast<DWORD>(content.size() * sizeof(wchar_t));
-    return WriteFile(file.get(), content.data(), size, &written, nullptr) && written == size;
+    const std::wstring fresh = FreshName(path);
+    bool done = false;
+    {
+        const OwnedFile file(CreateFileW(fresh.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (!file) return false;
+        const std::vector<std::wstring> texts =
+            CollectTexts(library, [this, library](unsigned id, HWND parent) {
+                return createDialog(library, id, parent);
+            });
+        const std::wstring content = L"\xFEFF" + LanguageTemplateText(texts);
+        const auto size = static_cast<DWORD>(content.size() * sizeof(wchar_t));
+        DWORD written = 0;
+        done = WriteFile(file.get(), content.data(), size, &written, nullptr) && written == size;
+    }
+    if (done) return PutInPlace(path);
+    DeleteFileW(fresh.c_str());
+    return false;
 }
 
 LanguageTable& GetLanguageTable() {

@@ -15,6 +15,8 @@ class ProductKeyValues : public PageValues {
   public:
     std::uint32_t Read(const NumberSetting& setting) override { return key_.Read(setting); }
     std::wstring Read(const TextSetting& setting) override { return key_.Read(setting); }
+    bool TakeUnread() override { return key_.TakeUnread(); }
+    bool HasUnread() const override { return key_.HasUnread(); }
     void Write(const NumberSetting& setting, std::uint32_t value) override {
         key_.Write(setting, value);
     }
@@ -58,6 +60,7 @@ bool OptionsPage::OnInit() {
     ProductKeyValues values;
     rows_.Load(*this, values, shared);
     OnLoad(values);
+    ownIsUnread_ = values.HasUnread();
     rows_.UpdateEnabled(*this);
     OnUpdate();
     return false;
@@ -85,7 +88,7 @@ void OptionsPage::Store() {
     {
         ProductKeyValues values;
         rows_.Save(*this, values, shared);
-        OnSave(values);
+        if (!ownIsUnread_) OnSave(values);
     }
     if (rows_.HasSharedRows()) shared.Save();
 }

@@ -64,6 +64,7 @@ class OptionsPage : public FullScreenDialog, protected PageControls {
 
     PageRows rows_;
     std::span<const Fill> fills_;
+    bool ownIsUnread_ = false;         // OnLoad could not read all; then nothing of that is stored
     HPROPSHEETPAGE handle_ = nullptr;  // the sheet's
 };
 

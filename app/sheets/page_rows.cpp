@@ -82,6 +82,7 @@ void PageRows::Load(PageControls& controls, PageValues& values, const CDiarySett
         }
         if (!HasValue(row)) continue;
         state.loaded = Stored(i, values, shared);
+        state.unread = IsUnread(row, values, shared);
         if (row.kind == Row::Kind::kNumberText) KeepNumbers(controls, row.control);
         if (row.kind == Row::Kind::kChoice) AddChoices(controls, row.control, row.choices);
         Show(controls, row, state.loaded);
@@ -95,7 +96,9 @@ void PageRows::Refresh(PageControls& controls, PageValues& values, const CDiaryS
         const bool kept = row.whileOff != Row::WhileOff::kShown && !state.enabled;
         if (!HasValue(row) || kept || (row.removedWithout && !state.present)) continue;
         const std::int32_t stored = Stored(i, values, shared);
-        if (stored == state.loaded || Edited(controls, i) != state.loaded) continue;
+        if (IsUnread(row, values, shared) || Edited(controls, i) != state.loaded) continue;
+        state.unread = false;
+        if (stored == state.loaded) continue;
         state.loaded = stored;
         Show(controls, row, stored);
     }
@@ -108,6 +111,10 @@ std::int32_t PageRows::Stored(std::size_t index, PageValues& values,
     NumberSetting setting = row.setting;
     if (!states_[index].present && row.defaultWithout) setting.defaultValue = *row.defaultWithout;
     return static_cast<std::int32_t>(values.Read(setting));
+}
+
+bool PageRows::IsUnread(const Row& row, PageValues& values, const CDiarySettings& shared) const {
+    return row.shared ? shared.IsUnread(row.shared) : values.TakeUnread();
 }
 
 std::int32_t PageRows::Edited(const PageControls& controls, std::size_t index) const {
@@ -140,6 +147,7 @@ void PageRows::Save(const PageControls& controls, PageValues& values,
         if (!HasValue(row) || (row.removedWithout && !states_[i].present)) continue;
         if (row.whileOff == Row::WhileOff::kKeptAndNotStored && !states_[i].enabled) continue;
         const std::int32_t number = Edited(controls, i);
+        if (states_[i].unread && number == states_[i].loaded) continue;
         if (row.shared) {
             shared.*row.shared = number;
         } else {

@@ -33,6 +33,9 @@ class PageValues {
     virtual ~PageValues() = default;
     virtual std::uint32_t Read(const NumberSetting& setting) = 0;
     virtual std::wstring Read(const TextSetting& setting) = 0;
+    // Whether something that is stored could not be read since this was asked last.
+    virtual bool TakeUnread() { return false; }
+    virtual bool HasUnread() const { return false; }
     virtual void Write(const NumberSetting& setting, std::uint32_t value) = 0;
     virtual void Write(const TextSetting& setting, const std::wstring& text) = 0;
 };
@@ -177,7 +180,8 @@ class PageRows {
     // Shows what others have stored meanwhile, but for what the user has changed here and for boxes
     // that are kept while off, which show nothing.
     void Refresh(PageControls& controls, PageValues& values, const CDiarySettings& shared);
-    // Stores every row. An entry that the list does not have stays as it was loaded.
+    // Stores every row but those that could not be read and show so still. An entry that the list
+    // does not have stays as it was loaded.
     void Save(const PageControls& controls, PageValues& values, CDiarySettings& shared) const;
     // Enables what the check boxes enable; to be called when all is loaded and after each click.
     void UpdateEnabled(PageControls& controls);
@@ -189,9 +193,11 @@ class PageRows {
         bool keptChecked = false;  // of a row kept while off: the mark that comes back
         bool enabled = true;
         bool present = true;  // what the row needs of the device
+        bool unread = false;  // `loaded` only stands in for what could not be read
     };
 
     std::int32_t Stored(std::size_t index, PageValues& values, const CDiarySettings& shared) const;
+    bool IsUnread(const Row& row, PageValues& values, const CDiarySettings& shared) const;
     std::int32_t Edited(const PageControls& controls, std::size_t index) const;
 
     std::span<const Row> rows_;

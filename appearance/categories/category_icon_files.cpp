@@ -4,6 +4,7 @@
 
 #include "appearance/categories/file_name_escape.h"
 #include "appearance/categories/icon_files.h"
+#include "base/put_in_place.h"
 #include "settings/catalogue.h"
 #include "settings/install_path.h"
 #include "settings/settings_key.h"
@@ -53,8 +54,14 @@ bool AssignCategoryIcon(const std::wstring& folder, const std::wstring& category
     if (GetFileAttributesW(plain.c_str()) == INVALID_FILE_ATTRIBUTES)
         CreateDirectoryW(plain.c_str(), nullptr);
     const std::wstring target = CategoryIconPath(folder, category);
+    const std::wstring fresh = FreshName(target);
+    Unlock(fresh);
+    if (!CopyFileW(source.c_str(), fresh.c_str(), FALSE)) {
+        DeleteFileW(fresh.c_str());
+        return false;
+    }
     Unlock(target);
-    return CopyFileW(source.c_str(), target.c_str(), FALSE);
+    return PutInPlace(target);
 }
 
 void DeleteCategoryIcon(const std::wstring& folder, const std::wstring& category) {

@@ -42,7 +42,10 @@ std::wstring IconChooser::BandTitle() const {
 }
 
 bool IconChooser::OnInit() {
-    sources_ = std::make_unique<IconSources>(FindFixedIconSources(), ReadRememberedFolders());
+    const std::optional<RememberedFolders> remembered = ReadRememberedFolders();
+    foldersAreKnown_ = remembered.has_value();
+    sources_ = std::make_unique<IconSources>(FindFixedIconSources(),
+                                             remembered.value_or(RememberedFolders()));
     list_.Create(hwnd(), IDC_ICON_LIST, RECT{}, PaintMark);
     return false;
 }
@@ -83,7 +86,7 @@ void IconChooser::Load(const std::vector<std::wstring>& folders) {
     for (const std::wstring& folder : folders) library_.LoadFolder(folder);
     list_.Show(&library_);
     // A folder that was chosen comes first next time.
-    WriteRememberedFolders(sources_->remembered());
+    if (foldersAreKnown_) WriteRememberedFolders(sources_->remembered());
 }
 
 void IconChooser::ChooseSource() {

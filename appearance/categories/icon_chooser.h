@@ -39,6 +39,7 @@ class IconChooser : public FullScreenDialog {
     std::wstring category_;
     std::wstring path_;
     std::unique_ptr<IconSources> sources_;
+    bool foldersAreKnown_ = false;  // those that the registry has
     IconLibrary library_;
     IconsListControl list_;
 };

@@ -74,25 +74,24 @@ std::vector<std::wstring> FindFixedIconSources() {
     return sources;
 }
 
-RememberedFolders ReadRememberedFolders() {
+std::optional<RememberedFolders> ReadRememberedFolders() {
     CSettingsKey key = OpenProductKey(settings::keys::IconFolders);
-    std::vector<std::wstring> names;
-    std::wstring name;
-    for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
-        names.push_back(name);
-    }
     std::vector<std::pair<std::wstring, std::wstring>> values;
-    for (std::wstring& each : names) {
+    for (std::wstring& each : key.ValueNames()) {
         std::wstring folder = key.ReadString(each.c_str());
         values.emplace_back(std::move(each), std::move(folder));
     }
+    if (key.HasUnread()) return {};
     return RememberedFolders(std::move(values));
 }
 
+// From the last one on, so that one more in front costs none of them at any moment.
 void WriteRememberedFolders(const RememberedFolders& remembered) {
     CSettingsKey key = OpenProductKey(settings::keys::IconFolders);
-    key.DeleteValues();  // Of what an import brought, more may be there, with gaps.
-    for (std::size_t i = 0; i < remembered.folders().size(); ++i) {
-        key.WriteString(std::to_wstring(i + 1).c_str(), remembered.folders()[i].c_str());
+    std::vector<std::wstring> names;
+    for (std::size_t i = remembered.folders().size(); i > 0; --i) {
+        names.push_back(std::to_wstring(i));
+        if (!key.WriteString(names.back().c_str(), remembered.folders()[i - 1].c_str())) return;
     }
+    key.DeleteValuesBut(names);  // Of what an import brought, more may be there, with gaps.
 }

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,5 +35,6 @@ bool HasIcons(const std::wstring& folder);
 std::vector<std::wstring> FindFixedIconSources();
 
 // The folders that the user browsed to, in the registry.
-RememberedFolders ReadRememberedFolders();
+// No value when they are there but cannot be read.
+std::optional<RememberedFolders> ReadRememberedFolders();
 void WriteRememberedFolders(const RememberedFolders& remembered);

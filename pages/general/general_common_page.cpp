@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <array>
 
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
@@ -47,43 +48,74 @@ class GeneralCommonPage : public OptionsPage {
     void OnSave(PageValues& values) override;
     void OnUpdate() override;
     bool OnCheck() override;
+    std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
     void FillPims(std::int32_t current);
+    void ShowHeight();
+    void TakeHeight();
     // What a height that adjusts itself was before is neither checked nor stored.
     bool HeightIsEdited() const { return IsWindowEnabled(Item(IDC_HEIGHT)) != FALSE; }
 
-    int smallest_ = 0;  // pixels
-    int shown_ = 0;     // the height in pixels that the page opens with
-    bool landscape_ = false;
+    // Pixels, upright and in landscape; the page shows that of the screen as it is held.
+    struct Heights {
+        int loaded = 0;
+        int edited = 0;
+    };
+    std::array<Heights, 2> heights_;
+    bool landscape_ = false;  // of what the page shows
+    int smallest_ = 0;        // pixels; 0 until it is loaded
+    bool isKnown_ = false;    // what `smallest_` follows from could be read
 };
 
+bool IsLandscape() { return GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN); }
+
 void GeneralCommonPage::OnLoad(PageValues& values) {
+    const Registration registration = Registration::Probe();
     smallest_ = SmallestHeight(values.Read(settings::ShowTabs),
-                               Registration::Probe().state == Registration::kTabPerHostTab);
-    landscape_ = GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN);
-    int shown = smallest_;
+                               registration.state == Registration::kTabPerHostTab);
+    isKnown_ = !registration.unknown && !values.HasUnread();
+    landscape_ = IsLandscape();
     for (const bool landscape : {false, true}) {
         const NumberSetting setting = settings::HeightFor(landscape, smallest_);
         auto height = static_cast<std::int32_t>(values.Read(setting));
         if (height < smallest_) {
             height = smallest_;
-            values.Write(setting, static_cast<std::uint32_t>(height));
+            if (isKnown_) values.Write(setting, static_cast<std::uint32_t>(height));
         }
-        if (landscape == landscape_) shown = height;
+        heights_[landscape] = {std::min(height, kLargestHeight), std::min(height, kLargestHeight)};
     }
     const HWND spin = Item(IDC_HEIGHT_SPIN);
     UDACCEL step = {0, kHeightStep};
     SendMessageW(spin, UDM_SETRANGE32, smallest_, kLargestHeight);
     SendMessageW(spin, UDM_SETACCEL, 1, reinterpret_cast<LPARAM>(&step));
-    shown_ = std::min(shown, kLargestHeight);
 
     FillPims(static_cast<std::int32_t>(values.Read(settings::CurrentPIM)));
 }
 
 // A number in an edit field is no text of the program's.
-void GeneralCommonPage::OnTranslated() {
-    SendDlgItemMessageW(hwnd(), IDC_HEIGHT_SPIN, UDM_SETPOS32, 0, shown_);
+void GeneralCommonPage::OnTranslated() { ShowHeight(); }
+
+void GeneralCommonPage::ShowHeight() {
+    SendDlgItemMessageW(hwnd(), IDC_HEIGHT_SPIN, UDM_SETPOS32, 0, heights_[landscape_].edited);
+}
+
+void GeneralCommonPage::TakeHeight() {
+    heights_[landscape_].edited =
+        static_cast<int>(GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+}
+
+// When the screen is turned, the page goes on with the other height. What could not be stored comes
+// into the range then, as nobody sees any more what would be refused.
+std::optional<INT_PTR> GeneralCommonPage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SIZE && smallest_ && IsLandscape() != landscape_) {
+        TakeHeight();
+        int& height = heights_[landscape_].edited;
+        height = std::clamp(height, smallest_, kLargestHeight);
+        landscape_ = !landscape_;
+        ShowHeight();
+    }
+    return OptionsPage::OnMessage(message, wParam, lParam);
 }
 
 void GeneralCommonPage::FillPims(std::int32_t current) {
@@ -117,9 +149,13 @@ bool GeneralCommonPage::OnCheck() {
 }
 
 void GeneralCommonPage::OnSave(PageValues& values) {
-    if (HeightIsEdited()) {
-        values.Write(settings::HeightFor(landscape_, smallest_),
-                     GetDlgItemInt(hwnd(), IDC_HEIGHT, nullptr, FALSE));
+    TakeHeight();
+    for (const bool landscape : {false, true}) {
+        const Heights& height = heights_[landscape];
+        const bool shown = landscape == landscape_ && isKnown_;
+        if (!HeightIsEdited() || (!shown && height.edited == height.loaded)) continue;
+        values.Write(settings::HeightFor(landscape, smallest_),
+                     static_cast<std::uint32_t>(height.edited));
     }
     values.Write(settings::CurrentPIM, static_cast<std::uint32_t>(ChosenValue(*this, IDC_PIM, 0)));
 }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr Row kRows[] = {rows::Own(IDC_SKIN, settings::SkinName)};
 
-constexpr Fill kFills[] = {{IDC_SKIN_SAMPLE, 27}};
+constexpr Fill kFills[] = {{IDC_SKIN_ICONS, 0}, {IDC_SKIN_SAMPLE, 27}};
 
 void AddSkin(HWND list, const wchar_t* name) {
     SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));

@@ -101,9 +101,11 @@ void GeneralTabsPage::OnSave(PageValues& values) {
     values.Write(settings::ShowTabs, layout.shown);
     values.Write(settings::ShowTabsSequence, layout.Sequence());
 
-    const bool apart = Registration::Probe().state == Registration::kTabPerHostTab;
+    const Registration registration = Registration::Probe();
+    const bool apart = registration.state == Registration::kTabPerHostTab;
     const int smallest = SmallestHeight(layout.shown, apart);
     for (const bool landscape : {false, true}) {
+        if (registration.unknown) break;  // The height may do as it is.
         const NumberSetting height = settings::HeightFor(landscape, kUsualHeight);
         if (static_cast<std::int32_t>(values.Read(height)) < smallest) {
             values.Write(height, static_cast<std::uint32_t>(smallest));

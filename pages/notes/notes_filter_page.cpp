@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "app/language/language_table.h"
 #include "app/sheets/options_page.h"
@@ -23,9 +24,13 @@ std::wstring LowerCase(std::wstring text) {
     return text;
 }
 
-std::vector<std::wstring> LoadHidden() {
+// No value when they cannot be read.
+std::optional<std::vector<std::wstring>> LoadHidden() {
     const TextSetting& hidden = settings::HiddenFolders;
-    return SplitHiddenNames(LowerCase(OpenProductKey(hidden.key).Read(hidden)));
+    CSettingsKey key = OpenProductKey(hidden.key);
+    const std::wstring names = key.Read(hidden);
+    if (key.HasUnread()) return {};
+    return SplitHiddenNames(LowerCase(names));
 }
 
 class NotesFilterPage : public OptionsPage {
@@ -40,15 +45,18 @@ class NotesFilterPage : public OptionsPage {
 
   private:
     void TickSameNames(int row);
-    // What is to be stored.
-    std::wstring HiddenNames() const;
+    // What is to be stored; no value when that cannot be told.
+    std::optional<std::wstring> HiddenNames() const;
 
     CheckList list_;
     std::vector<std::wstring> folders_;  // of the rows, in lower case
+    bool isKnown_ = false;               // the list shows what was stored
 };
 
 void NotesFilterPage::OnLoad(PageValues&) {
-    const std::vector<std::wstring> hidden = LoadHidden();
+    const auto stored = LoadHidden();
+    isKnown_ = stored.has_value();
+    const auto hidden = stored.value_or(std::vector<std::wstring>());
     const HWND list = Item(IDC_NOTES_FOLDERS);
     list_.Attach(list, CheckList::Order::kFixed);
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
@@ -62,9 +70,11 @@ void NotesFilterPage::OnLoad(PageValues&) {
     list_.Select(0);
 }
 
-std::wstring NotesFilterPage::HiddenNames() const {
+std::optional<std::wstring> NotesFilterPage::HiddenNames() const {
     // Read anew: names of folders that are not there now stay hidden.
-    std::vector<std::wstring> hidden = LoadHidden();
+    const auto stored = LoadHidden();
+    if (!stored || !isKnown_) return {};
+    std::vector<std::wstring> hidden = *stored;
     for (int i = 0; i < list_.Count(); ++i) {
         const std::wstring& name = folders_[static_cast<std::size_t>(i)];
         if (list_.IsChecked(i)) {
@@ -77,7 +87,8 @@ std::wstring NotesFilterPage::HiddenNames() const {
 }
 
 bool NotesFilterPage::OnCheck() {
-    if (!FitsValue(HiddenNames())) {
+    const auto names = HiddenNames();
+    if (names && !FitsValue(*names)) {
         return Refuse(IDC_NOTES_FOLDERS, GetLanguageTable().LoadString(IDS_TOO_MANY_HIDDEN));
     }
     return true;
@@ -85,7 +96,7 @@ bool NotesFilterPage::OnCheck() {
 
 void NotesFilterPage::OnSave(PageValues&) {
     const TextSetting& hidden = settings::HiddenFolders;
-    OpenProductKey(hidden.key).Write(hidden, HiddenNames());
+    if (const auto names = HiddenNames()) OpenProductKey(hidden.key).Write(hidden, *names);
 }
 
 std::optional<INT_PTR> NotesFilterPage::OnControlNotification(const NMHDR& header) {

@@ -20,6 +20,7 @@ TitleDraft& SheetTitles::Draft() {
         const CDiarySettings& shared = GetDiarySettings();
         stored_ = {shared.taskPattern, shared.appointmentPattern, shared.contactPattern};
         draft_ = stored_;
+        isKnown_ = !shared.HasUnreadPatterns();
     }
     return *draft_;
 }
@@ -27,6 +28,12 @@ TitleDraft& SheetTitles::Draft() {
 void SheetTitles::Store() {
     CDiarySettings& shared = GetDiarySettings();
     const TitleDraft& edited = Draft();
+    if (!isKnown_) return;
+    if (shared.HasUnreadPatterns()) {  // Defaults stand there for what the draft knows.
+        shared.taskPattern = stored_.task;
+        shared.appointmentPattern = stored_.appointment;
+        shared.contactPattern = stored_.contact;
+    }
     StoreChanges(edited.task, stored_.task, shared.taskPattern);
     StoreChanges(edited.appointment, stored_.appointment, shared.appointmentPattern);
     StoreChanges(edited.contact, stored_.contact, shared.contactPattern);

@@ -27,12 +27,14 @@ class SheetTitles {
     // Loaded from the shared settings when the first page asks for it.
     TitleDraft& Draft();
     // Puts what was changed here into the shared settings, which the caller saves; what a sheet
-    // opened over this one has stored meanwhile stays otherwise.
+    // opened over this one has stored meanwhile stays otherwise. Nothing of a draft that could not
+    // be loaded whole.
     void Store();
 
   private:
     std::optional<TitleDraft> draft_;
-    TitleDraft stored_;  // as the draft was loaded or last stored
+    TitleDraft stored_;     // as the draft was loaded or last stored
+    bool isKnown_ = false;  // no default stands in for what could not be read
     SheetTitles* outer_;
     static inline SheetTitles* innermost_ = nullptr;
 };

@@ -36,6 +36,7 @@ bool CMailFoldersFilters::Load(bool force) {
     filters_.clear();
     const std::wstring path = std::wstring(kProductKey) + L"\\" + settings::keys::MailFilters;
     CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), false, false);
+    hasUnread_ = key.HasUnread();
     if (!key.IsOpen()) return false;
     std::wstring name;
     for (bool more = key.FirstValueName(name); more; more = key.NextValueName(name)) {
@@ -43,13 +44,15 @@ bool CMailFoldersFilters::Load(bool force) {
         auto entries = bytes ? ParseMailFilter(*bytes) : std::nullopt;
         if (entries) filters_.push_back({name, std::move(*entries)});
     }
+    hasUnread_ = key.HasUnread();
     loaded_ = true;
     return true;
 }
 
+// The old ones go last, so that no filter is ever in neither form, and only if all are known.
 void CMailFoldersFilters::Save() const {
     CSettingsKey key = OpenProductKey(settings::keys::MailFilters);
-    key.DeleteValues();
+    std::vector<std::wstring> kept;
     for (const MailFilter& filter : filters_) {
         const auto bytes = MailFilterBytes(filter.entries);
         if (!bytes) continue;
@@ -57,7 +60,9 @@ void CMailFoldersFilters::Save() const {
         const std::uint8_t none = 0;
         key.WriteBinary(filter.name.c_str(), bytes->empty() ? &none : bytes->data(),
                         static_cast<DWORD>(bytes->size()));
+        kept.push_back(filter.name);
     }
+    if (!hasUnread_) key.DeleteValuesBut(kept);
 }
 
 std::wstring CMailFoldersFilters::ActiveName() {
@@ -115,6 +120,7 @@ void CMailFoldersFilters::AddTo(int index, const MailFolderRef& folder,
 
 bool CMailFoldersFilters::AddMAPIFolders(const MapiSession& session, const BuiltIns& builtIns) {
     return session.ForEachAccount([&](const MapiAccount& account) {
+        if (!account.nameIsKnown) return false;  // Those that are there keep their names.
         const MapiPointer<IMsgStore> store = session.OpenStore(account);
         return store && ForEachSpecialFolder(
                             *store.get(), [&](std::size_t i, const std::vector<std::uint8_t>& id) {

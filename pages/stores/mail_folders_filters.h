@@ -48,6 +48,7 @@ class CMailFoldersFilters {
 
     std::vector<MailFilter> filters_;
     bool loaded_ = false;
+    bool hasUnread_ = false;  // some that are stored may not be in the list
 };
 
 // The process's one.

@@ -13,23 +13,28 @@ constexpr ULONG kOlderTransportName = PROP_TAG(PT_TSTRING, 0x8302);
 
 ULONG TransportNameTag() { return IsNewerPocketPc() ? PR_CE_TRANSPORT_NAME : kOlderTransportName; }
 
-OwnedKey OpenServiceKey(const std::wstring& service) {
-    HKEY key = nullptr;
+LSTATUS OpenServiceKey(const std::wstring& service, OwnedKey& key) {
+    HKEY opened = nullptr;
     const std::wstring path = L"SOFTWARE\\Microsoft\\Inbox\\Svc\\" + service;
-    return OwnedKey(RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, 0, &key) == ERROR_SUCCESS
-                        ? key
-                        : nullptr);
+    const LSTATUS status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, 0, &opened);
+    if (status == ERROR_SUCCESS) key.Reset(opened);
+    return status;
 }
 
 // What the service is called where the owner sees it: the service's own name when it has no other.
-std::wstring FriendlyName(const std::wstring& service) {
-    const OwnedKey key = service.empty() ? OwnedKey() : OpenServiceKey(service);
-    if (!key) return service;
+std::wstring FriendlyName(const std::wstring& service, bool& isKnown) {
+    OwnedKey key;
+    if (service.empty()) return service;
+    LSTATUS status = OpenServiceKey(service, key);
     constexpr DWORD kRoom = 256;  // bytes, with the terminator
     wchar_t name[kRoom / sizeof(wchar_t) + 1] = {};
     DWORD size = kRoom, type = REG_NONE;
-    const LSTATUS status = RegQueryValueExW(key.get(), L"FriendlyName", nullptr, &type,
-                                            reinterpret_cast<BYTE*>(name), &size);
+    if (key) {
+        status = RegQueryValueExW(key.get(), L"FriendlyName", nullptr, &type,
+                                  reinterpret_cast<BYTE*>(name), &size);
+    }
+    isKnown =
+        status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND || status == ERROR_MORE_DATA;
     return status == ERROR_SUCCESS && type == REG_SZ && *name ? name : service;
 }
 
@@ -39,8 +44,11 @@ std::optional<MapiAccount> AccountOf(const MapiRecord& row) {
     if (row.Tag(0) != PR_ENTRYID || !identifier) return std::nullopt;
     const auto transport = row.Text(2);
     const std::wstring service = transport ? *transport : row.Text(1).value_or(L"");
-    if (transport && !transport->empty() && !OpenServiceKey(*transport)) return std::nullopt;
-    return MapiAccount{*identifier, FriendlyName(service)};
+    OwnedKey key;
+    if (transport && !transport->empty() && OpenServiceKey(*transport, key)) return std::nullopt;
+    MapiAccount account = {*identifier};
+    account.name = FriendlyName(service, account.nameIsKnown);
+    return account;
 }
 
 }  // namespace

@@ -11,6 +11,7 @@ struct MapiAccount {
     std::vector<std::uint8_t> identifier;
     // What the owner knows the account's service by; empty when nothing has a name.
     std::wstring name;
+    bool nameIsKnown = true;  // false when the name there may be could not be read
 };
 
 // A session of the messaging system, for as long as it lives.

@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "pocketpc/common/failing_calls.h"
+
 namespace trials {
 
 namespace {
@@ -68,7 +70,10 @@ void End() {
     if (--state.sessions == 0) Report();
 }
 
-HRESULT NextCall() { return ++state.calls == state.failCall ? state.failWith : S_OK; }
+HRESULT NextCall() {
+    const bool fails = failing::Fails(failing::kMessaging);
+    return ++state.calls == state.failCall || fails ? state.failWith : S_OK;
+}
 
 ULONG TableRows() { return state.tableRows; }
 

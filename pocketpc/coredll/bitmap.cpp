@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/bitmap_file.h"
 
 namespace {
@@ -60,6 +61,7 @@ extern "C" HBITMAP WINAPI Pocket_SHLoadDIBitmap(LPCWSTR path) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
+    if (failing::Fails(failing::kDrawing, ERROR_NOT_ENOUGH_MEMORY)) return nullptr;
     const std::vector<std::uint8_t> bytes = ReadWhole(path);
     if (bytes.empty()) return nullptr;
     const auto file = BitmapFile::Parse(bytes);

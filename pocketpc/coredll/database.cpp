@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/notices.h"
 
 namespace {
@@ -93,6 +94,7 @@ std::shared_ptr<Volume> FindDatabase(const CEGUID& guid, CEOID& oid, const wchar
 template <typename IsWanted>
 HANDLE Open(PCEGUID guid, PCEOID oid, LPCWSTR name, DWORD flags, const CENOTIFYREQUEST* request,
             bool sorted, IsWanted isWanted) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return INVALID_HANDLE_VALUE;
     const std::lock_guard lock(Store::Get().mutex());
     if (!guid || !oid || (flags & ~CEDB_AUTOINCREMENT) ||
         (request && (request->dwSize != sizeof *request || !IsWindow(request->hwnd)))) {
@@ -372,6 +374,7 @@ HANDLE WINAPI CeOpenDatabaseInSession(HANDLE session, PCEGUID guid, PCEOID oid, 
 
 CEOID WINAPI CeSeekDatabaseEx(HANDLE handle, DWORD type, DWORD_PTR value, WORD count,
                               LPDWORD index) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     return database ? database->Seek(type, value, count, index) : 0;

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/database.h"
 #include "pocketpc/coredll/notices.h"
 #include "pocketpc/coredll/store.h"
@@ -201,6 +202,7 @@ BOOL WINAPI CeSetDatabaseInfoEx2(PCEGUID guid, CEOID oid, CEDBASEINFOEX* info) {
 }
 
 BOOL WINAPI CeOidGetInfoEx(PCEGUID guid, CEOID oid, CEOIDINFO* info) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     if (!guid || !info) return Refuse(ERROR_INVALID_PARAMETER);
     return Describe(guid, oid, *info, [](CEDBASEINFO& database, DWORD records) {
@@ -209,6 +211,7 @@ BOOL WINAPI CeOidGetInfoEx(PCEGUID guid, CEOID oid, CEOIDINFO* info) {
 }
 
 BOOL WINAPI CeOidGetInfoEx2(PCEGUID guid, CEOID oid, CEOIDINFOEX* info) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     switch (guid && info ? info->wVersion : 0) {
         case CEOIDINFOEX_VERSION_CEDB: return DescribeEx2<CEOIDINFOEX_CEDB>(guid, oid, kCedb, info);
@@ -244,6 +247,7 @@ HANDLE WINAPI CeFindFirstDatabaseEx(PCEGUID guid, DWORD type) {
 }
 
 CEOID WINAPI CeFindNextDatabaseEx(HANDLE search, PCEGUID guid) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     const auto found = Store::Get().ObjectOf<DatabaseSearch>(search);
     return found ? found->Next(guid) : 0;

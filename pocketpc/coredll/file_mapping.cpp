@@ -5,6 +5,8 @@
 #include <mutex>
 #include <vector>
 
+#include "pocketpc/common/failing_calls.h"
+
 namespace {
 
 std::mutex filesMutex;
@@ -23,6 +25,7 @@ bool TakeFile(HANDLE file) {
 extern "C" HANDLE WINAPI Pocket_CreateFileForMappingW(LPCWSTR path, DWORD access, DWORD share,
                                                       LPSECURITY_ATTRIBUTES, DWORD disposition,
                                                       DWORD attributes, HANDLE) {
+    if (failing::Fails(failing::kFiles, ERROR_READ_FAULT)) return INVALID_HANDLE_VALUE;
     const HANDLE file = CreateFileW(path, access, share, nullptr, disposition, attributes, nullptr);
     if (file != INVALID_HANDLE_VALUE) {
         TakeFile(file);  // A closed file's handle may come again.
@@ -35,6 +38,7 @@ extern "C" HANDLE WINAPI Pocket_CreateFileForMappingW(LPCWSTR path, DWORD access
 extern "C" HANDLE WINAPI Pocket_CreateFileMappingW(HANDLE file, LPSECURITY_ATTRIBUTES security,
                                                    DWORD protection, DWORD highSize, DWORD lowSize,
                                                    LPCWSTR name) {
+    if (failing::Fails(failing::kFiles, ERROR_NOT_ENOUGH_MEMORY)) return nullptr;
     if (file != INVALID_HANDLE_VALUE && !TakeFile(file)) {
         SetLastError(ERROR_INVALID_HANDLE);
         return nullptr;

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/database.h"
 #include "pocketpc/coredll/notices.h"
 
@@ -103,6 +104,7 @@ class Block {
 // Makes the caller's block at least `needed` bytes large.
 bool Grow(LPBYTE* buffer, DWORD size, DWORD needed, HANDLE heap) {
     if (*buffer && size >= needed) return true;
+    if (failing::Fails(failing::kMemory, ERROR_NOT_ENOUGH_MEMORY)) return false;
     void* grown = nullptr;
     if (heap) {
         grown = *buffer ? HeapReAlloc(heap, 0, *buffer, needed) : HeapAlloc(heap, 0, needed);
@@ -173,6 +175,7 @@ extern "C" {
 
 CEOID WINAPI CeReadRecordPropsEx(HANDLE handle, DWORD flags, LPWORD count, CEPROPID* ids,
                                  LPBYTE* buffer, LPDWORD size, HANDLE heap) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return 0;
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     if (!database) return 0;
@@ -209,6 +212,8 @@ CEOID WINAPI CeReadRecordProps(HANDLE handle, DWORD flags, LPWORD count, CEPROPI
 }
 
 CEOID WINAPI CeWriteRecordProps(HANDLE handle, CEOID record, WORD count, CEPROPVAL* values) {
+    if (const DWORD error = failing::StoringError(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY))
+        return Refuse(error);
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     if (!database) return 0;
@@ -246,6 +251,7 @@ CEOID WINAPI CeWriteRecordProps(HANDLE handle, CEOID record, WORD count, CEPROPV
 }
 
 BOOL WINAPI CeDeleteRecord(HANDLE handle, CEOID record) {
+    if (failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY)) return FALSE;
     const std::lock_guard lock(Store::Get().mutex());
     const auto database = Store::Get().ObjectOf<OpenDatabase>(handle);
     if (!database) return FALSE;

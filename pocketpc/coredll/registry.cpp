@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/device.h"
 
 namespace {
@@ -133,6 +134,11 @@ class DesktopKey {
     HKEY root_ = nullptr;
 };
 
+// Documented is that a call that fails returns an error; which, when memory or space are short, is
+// a guess.
+bool Fails() { return failing::Fails(failing::kRegistry); }
+constexpr LSTATUS kFailure = ERROR_NOT_ENOUGH_MEMORY;
+
 bool IsNameTooLong(LPCWSTR name) { return name && wcslen(name) > kLongestName; }
 
 }  // namespace
@@ -141,6 +147,7 @@ extern "C" {
 
 // The access asked for is ignored: who opens a key may do everything.
 LSTATUS WINAPI Pocket_RegOpenKeyExW(HKEY key, LPCWSTR name, DWORD, REGSAM, PHKEY result) {
+    if (Fails()) return kFailure;
     if (!result) return ERROR_INVALID_PARAMETER;
     std::wstring path;
     LSTATUS status = Resolve(key, name, path);
@@ -154,6 +161,7 @@ LSTATUS WINAPI Pocket_RegOpenKeyExW(HKEY key, LPCWSTR name, DWORD, REGSAM, PHKEY
 
 LSTATUS WINAPI Pocket_RegCreateKeyExW(HKEY key, LPCWSTR name, DWORD, LPWSTR, DWORD, REGSAM,
                                       LPSECURITY_ATTRIBUTES, PHKEY result, LPDWORD disposition) {
+    if (const DWORD error = failing::StoringError(failing::kRegistry, kFailure)) return error;
     if (!result) return ERROR_INVALID_PARAMETER;
     std::wstring path;
     LSTATUS status = Resolve(key, name, path);
@@ -172,6 +180,7 @@ LSTATUS WINAPI Pocket_RegCloseKey(HKEY key) {
 
 // Deletes the key with all below it, but not while any of it is open.
 LSTATUS WINAPI Pocket_RegDeleteKeyW(HKEY key, LPCWSTR name) {
+    if (Fails()) return kFailure;
     if (!name || !name[wcsspn(name, L"\\")]) return ERROR_INVALID_PARAMETER;
     std::wstring path;
     const LSTATUS status = Resolve(key, name, path);
@@ -182,28 +191,33 @@ LSTATUS WINAPI Pocket_RegDeleteKeyW(HKEY key, LPCWSTR name) {
 
 LSTATUS WINAPI Pocket_RegQueryValueExW(HKEY key, LPCWSTR name, LPDWORD reserved, LPDWORD type,
                                        LPBYTE data, LPDWORD size) {
+    if (Fails()) return kFailure;
     return DesktopKey(key).Call(RegQueryValueExW, name, reserved, type, data, size);
 }
 
 LSTATUS WINAPI Pocket_RegSetValueExW(HKEY key, LPCWSTR name, DWORD reserved, DWORD type,
                                      const BYTE* data, DWORD size) {
+    if (const DWORD error = failing::StoringError(failing::kRegistry, kFailure)) return error;
     if (IsNameTooLong(name) || size > kMostData) return ERROR_INVALID_PARAMETER;
     return DesktopKey(key).Call(RegSetValueExW, name, reserved, type, data, size);
 }
 
 LSTATUS WINAPI Pocket_RegDeleteValueW(HKEY key, LPCWSTR name) {
+    if (Fails()) return kFailure;
     return DesktopKey(key).Call(RegDeleteValueW, name);
 }
 
 LSTATUS WINAPI Pocket_RegEnumKeyExW(HKEY key, DWORD index, LPWSTR name, LPDWORD length,
                                     LPDWORD reserved, LPWSTR className, LPDWORD classLength,
                                     PFILETIME lastWrite) {
+    if (Fails()) return kFailure;
     return DesktopKey(key).Call(RegEnumKeyExW, index, name, length, reserved, className,
                                 classLength, lastWrite);
 }
 
 LSTATUS WINAPI Pocket_RegEnumValueW(HKEY key, DWORD index, LPWSTR name, LPDWORD length,
                                     LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD size) {
+    if (Fails()) return kFailure;
     return DesktopKey(key).Call(RegEnumValueW, index, name, length, reserved, type, data, size);
 }
 
@@ -211,11 +225,14 @@ LSTATUS WINAPI Pocket_RegQueryInfoKeyW(HKEY key, LPWSTR className, LPDWORD class
                                        LPDWORD reserved, LPDWORD subKeys, LPDWORD longestSubKey,
                                        LPDWORD longestClass, LPDWORD values, LPDWORD longestName,
                                        LPDWORD longestData, LPDWORD security, PFILETIME lastWrite) {
+    if (Fails()) return kFailure;
     return DesktopKey(key).Call(RegQueryInfoKeyW, className, classLength, reserved, subKeys,
                                 longestSubKey, longestClass, values, longestName, longestData,
                                 security, lastWrite);
 }
 
-LSTATUS WINAPI Pocket_RegFlushKey(HKEY key) { return DesktopKey(key).Call(RegFlushKey); }
+LSTATUS WINAPI Pocket_RegFlushKey(HKEY key) {
+    return Fails() ? kFailure : DesktopKey(key).Call(RegFlushKey);
+}
 
 }  // extern "C"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "pocketpc/common/failing_calls.h"
 #include "pocketpc/coredll/device.h"
 
 namespace {
@@ -184,6 +185,12 @@ bool Store::Close(HANDLE handle) {
     return true;
 }
 
+namespace {
+
+bool Fails() { return failing::Fails(failing::kDatabases, ERROR_NOT_ENOUGH_MEMORY); }
+
+}  // namespace
+
 extern "C" {
 
 BOOL WINAPI CeMountDBVol(PCEGUID guid, LPWSTR path, DWORD flags) {
@@ -199,7 +206,7 @@ BOOL WINAPI CeMountDBVol(PCEGUID guid, LPWSTR path, DWORD flags) {
     } else {
         CREATE_INVALIDGUID(guid);
     }
-    if (!Store::Get().Mount(mounted, path, flags)) return FALSE;
+    if (Fails() || !Store::Get().Mount(mounted, path, flags)) return FALSE;
     *guid = mounted;
     return TRUE;
 }
@@ -219,7 +226,7 @@ BOOL WINAPI CeEnumDBVolumes(PCEGUID guid, LPWSTR buffer, DWORD characters) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    if (!Store::Get().Next(next, name)) return FALSE;
+    if (Fails() || !Store::Get().Next(next, name)) return FALSE;
     if (characters <= name.size()) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
         return FALSE;

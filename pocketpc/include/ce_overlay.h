@@ -110,6 +110,9 @@ EXTERN_C HANDLE WINAPI CreateFileForMappingW(LPCWSTR path, DWORD access, DWORD s
                                              LPSECURITY_ATTRIBUTES security, DWORD disposition,
                                              DWORD attributes, HANDLE templateFile);
 
+// Puts one file in the place of another in one step.
+EXTERN_C BOOL WINAPI DeleteAndRenameFile(LPCWSTR to, LPCWSTR from);
+
 // Bitmap files are loaded by the shell.
 EXTERN_C HBITMAP WINAPI SHLoadDIBitmap(LPCWSTR path);
 

@@ -210,7 +210,7 @@ TEST_F(Appearance, SourcesAreFoundAndRemembered) {
     for (const wchar_t* const name : {L"3", L"7", L"9", L"010", L"11", L"12"}) {
         key.WriteString(name, (std::wstring(L"imported ") + name).c_str());
     }
-    WriteRememberedFolders(ReadRememberedFolders());
+    WriteRememberedFolders(*ReadRememberedFolders());
     std::wstring stored;
     for (bool more = key.FirstValueName(stored); more; more = key.NextValueName(stored)) {
         EXPECT_TRUE(stored.size() == 1 && stored >= L"1" && stored <= L"5")
@@ -220,11 +220,11 @@ TEST_F(Appearance, SourcesAreFoundAndRemembered) {
     EXPECT_EQ(key.ReadString(L"5"), L"imported 11");
 
     for (const wchar_t* const each : {L"a", L"b", L"c", L"d", L"e", L"f", L"d"}) {
-        RememberedFolders remembered = ReadRememberedFolders();
+        RememberedFolders remembered = *ReadRememberedFolders();
         remembered.Add(each);
         WriteRememberedFolders(remembered);
     }
-    EXPECT_EQ(ReadRememberedFolders().folders(), (Folders{L"d", L"f", L"e", L"c", L"b"}));
+    EXPECT_EQ(ReadRememberedFolders()->folders(), (Folders{L"d", L"f", L"e", L"c", L"b"}));
 }
 
 TEST_F(Appearance, CategoryIconsLieWhereThePimKeepsThem) {

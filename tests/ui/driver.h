@@ -32,6 +32,9 @@ class Program {
     // Opens an entry of the main screen at a page.
     void Open(int entry, int page) const;
     bool IsRunning() const;
+    DWORD id() const { return id_; }
+    // Ends the process where it stands.
+    void Kill() const { TerminateProcess(process_, 99); }
     // Closes the main window.
     void Close() const;
     // Closes it and waits; no value when it does not end.

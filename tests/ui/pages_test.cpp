@@ -311,11 +311,11 @@ TEST_F(Pages, UnlistedNumbersShowNothingAndStay) {
 }
 
 TEST_F(Pages, FocusScrollsALowPage) {
-    Program program(L"-P1:0");
-    const HWND page = Page(program.Sheet(L"Calendar options"), IDC_GROUP_SPAN);
+    Program program(L"-P4:0");
+    const HWND page = Page(program.Sheet(L"Note options"), IDC_NOTES_LAYOUT);
     ASSERT_TRUE(page);
-    const HWND first = GetDlgItem(page, IDC_CALENDAR_PERIOD);
-    const HWND last = GetDlgItem(page, IDC_GROUP_SPAN);
+    const HWND first = GetDlgItem(page, IDC_NOTES_GROUP_BY);
+    const HWND last = GetDlgItem(page, IDC_NOTES_LAYOUT);
     const auto rectOf = [page](HWND control) {
         RECT rect;
         GetWindowRect(control, &rect);

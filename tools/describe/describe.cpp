@@ -163,6 +163,49 @@ int CheckControls(HMODULE library, const PageDescription& page) {
     return faults;
 }
 
+// A template for wide screens may differ from the usual one in places and sizes alone.
+int CheckWide(HMODULE library, unsigned id) {
+    const auto wide = TemplateOf(library, id), usual = TemplateOf(library, id - IDD_WIDE);
+    const auto fault = [id](std::size_t control, const char* what) {
+        std::printf("template %u, control %d of the order: %s\n", id, static_cast<int>(control),
+                    what);
+        return 1;
+    };
+    if (!wide || !usual) return fault(0, "cannot be read, or has no usual template");
+    if (wide->style != usual->style || wide->caption != usual->caption) {
+        return fault(0, "the dialog's style or caption differs");
+    }
+    if (wide->controls.size() != usual->controls.size()) return fault(0, "not as many controls");
+    int faults = 0;
+    for (std::size_t i = 0; i < wide->controls.size(); ++i) {
+        const DialogTemplate::Control &a = wide->controls[i], &b = usual->controls[i];
+        if (a.id != b.id) faults += fault(i, "another id");
+        if (a.style != b.style || a.extendedStyle != b.extendedStyle) {
+            faults += fault(i, "another style");
+        }
+        if (a.className != b.className) faults += fault(i, "another class");
+        if (a.text != b.text) faults += fault(i, "another text");
+    }
+    return faults;
+}
+
+int CheckWideTemplates(HMODULE library, int& looked) {
+    std::vector<unsigned> ids;
+    EnumResourceNamesW(
+        library, RT_DIALOG,
+        [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR list) -> BOOL {
+            if (IS_INTRESOURCE(name) && LOWORD(name) > IDD_WIDE) {
+                reinterpret_cast<std::vector<unsigned>*>(list)->push_back(LOWORD(name));
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LONG_PTR>(&ids));
+    int faults = 0;
+    for (const unsigned id : ids) faults += CheckWide(library, id);
+    looked = static_cast<int>(ids.size());
+    return faults;
+}
+
 int Check() {
     const OwnedLibrary library(LoadLibraryExW(L"DiaryRes.Dll", nullptr, LOAD_LIBRARY_AS_DATAFILE));
     if (!library) {
@@ -181,9 +224,11 @@ int Check() {
                     entry.edited ? "no page" : "a page, but marked as kept");
         ++faults;
     }
-    std::printf("%d rows of %d pages and %d values looked at\n", controls,
-                static_cast<int>(AllPages().size()), static_cast<int>(Catalogue().size()));
-    return faults || !controls ? 1 : 0;
+    int wide = 0;
+    faults += CheckWideTemplates(library.get(), wide);
+    std::printf("%d rows of %d pages, %d values and %d wide templates looked at\n", controls,
+                static_cast<int>(AllPages().size()), static_cast<int>(Catalogue().size()), wide);
+    return faults || !controls || !wide ? 1 : 0;
 }
 
 }  // namespace

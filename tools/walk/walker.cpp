@@ -34,8 +34,12 @@ std::vector<HWND> WindowsOf(DWORD thread) {
     return windows;
 }
 
-BOOL CALLBACK IsClean(HWND hwnd, LPARAM) {
-    return !IsWindowVisible(hwnd) || !GetUpdateRect(hwnd, nullptr, FALSE);
+// Whether something of the window is still to be painted.
+BOOL CALLBACK NoteUnpainted(HWND hwnd, LPARAM unpainted) {
+    if (IsWindowVisible(hwnd) && GetUpdateRect(hwnd, nullptr, FALSE)) {
+        *reinterpret_cast<bool*>(unpainted) = true;
+    }
+    return TRUE;
 }
 
 std::string NameOf(const PageDescription& page) {
@@ -96,8 +100,8 @@ bool Walker::ShowPages(std::size_t entry) {
 
 bool Walker::ShowLayouts(HWND page) {
     const HWND list = GetDlgItem(page, IDC_CONTACT_LAYOUT);
-    const LRESULT last = SendMessageW(list, CB_GETCOUNT, 0, 0) - 1;
-    SendMessageW(list, CB_SETCURSEL, last, 0);
+    // "Select layouts..."; below it is an empty entry.
+    SendMessageW(list, CB_SETCURSEL, SendMessageW(list, CB_GETCOUNT, 0, 0) - 2, 0);
     const HWND dialog = Post(page, WM_COMMAND, MAKEWPARAM(IDC_CONTACT_LAYOUT, CBN_SELCHANGE),
                              reinterpret_cast<LPARAM>(list));
     return dialog && Show("layouts_select", dialog, dialog) && Close(dialog);
@@ -191,9 +195,11 @@ bool Walker::Show(const std::string& name, HWND window, HWND dialog, Popup popup
 void Walker::Settle() const {
     Until([this] {
         SendMessageW(main_, WM_NULL, 0, 0);
+        bool unpainted = false;
         for (const HWND hwnd : WindowsOf(threadId_)) {
-            if (!IsClean(hwnd, 0) || !EnumChildWindows(hwnd, IsClean, 0)) return false;
+            NoteUnpainted(hwnd, reinterpret_cast<LPARAM>(&unpainted));
+            EnumChildWindows(hwnd, NoteUnpainted, reinterpret_cast<LPARAM>(&unpainted));
         }
-        return true;
+        return !unpainted;
     });
 }

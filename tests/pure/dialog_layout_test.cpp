@@ -1,0 +1,104 @@
+#include "controls/dialog_layout.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr LayoutMetrics kMetrics = {200, 10, 8, 5, 20, 2};
+constexpr int kLine = 12;
+
+// Designed for 200 by 100. A label and its field, a list with a button beside it, a box.
+enum { kLabel, kField, kListed, kUp, kBox };
+
+std::vector<ControlPlace> Designed() {
+    return {{kLabel, 10, 12, 50, 24, ControlKind::kText, 30},
+            {kField, 54, 10, 190, 24, ControlKind::kField, 80},
+            {kListed, 10, 30, 150, 70},
+            {kUp, 156, 30, 190, 44, ControlKind::kField, 20},
+            {kBox, 10, 76, 120, 92, ControlKind::kText, 90}};
+}
+
+class Laid {
+  public:
+    Laid(std::vector<ControlPlace> places, int width, int height,
+         std::vector<Fill> fills = {{kListed, 20}})
+        : places_(std::move(places)) {
+        const auto heightAt = [this](std::size_t control, int at) {
+            return kLine * ((places_[control].textWidth + at - 1) / at) + 4;
+        };
+        needed_ = FitToDialog(places_, fills, kMetrics, width, height, heightAt);
+    }
+    // "left top right bottom" of a control.
+    std::string At(std::size_t control) const {
+        const ControlPlace& p = places_[control];
+        return std::to_string(p.left) + " " + std::to_string(p.top) + " " +
+               std::to_string(p.right) + " " + std::to_string(p.bottom);
+    }
+    int needed() const { return needed_; }
+
+  private:
+    std::vector<ControlPlace> places_;
+    int needed_ = 0;
+};
+
+TEST(DialogLayout, FillsOtherSizes) {
+    const Laid same(Designed(), 200, 100);
+    EXPECT_EQ(same.At(kListed), "10 30 150 70");
+    EXPECT_EQ(same.needed(), 100);
+
+    const Laid large(Designed(), 260, 150);
+    EXPECT_EQ(large.At(kField), "54 10 250 24");
+    EXPECT_EQ(large.At(kListed), "10 30 210 120") << "wider and higher";
+    EXPECT_EQ(large.At(kUp), "216 30 250 44") << "goes along";
+    EXPECT_EQ(large.At(kBox), "10 126 120 142") << "makes room";
+    EXPECT_EQ(large.needed(), 150);
+
+    const Laid low(Designed(), 200, 60);
+    EXPECT_EQ(low.At(kListed), "10 30 150 50") << "not below its least";
+    EXPECT_EQ(low.needed(), 80);
+
+    // Without one that fills, the button grows; what is narrow moves; nothing else does.
+    auto narrow = Designed();
+    narrow[kUp].left = 172;
+    const Laid wide(narrow, 220, 150, {});
+    EXPECT_EQ(wide.At(kUp), "192 30 210 44");
+    EXPECT_EQ(wide.At(kListed), "10 30 150 70");
+    EXPECT_EQ(Laid(Designed(), 220, 150, {}).At(kUp), "156 30 210 44");
+}
+
+TEST(DialogLayout, FillingControlsAboveEachOtherShareAndHiddenOnesTakeNothing) {
+    auto places = Designed();
+    const std::vector<Fill> both = {{kListed, 20}, {kBox, 10}};
+    const Laid shared(places, 200, 140, both);
+    EXPECT_EQ(shared.At(kListed), "10 30 150 90");
+    EXPECT_EQ(shared.At(kBox), "10 96 120 132");
+    places[kBox].shown = false;
+    EXPECT_EQ(Laid(places, 200, 140, both).At(kListed), "10 30 150 132");
+    const std::vector<Fill> widthOnly = {{kListed, 0}};
+    EXPECT_EQ(Laid(Designed(), 260, 150, widthOnly).At(kListed), "10 30 210 70");
+}
+
+TEST(DialogLayout, LongTextsFindRoom) {
+    auto places = Designed();
+    places[kLabel].textWidth = 60;
+    EXPECT_EQ(Laid(places, 200, 100).At(kField), "74 10 190 24") << "the label takes of its field";
+
+    places[kLabel].textWidth = 140;
+    const Laid above(places, 200, 200);
+    EXPECT_EQ(above.At(kField), "10 26 146 40") << "stands below its label";
+    EXPECT_EQ(above.At(kListed).substr(0, 5), "10 46");
+
+    places = Designed();
+    places[kField].textWidth = 142;
+    EXPECT_EQ(Laid(places, 200, 100).At(kField), "48 10 190 24") << "takes what the label has not";
+
+    places = Designed();
+    places[kBox].textWidth = 170;
+    EXPECT_EQ(Laid(places, 200, 100).At(kBox), "10 76 190 92") << "takes what is free beside it";
+    places[kBox].textWidth = 200;
+    const Laid lines(places, 200, 120);
+    EXPECT_EQ(lines.At(kBox), "10 84 190 112") << "takes another line";
+    EXPECT_EQ(lines.needed(), 120);
+}
+
+}  // namespace

@@ -1,0 +1,97 @@
+// The program is ended while it stores, again and again, and started anew.
+#include <cstdlib>
+#include <random>
+#include <thread>
+
+#include "app/registry_exporter.h"
+#include "settings/settings_key.h"
+#include "tests/trials/walk.h"
+#include "tests/ui/device.h"
+
+namespace {
+
+using namespace ui;
+
+using Clock = std::chrono::steady_clock;
+
+class Kills : public DeviceTest {
+  protected:
+    // Runs a step and ends the program `delay` after it begins to store; returns how long it took
+    // from then on.
+    static Clock::duration Run(const Step& step, const Program& program, Clock::duration delay) {
+        std::thread killer;
+        Clock::time_point begun;
+        step.run(program, [&] {
+            begun = Clock::now();
+            killer = std::thread([&program, until = begun + delay] {
+                while (Clock::now() < until && program.IsRunning()) {
+                    if (until - Clock::now() > std::chrono::milliseconds(2)) Sleep(1);
+                }
+                program.Kill();
+            });
+        });
+        const Clock::duration took = Clock::now() - begun;
+        if (killer.joinable()) killer.join();
+        return took;
+    }
+};
+
+TEST_F(Kills, LeaveEveryValueOldOrNew) {
+    const char* const wanted = std::getenv("KILLS");
+    const int kills = wanted ? atoi(wanted) : 11;
+    std::mt19937 random(kills);
+    std::vector<const Step*> steps;
+    for (const Step& step : Steps()) {
+        if (std::string(step.name) != "about") steps.push_back(&step);
+    }
+    int whileStoring = 0, partialExports = 0, changed = 0;
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const Step& step = *steps[i];
+        Prepared(step);
+        {
+            const Program creating;
+            ASSERT_TRUE(creating.Main());
+            step.run(creating, [] {});  // Creates what first reads create.
+        }
+        const Program first;
+        ASSERT_TRUE(first.Main());
+        const Holdings before = Prepared(step);
+        Clock::time_point begun;
+        ASSERT_TRUE(step.run(first, [&] { begun = Clock::now(); }).closed) << step.name;
+        const Clock::duration span = Clock::now() - begun;
+        first.CloseAndWait();
+        const Holdings then = Holdings::Read();
+        const int last = kills * static_cast<int>(i + 1) / static_cast<int>(steps.size());
+        for (int k = kills * static_cast<int>(i) / static_cast<int>(steps.size()); k < last; ++k) {
+            before.Restore();
+            {
+                const Program program;
+                ASSERT_TRUE(program.Main());
+                const auto delay = span * (random() % 1000) / 1000;
+                whileStoring += Run(step, program, delay) < span;
+            }
+            Holdings now = Holdings::Read();
+            if (const auto file = now.files.find(kExportFile);
+                std::string(step.name) == "export" && file != now.files.end() &&
+                file->second != then.files.at(kExportFile)) {
+                ++partialExports;
+                EXPECT_FALSE(RegistryExporter().Import(kExportFile));
+                DeleteFileW(kExportFile);
+                now = Holdings::Read();
+            }
+            std::erase_if(now.files,
+                          [](const auto& file) { return file.first.ends_with(L".new"); });
+            for (const std::string& damage : Damage(before, then, now))
+                ADD_FAILURE() << step.name << ": " << damage;
+            changed += now != before;
+            const Program next;
+            EXPECT_TRUE(next.Main()) << step.name;
+            EXPECT_EQ(next.CloseAndWait(), 0u) << step.name;
+        }
+        before.Restore();
+    }
+    printf("%d ended, %d before the step was over, %d had stored something, %d exports in part\n",
+           kills, whileStoring, changed, partialExports);
+}
+
+}  // namespace
