@@ -189,17 +189,16 @@ int CheckWide(HMODULE library, unsigned id) {
     return faults;
 }
 
+BOOL CALLBACK AddWide(HMODULE, LPCWSTR, LPWSTR name, LONG_PTR ids) {
+    if (IS_INTRESOURCE(name) && LOWORD(name) > IDD_WIDE) {
+        reinterpret_cast<std::vector<unsigned>*>(ids)->push_back(LOWORD(name));
+    }
+    return TRUE;
+}
+
 int CheckWideTemplates(HMODULE library, int& looked) {
     std::vector<unsigned> ids;
-    EnumResourceNamesW(
-        library, RT_DIALOG,
-        [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR list) -> BOOL {
-            if (IS_INTRESOURCE(name) && LOWORD(name) > IDD_WIDE) {
-                reinterpret_cast<std::vector<unsigned>*>(list)->push_back(LOWORD(name));
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LONG_PTR>(&ids));
+    EnumResourceNamesW(library, RT_DIALOG, AddWide, reinterpret_cast<LONG_PTR>(&ids));
     int faults = 0;
     for (const unsigned id : ids) faults += CheckWide(library, id);
     looked = static_cast<int>(ids.size());

@@ -22,15 +22,14 @@ DWORD WINAPI RunProgram(void*) {
     return static_cast<DWORD>(wWinMain(GetModuleHandleW(nullptr), nullptr, nothing, SW_SHOW));
 }
 
+BOOL CALLBACK AddVisible(HWND hwnd, LPARAM windows) {
+    if (IsWindowVisible(hwnd)) reinterpret_cast<std::vector<HWND>*>(windows)->push_back(hwnd);
+    return TRUE;
+}
+
 std::vector<HWND> WindowsOf(DWORD thread) {
     std::vector<HWND> windows;
-    EnumThreadWindows(
-        thread,
-        [](HWND hwnd, LPARAM list) -> BOOL {
-            if (IsWindowVisible(hwnd)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(hwnd);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    EnumThreadWindows(thread, AddVisible, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 
