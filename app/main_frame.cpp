@@ -23,6 +23,7 @@ constexpr WPARAM kCommonControlsVersion = 524;
 constexpr int kListFontHeight = 13;
 // Three entries in a row on a screen of 240 pixels, each with room for two lines of text.
 constexpr int kEntryWidth = 80, kEntryHeight = 76;
+constexpr int kAnyHeight = 0x2000;  // more than the entries take in whatever order
 // Without column headings. The extended window style means one-tap activation to the device's list
 // view; it is sent as a list view style as well.
 constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | LVS_ICON |
@@ -71,7 +72,12 @@ std::optional<LRESULT> MainFrame::OnMessage(UINT message, WPARAM wParam, LPARAM 
             return 0;
         case WM_SETFOCUS: SetFocus(listView_); return 0;
         case WM_SIZE:
-            if (listView_) MoveWindow(listView_, 0, 0, LOWORD(lParam), HIWORD(lParam), TRUE);
+            if (!listView_) return 0;
+            // The list arranges its entries before it shows or hides a scroll bar. So first there
+            // is none, then the one that is needed, then they are arranged beside it.
+            for (const int height : {kAnyHeight, HIWORD(lParam) - 1, int{HIWORD(lParam)}}) {
+                MoveWindow(listView_, 0, 0, LOWORD(lParam), height, TRUE);
+            }
             return 0;
     }
     return std::nullopt;

@@ -1,6 +1,7 @@
 #include "controls/full_screen_dialog.h"
 
 #include <aygshell.h>
+#include <sipapi.h>
 
 #include <algorithm>
 #include <utility>
@@ -108,6 +109,21 @@ void FullScreenDialog::LayOut() {
     if (IsChild(hwnd(), focus)) ScrollIntoView(focus);
 }
 
+void FullScreenDialog::FitAboveInputPanel() {
+    SIPINFO sip = {};
+    sip.cbSize = sizeof sip;
+    if (!SipGetInfo(&sip)) return;
+    RECT window = {};
+    GetWindowRect(hwnd(), &window);
+    const int visible = static_cast<int>(sip.rcVisibleDesktop.bottom - window.top);
+    const int height = std::min(fullHeight_, visible);
+    if (height <= 0 || height == window.bottom - window.top) return;
+    fitting_ = true;
+    SetWindowPos(hwnd(), nullptr, 0, 0, window.right - window.left, height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    fitting_ = false;
+}
+
 void FullScreenDialog::FillListsFromResource() {
     const HMODULE library = ResourceLibrary();
     const HRSRC resource = FindResourceW(library, MAKEINTRESOURCEW(templateId_),
@@ -161,12 +177,25 @@ std::optional<INT_PTR> FullScreenDialog::OnMessage(UINT message, WPARAM wParam, 
     }
     switch (message) {
         case WM_PAINT: OnPaint(); return TRUE;
+        case WM_WINDOWPOSCHANGED: {
+            const auto& position = *reinterpret_cast<const WINDOWPOS*>(lParam);
+            if (position.flags & SWP_NOSIZE || fitting_) return std::nullopt;
+            fullHeight_ = position.cy;
+            FitAboveInputPanel();
+            return std::nullopt;
+        }
+        case WM_SETTINGCHANGE:
+            if (wParam == SPI_SETSIPINFO) FitAboveInputPanel();
+            return std::nullopt;
         case WM_SIZE: LayOut(); return FALSE;
         case WM_VSCROLL: OnVerticalScroll(LOWORD(wParam)); return TRUE;
         case WM_HELP: ShowHelp(); return TRUE;
         case WM_COMMAND: {
             const HWND control = reinterpret_cast<HWND>(lParam);
-            if (control && control == GetFocus()) ScrollIntoView(control);
+            // A list that can be typed into has the focus in a field of its own.
+            if (control && (control == GetFocus() || IsChild(control, GetFocus()))) {
+                ScrollIntoView(control);
+            }
             if (OnCommand(LOWORD(wParam), HIWORD(wParam))) return TRUE;
             return std::nullopt;
         }
@@ -237,6 +266,11 @@ void FullScreenDialog::ScrollTo(int position) {
     SetScrollInfo(hwnd(), SB_VERT, &info, TRUE);
     ScrollWindowEx(hwnd(), 0, current - wanted, nullptr, nullptr, nullptr, nullptr,
                    SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
+    // The controls, too, that have come to where the band was.
+    RECT band = {};
+    GetClientRect(hwnd(), &band);
+    band.bottom = BandHeight() + ScaleY(kBandLine);
+    InvalidateRect(hwnd(), &band, TRUE);
     UpdateWindow(hwnd());
 }
 

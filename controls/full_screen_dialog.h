@@ -11,7 +11,7 @@
 
 // What every options page and full-screen dialog shares: Done button, menu bar, title band,
 // lists filled from the resource library, translated texts, a layout that suits the screen however
-// it is held, and scrolling where it is too low all the same.
+// it is held or the input panel leaves of it, and scrolling where it is too low all the same.
 class FullScreenDialog : public Dialog {
   public:
     // What the title band says.
@@ -65,6 +65,8 @@ class FullScreenDialog : public Dialog {
     bool IsPage() const;  // of a sheet
     void InitFullScreenDialog();
     void FillListsFromResource();
+    // The window ends where the input panel begins.
+    void FitAboveInputPanel();
     int BandHeight() const;  // pixels; 0 without a band
     void OnPaint();
     void UpdateScrollRange();
@@ -76,6 +78,8 @@ class FullScreenDialog : public Dialog {
     std::wstring helpAnchor_;
     Band band_;
     UINT scrollMessage_ = 0;
+    int fullHeight_ = 0;     // pixels, of the window while the input panel is down
+    bool fitting_ = false;   // it is being fitted above the panel
     int contentHeight_ = 0;  // pixels, unscrolled
     TemplateLayout layout_;
     bool initialised_ = false;

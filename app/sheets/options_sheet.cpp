@@ -94,7 +94,8 @@ LRESULT CALLBACK OptionsSheet::SheetProcedure(HWND hwnd, UINT message, WPARAM wP
     if (!sheet) return DefWindowProcW(hwnd, message, wParam, lParam);
     const WNDPROC procedure = sheet->systemProcedure_;
     static const UINT metricsMessage = RegisterWindowMessageW(L"SH_UIMETRIC_CHANGE");
-    if (message == metricsMessage) PassToPages(hwnd, message, wParam, lParam);
+    const bool panelChanged = message == WM_SETTINGCHANGE && wParam == SPI_SETSIPINFO;
+    if (message == metricsMessage || panelChanged) PassToPages(hwnd, message, wParam, lParam);
     switch (message) {
         case WM_INITDIALOG:  // Our own, posted when the window was there; the system's came before.
             sheet->OnInitSheet();

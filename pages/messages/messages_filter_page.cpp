@@ -27,7 +27,7 @@ constexpr Row kRows[] = {
     rows::Own(IDC_MAIL_FILTER_DELETE),
 };
 
-constexpr Fill kFills[] = {{IDC_MAIL_FOLDERS, 20}};
+constexpr Fill kFills[] = {{IDC_MAIL_FOLDERS, 20, 60}};
 
 // In the order of the filters that every device has.
 constexpr unsigned kBuiltInNames[] = {IDS_DELETED_ITEMS, IDS_DRAFTS, IDS_INBOX, IDS_OUTBOX,

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "pocketpc/aygshell/navigation_bar.h"
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/aygshell.h"
 
@@ -23,6 +24,31 @@ constexpr UINT kCommandTaken = WM_APP + 1;
 // Menus have no command of their own; their buttons get ids that no program uses.
 constexpr int kFirstMenuButton = 0xF000;
 
+// The mark of the input panel: a keyboard's outline, three rows of keys, the space bar.
+constexpr int kPanelButtonWidth = 36;
+constexpr int kMarkWidth = 19, kMarkHeight = 11;
+
+void PaintKeyboardMark(HDC dc, const RECT& button, COLORREF background) {
+    const int unit = shell::Scale(1);
+    const int x = static_cast<int>(button.left + button.right - kMarkWidth * unit) / 2;
+    const int y = static_cast<int>(button.bottom - kMarkHeight * unit) / 2;
+    const auto fill = [&](int left, int top, int width, int height, COLORREF color) {
+        shell::FillColor(
+            dc,
+            {x + left * unit, y + top * unit, x + (left + width) * unit, y + (top + height) * unit},
+            color);
+    };
+    fill(1, 0, kMarkWidth - 2, kMarkHeight, shell::kBarTextColor);
+    fill(0, 1, kMarkWidth, kMarkHeight - 2, shell::kBarTextColor);
+    fill(1, 1, kMarkWidth - 2, kMarkHeight - 2, background);
+    for (int row = 2; row < kMarkHeight - 4; row += 2) {
+        for (int key = 3; key < kMarkWidth - 3; key += 2) {
+            fill(key, row, 1, 1, shell::kBarTextColor);
+        }
+    }
+    fill(5, kMarkHeight - 3, kMarkWidth - 10, 1, shell::kBarTextColor);
+}
+
 class MenuBar {
   public:
     struct Button {
@@ -31,8 +57,12 @@ class MenuBar {
         HMENU menu = nullptr;
     };
 
-    MenuBar(HWND parent, std::vector<Button> buttons, HMENU menu, bool hidden)
-        : parent_(parent), buttons_(std::move(buttons)), menu_(menu), hidden_(hidden) {
+    MenuBar(HWND parent, std::vector<Button> buttons, HMENU menu, DWORD flags)
+        : parent_(parent),
+          buttons_(std::move(buttons)),
+          menu_(menu),
+          hidden_((flags & SHCMBF_HIDDEN) != 0),
+          hasPanelButton_(!(flags & SHCMBF_HIDESIPBUTTON)) {
         all_.push_back(this);
     }
     ~MenuBar() {
@@ -71,8 +101,6 @@ class MenuBar {
         SetWindowPos(hwnd_, nullptr, 0, area.bottom, area.right, shell::BarHeight(),
                      SWP_NOZORDER | SWP_NOACTIVATE);
         InvalidateRect(hwnd_, nullptr, FALSE);
-        RECT cut;
-        if (GetWindowRgnBox(GetAncestor(parent_, GA_ROOT), &cut) != ERROR) CutFromRoot();
     }
 
     void Show(bool show) {
@@ -82,7 +110,7 @@ class MenuBar {
             SetWindowPos(hwnd_, nullptr, 0, 0, 0, 0, kFlags | SWP_NOZORDER | SWP_HIDEWINDOW);
             return;
         }
-        CutFromRoot();
+        LeaveBarsFree(GetAncestor(parent_, GA_ROOT));
         SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, kFlags | SWP_SHOWWINDOW);
     }
 
@@ -100,19 +128,6 @@ class MenuBar {
     }
 
   private:
-    // Where no window manager runs, Wine raises the focused window even above topmost ones. A
-    // window that reaches under the bar therefore leaves the bar's place free.
-    void CutFromRoot() const {
-        const HWND root = GetAncestor(parent_, GA_ROOT);
-        RECT window, bar, cut;
-        GetWindowRect(root, &window);
-        GetWindowRect(hwnd_, &bar);
-        const RECT rest = {0, 0, window.right - window.left, bar.top - window.top};
-        if (window.bottom <= bar.top || rest.bottom <= 0) return;
-        if (GetWindowRgnBox(root, &cut) != ERROR && EqualRect(&cut, &rest)) return;
-        SetWindowRgn(root, CreateRectRgnIndirect(&rest), TRUE);
-    }
-
     static MenuBar* Of(HWND hwnd) {
         return reinterpret_cast<MenuBar*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
     }
@@ -133,9 +148,7 @@ class MenuBar {
                 return 0;
             case WM_PAINT: bar->Paint(hwnd); return 0;
             case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
-            case WM_LBUTTONDOWN:
-                bar->Press(bar->ButtonAt(static_cast<short>(LOWORD(lParam))));
-                return 0;
+            case WM_LBUTTONDOWN: bar->OnTap(static_cast<short>(LOWORD(lParam))); return 0;
             case kPress: bar->Press(static_cast<int>(wParam)); return 0;
             case kCommandTaken: bar->commanded_ = -1; return 0;
             case TB_BUTTONCOUNT: return static_cast<LRESULT>(bar->buttons_.size());
@@ -204,12 +217,37 @@ class MenuBar {
         return TRUE;
     }
 
+    bool HasSoftKeys() const { return buttons_.size() <= 2; }
+
+    // The input panel's button: between the soft keys, or at the right of other buttons.
+    RECT PanelButtonRect() const {
+        RECT area;
+        GetClientRect(hwnd_, &area);
+        const int width = hasPanelButton_ ? shell::Scale(kPanelButtonWidth) : 0;
+        const int left = static_cast<int>(area.right - width) / (HasSoftKeys() ? 2 : 1);
+        return {left, 0, left + width, area.bottom};
+    }
+
     // Up to two buttons are soft keys, each with half of the bar; more share it equally.
     RECT ButtonRect(int index) const {
         RECT area;
         GetClientRect(hwnd_, &area);
-        const int count = std::max(2, static_cast<int>(buttons_.size()));
-        return {area.right * index / count, 0, area.right * (index + 1) / count, area.bottom};
+        const RECT panel = PanelButtonRect();
+        if (HasSoftKeys()) {
+            return index == 0 ? RECT{0, 0, panel.left, area.bottom}
+                              : RECT{panel.right, 0, area.right, area.bottom};
+        }
+        const int count = static_cast<int>(buttons_.size());
+        return {panel.left * index / count, 0, panel.left * (index + 1) / count, area.bottom};
+    }
+
+    void OnTap(int x) {
+        const RECT panel = PanelButtonRect();
+        if (x >= panel.left && x < panel.right) {
+            shell::SetInputPanel(!shell::InputPanelIsUp());
+        } else {
+            Press(ButtonAt(x));
+        }
     }
 
     int ButtonAt(int x) const {
@@ -258,14 +296,23 @@ class MenuBar {
         SetBkMode(dc, TRANSPARENT);
         SetTextColor(dc, shell::kBarTextColor);
         const int line = shell::Scale(1);
-        const int margin = shell::Scale(5);
+        const auto paintSeparator = [&](LONG x) {
+            const int margin = shell::Scale(5);
+            const RECT separator = {x, margin, x + line, area.bottom - margin};
+            shell::FillColor(dc, separator, shell::kBarLineColor);
+        };
+        if (hasPanelButton_) {
+            const RECT panel = PanelButtonRect();
+            const bool up = shell::InputPanelIsUp();
+            if (up) shell::FillColor(dc, panel, shell::kBarPressedColor);
+            PaintKeyboardMark(dc, panel, up ? shell::kBarPressedColor : shell::kBarColor);
+            paintSeparator(panel.left);
+            if (HasSoftKeys()) paintSeparator(panel.right - line);
+        }
         for (int i = 0; i < static_cast<int>(buttons_.size()); ++i) {
             RECT rect = ButtonRect(i);
             if (i == pressed_) shell::FillColor(dc, rect, shell::kBarPressedColor);
-            if (i > 0) {
-                const RECT separator = {rect.left, margin, rect.left + line, rect.bottom - margin};
-                shell::FillColor(dc, separator, shell::kBarLineColor);
-            }
+            if (i > 0 && !(hasPanelButton_ && HasSoftKeys())) paintSeparator(rect.left);
             InflateRect(&rect, -2 * line, 0);
             DrawTextW(dc, buttons_[i].text.c_str(), -1, &rect,
                       DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX);
@@ -281,6 +328,7 @@ class MenuBar {
     std::vector<Button> buttons_;
     HMENU menu_;
     bool hidden_;
+    bool hasPanelButton_;
     HWND hwnd_ = nullptr;
     int pressed_ = -1;
     int commanded_ = -1;  // the button whose command is on its way
@@ -310,6 +358,25 @@ void ShowMenuBarsOf(HWND root) {
 
 void PlaceMenuBars() {
     for (const MenuBar* menuBar : MenuBar::All()) menuBar->Place();
+}
+
+void LeaveBarsFree(HWND root) {
+    const bool hasMenuBar = std::ranges::any_of(
+        MenuBar::All(), [root](const MenuBar* menuBar) { return menuBar->BelongsTo(root); });
+    RECT window, cut;
+    GetWindowRect(root, &window);
+    LONG bottom = window.bottom;
+    if (hasMenuBar) bottom = std::min(bottom, shell::WorkArea().bottom);
+    if (shell::InputPanelIsUp()) {
+        bottom = std::min(bottom, shell::InputPanelArea(shell::Screen()).top);
+    }
+    const bool isCut = GetWindowRgnBox(root, &cut) != ERROR;
+    const RECT rest = {0, 0, window.right - window.left, bottom - window.top};
+    if (bottom == window.bottom || rest.bottom <= 0) {
+        if (isCut) SetWindowRgn(root, nullptr, TRUE);
+    } else if (!isCut || !EqualRect(&cut, &rest)) {
+        SetWindowRgn(root, CreateRectRgnIndirect(&rest), TRUE);
+    }
 }
 
 void MenuOpened(HWND owner) {
@@ -344,8 +411,7 @@ BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info) {
         if (!menu) return FALSE;
     }
     ShowNavigationBar();
-    const bool hidden = (info->dwFlags & SHCMBF_HIDDEN) != 0;
-    auto bar = std::make_unique<MenuBar>(info->hwndParent, ButtonsOf(menu), menu, hidden);
+    auto bar = std::make_unique<MenuBar>(info->hwndParent, ButtonsOf(menu), menu, info->dwFlags);
     if (!bar->Create()) return FALSE;
     info->hwndMB = bar.release()->hwnd();  // From now on the window owns it.
     ShowMenuBarsOf(WindowOnScreen());

@@ -6,8 +6,12 @@
 // hides those of other windows.
 void ShowMenuBarsOf(HWND root);
 
-// Puts all menu bars at the bottom of the screen.
+// Puts all menu bars at the bottom of the screen and paints them anew.
 void PlaceMenuBars();
+
+// Where no window manager runs, Wine raises the focused window even above topmost ones. A window
+// that reaches under its menu bar or the input panel therefore leaves their place free.
+void LeaveBarsFree(HWND root);
 
 // To be called when a popup menu of a window opens or closes: the soft key whose command opened it
 // is lit meanwhile, as it is for a menu of the bar's own.

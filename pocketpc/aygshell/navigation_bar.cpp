@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "pocketpc/aygshell/keyboard.h"
 #include "pocketpc/aygshell/menu_bar.h"
 #include "pocketpc/aygshell/screen_change.h"
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 
 namespace {
@@ -119,6 +121,10 @@ LRESULT CALLBACK BarProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPa
         ShowMenuBarsOf(WindowOnScreen());
         return 0;
     }
+    if (message == shell::InputPanelMessage()) {
+        FollowInputPanel();
+        return 0;
+    }
     switch (message) {
         case WM_PAINT: Paint(hwnd); return 0;
         case WM_MOUSEACTIVATE: return MA_NOACTIVATE;
@@ -147,6 +153,8 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
                     activeWindow = message.hwnd;
                     RepaintNavigationBar();
                     ShowMenuBarsOf(WindowOnScreen());
+                    LeaveBarsFree(activeWindow);
+                    PlaceKeyboard();
                 }
                 break;
             case WM_SETTEXT:
@@ -159,6 +167,10 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
                     message.hwnd == activeWindow || GetPropW(message.hwnd, shell::kMenuBar);
                 if (position.flags & kVisibility && hasBars) {
                     ShowMenuBarsOf(WindowOnScreen());
+                }
+                constexpr UINT kSamePlace = SWP_NOMOVE | SWP_NOSIZE;
+                if (message.hwnd == activeWindow && (position.flags & kSamePlace) != kSamePlace) {
+                    LeaveBarsFree(activeWindow);
                 }
                 break;
             }
@@ -224,6 +236,7 @@ void ShowNavigationBar() {
     SetWindowsHookExW(WH_KEYBOARD, BeforeKey, nullptr, GetCurrentThreadId());
     activeWindow = GetActiveWindow();
     ShowWindow(bar, SW_SHOWNOACTIVATE);
+    PlaceKeyboard();
 }
 
 void RepaintNavigationBar() {

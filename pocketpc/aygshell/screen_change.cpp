@@ -1,5 +1,6 @@
 // The order of what follows a turn, and that menus and lists close, are guesses; that windows which
-// fill the screen get WM_SIZE and all of them WM_SETTINGCHANGE is documented.
+// fill the screen get WM_SIZE and all of them WM_SETTINGCHANGE is documented. So is
+// WM_SETTINGCHANGE for the input panel.
 #include "pocketpc/aygshell/screen_change.h"
 
 #include <commctrl.h>
@@ -7,7 +8,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "pocketpc/aygshell/keyboard.h"
 #include "pocketpc/aygshell/menu_bar.h"
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 
 namespace {
@@ -33,15 +36,18 @@ void Move(HWND hwnd, const RECT& area) {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// What filled the width goes on doing so, down to the menu bar or below it.
+// What filled the width goes on doing so, down to the input panel, the menu bar or below it.
 void Fit(HWND hwnd, SIZE before) {
     const SIZE screen = shell::Screen();
     const RECT work = shell::WorkArea();
     RECT area;
     GetWindowRect(hwnd, &area);
     if (area.left == 0 && area.right == before.cx) {
-        const bool belowMenuBar = area.bottom >= before.cy;
-        Move(hwnd, {0, area.top, screen.cx, belowMenuBar ? screen.cy : work.bottom});
+        LONG bottom = area.bottom >= before.cy ? screen.cy : work.bottom;
+        if (shell::InputPanelIsUp() && area.bottom == shell::InputPanelArea(before).top) {
+            bottom = shell::VisibleWorkArea().bottom;
+        }
+        Move(hwnd, {0, area.top, screen.cx, bottom});
         return;
     }
     const int x =
@@ -52,26 +58,45 @@ void Fit(HWND hwnd, SIZE before) {
     Move(hwnd, area);
 }
 
+// The visible ones of the program, without the shell's own and lists that have dropped down.
+std::vector<HWND> ProgramWindows() {
+    std::vector<HWND> windows;
+    EnumThreadWindows(GetCurrentThreadId(), AddWindow, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [](HWND hwnd) {
+        return !IsWindowVisible(hwnd) || IsOfClass(hwnd, L"HHTaskBar") ||
+               IsOfClass(hwnd, L"menu_worker") || IsOfClass(hwnd, kKeyboardClass) ||
+               IsOfClass(hwnd, L"ComboLBox");
+    });
+    return windows;
+}
+
+void Tell(const std::vector<HWND>& windows, WPARAM change) {
+    for (const HWND hwnd : windows) {
+        SendMessageW(hwnd, WM_SETTINGCHANGE, change, 0);
+        LeaveBarsFree(hwnd);
+    }
+}
+
 }  // namespace
 
 void FollowScreen(HWND navigationBar, SIZE before) {
     EndMenu();
     Move(navigationBar, {0, 0, shell::Screen().cx, shell::BarHeight()});
     InvalidateRect(navigationBar, nullptr, FALSE);
-    std::vector<HWND> windows;
-    EnumThreadWindows(GetCurrentThreadId(), AddWindow, reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows, [](HWND hwnd) {
-        return !IsWindowVisible(hwnd) || IsOfClass(hwnd, L"HHTaskBar") ||
-               IsOfClass(hwnd, L"menu_worker");
-    });
+    const std::vector<HWND> windows = ProgramWindows();
     for (const HWND hwnd : windows) {
         EnumChildWindows(hwnd, CloseList, 0);
         Fit(hwnd, before);
     }
     PlaceMenuBars();
-    for (const HWND hwnd : windows) {
-        SendMessageW(hwnd, WM_SETTINGCHANGE, shell::kScreenReset, 0);
-    }
+    PlaceKeyboard();
+    Tell(windows, shell::kScreenReset);
+}
+
+void FollowInputPanel() {
+    PlaceMenuBars();
+    PlaceKeyboard();
+    Tell(ProgramWindows(), shell::kSetSipInfo);
 }
 
 void KeepDropDownListOnScreen(HWND list, WINDOWPOS& position) {

@@ -6,5 +6,8 @@
 // the screen, and other windows as far as they would lie outside. Then every window is told.
 void FollowScreen(HWND navigationBar, SIZE before);
 
+// Shows or hides the input panel and tells every window.
+void FollowInputPanel();
+
 // The desktop keeps drop-down lists on the display, which may be larger than the screen.
 void KeepDropDownListOnScreen(HWND list, WINDOWPOS& position);

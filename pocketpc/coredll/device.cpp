@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/sipapi.h"
 
@@ -62,7 +63,8 @@ extern "C" BOOL WINAPI Pocket_GetVersionExW(OSVERSIONINFOW* info) {
     return TRUE;
 }
 
-// The panel of this device is always down.
+// The visible desktop reaches down to the panel, or below the menu bar while there is none. That a
+// panel that is down lies at the screen's bottom without any height is a guess.
 extern "C" BOOL WINAPI Pocket_SipGetInfo(SIPINFO* info) {
     if (!info || info->cbSize != sizeof *info || info->dwImDataSize != 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
@@ -72,6 +74,20 @@ extern "C" BOOL WINAPI Pocket_SipGetInfo(SIPINFO* info) {
     info->fdwFlags = SIPF_OFF | SIPF_DOCKED;
     info->rcVisibleDesktop = {0, shell::BarHeight(), screen.cx, screen.cy};
     info->rcSipRect = {0, screen.cy, screen.cx, screen.cy};
+    if (shell::InputPanelIsUp()) {
+        info->fdwFlags = SIPF_ON | SIPF_DOCKED;
+        info->rcVisibleDesktop = shell::VisibleWorkArea();
+        info->rcSipRect = shell::InputPanelArea(screen);
+    }
+    return TRUE;
+}
+
+extern "C" BOOL WINAPI Pocket_SipShowIM(DWORD flag) {
+    if (flag != SIPF_ON && flag != SIPF_OFF) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    shell::SetInputPanel(flag == SIPF_ON);
     return TRUE;
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 #include "pocketpc/coredll/message_box.h"
 
@@ -29,7 +30,7 @@ class FileDialog {
         windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
         windowClass.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
         RegisterClassW(&windowClass);
-        const RECT area = shell::WorkArea();
+        const RECT area = shell::VisibleWorkArea();
         const HWND owner = request_.hwndOwner;
         hwnd_ = CreateWindowExW(WS_EX_CONTROLPARENT, kClass, Title(), WS_POPUP, area.left, area.top,
                                 area.right - area.left, area.bottom - area.top, owner, nullptr,
@@ -109,17 +110,28 @@ class FileDialog {
             RECT area;
             GetWindowRect(control, &area);
             MapWindowPoints(nullptr, hwnd_, reinterpret_cast<POINT*>(&area), 2);
+            const int rest = static_cast<int>(buttons - shell::Scale(kMargin) - area.top);
             MoveWindow(control, area.left, area.top, right - area.left,
-                       height ? height : buttons - shell::Scale(kMargin) - area.top, TRUE);
+                       height ? height : std::max(0, rest), TRUE);
         };
         stretch(name_, shell::Scale(kControl));
         stretch(folder_, shell::Scale(kDropDown));
         stretch(files_, 0);
+        // Above the panel there may be no room for it.
+        RECT files;
+        GetWindowRect(files_, &files);
+        ShowWindow(files_, files.bottom - files.top < shell::Scale(kControl) ? SW_HIDE : SW_SHOWNA);
         for (const int id : {IDOK, IDCANCEL}) {
             const int x = id == IDOK ? kMargin : 2 * kMargin + kButton;
             SetWindowPos(GetDlgItem(hwnd_, id), nullptr, shell::Scale(x), buttons, 0, 0,
                          SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
         }
+    }
+
+    void FitAbovePanel() const {
+        const RECT area = shell::VisibleWorkArea();
+        MoveWindow(hwnd_, area.left, area.top, area.right - area.left, area.bottom - area.top,
+                   TRUE);
     }
 
     std::wstring FileName() const {
@@ -229,6 +241,9 @@ class FileDialog {
         switch (message) {
             case WM_SIZE:
                 if (dialog->files_) dialog->Layout();
+                return 0;
+            case WM_SETTINGCHANGE:
+                if (wParam == shell::kSetSipInfo) dialog->FitAbovePanel();
                 return 0;
             case WM_COMMAND: dialog->OnCommand(LOWORD(wParam), HIWORD(wParam)); return 0;
             case WM_CLOSE: dialog->ended_ = true; return 0;

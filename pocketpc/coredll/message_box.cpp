@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 
 namespace {
@@ -124,9 +125,9 @@ void PlaceButtons(HWND box, const std::vector<HWND>& buttons, int width, int dow
 }
 
 // The box becomes as narrow as the screen and its text wraps; a text that is still too high loses
-// its last lines.
+// its last lines. That the input panel makes room for it is a guess.
 void FitToScreen(HWND box) {
-    const RECT area = shell::WorkArea();
+    RECT area = shell::VisibleWorkArea();
     const int margin = shell::Scale(4);
     RECT window, client;
     GetWindowRect(box, &window);
@@ -146,8 +147,13 @@ void FitToScreen(HWND box) {
     const int before = text.bottom - text.top;
     const int rest = window.bottom - window.top - before;
     const int line = content.LineHeight();
+    const int wanted = std::max(content.Height(text.right - text.left), before);
+    if (wanted > area.bottom - area.top - 2 * margin - rest) {
+        shell::SetInputPanel(false);
+        area = shell::WorkArea();
+    }
     const int room = (area.bottom - area.top - 2 * margin - rest) / line * line;
-    const int height = std::min(std::max(content.Height(text.right - text.left), before), room);
+    const int height = std::min(wanted, room);
     MoveWindow(parts.text, text.left, text.top, text.right - text.left, height, FALSE);
     if (parts.icon) {
         const int size = icon.bottom - icon.top;
@@ -168,7 +174,7 @@ LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
         box = message.hwnd;
         FitToScreen(box);
     } else if (message.message == WM_SETTINGCHANGE && message.hwnd == box &&
-               message.wParam == shell::kScreenReset) {
+               (message.wParam == shell::kScreenReset || message.wParam == shell::kSetSipInfo)) {
         FitToScreen(box);
         InvalidateRect(box, nullptr, TRUE);
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/screen.h"
 #include "pocketpc/common/text.h"
 #include "pocketpc/devicectl/databases.h"
@@ -37,6 +38,7 @@ constexpr char kUsage[] =
   devicectl mail-remove N                      account or folder N with all below it
   devicectl screen WIDTHxHEIGHT                the upper left part of the display becomes the screen
   devicectl turn                               holds the screen the other way up
+  devicectl panel up|down                      raises or lowers the input panel
 
 A VOLUME is a file such as \pim.vol, or "store" for the object store itself. A KEY begins with HKCU or HKLM.
 A VALUE is NUMBER:TYPE=DATA, as in 2:string=Business. Types: i2 ui2 i4 ui4 r8 bool string time blob recid;
@@ -199,6 +201,13 @@ int TurnScreen() {
     return 0;
 }
 
+int MoveInputPanel(const Words& words) {
+    const bool up = words[2] == L"up";
+    if (!up && words[2] != L"down") return Fail(L"neither up nor down: " + words[2]);
+    shell::SetInputPanel(up);
+    return 0;
+}
+
 struct Command {
     const wchar_t* verb;
     std::size_t fewestWords;
@@ -223,6 +232,7 @@ constexpr Command kCommands[] = {
     {L"mail-remove", 3, EditMail},
     {L"screen", 3, ChangeScreen},
     {L"turn", 2, [](const Words&) { return TurnScreen(); }},
+    {L"panel", 3, MoveInputPanel},
 };
 
 }  // namespace

@@ -33,6 +33,17 @@ typedef struct tagSHINITDLGINFO {
     DWORD dwFlags;
 } SHINITDLGINFO, *PSHINITDLGINFO;
 
+// A control of this class in a dialog raises the panel for the dialog's edit controls.
+#define WC_SIPPREF L"SIPPREF"
+
+typedef enum tagSIPSTATE {
+    SIP_UP = 0,
+    SIP_DOWN,
+    SIP_FORCEDOWN,
+    SIP_UNCHANGED,
+    SIP_INPUTDIALOG,
+} SIPSTATE;
+
 #define SHDB_SHOW 0x0001
 #define SHDB_HIDE 0x0002
 #define SHDB_SHOWCANCEL 0x0004
@@ -66,5 +77,6 @@ EXTERN_C BOOL WINAPI SHHandleWMActivate(HWND hwnd, WPARAM wParam, LPARAM lParam,
                                         SHACTIVATEINFO* info, DWORD flags);
 EXTERN_C BOOL WINAPI SHHandleWMSettingChange(HWND hwnd, WPARAM wParam, LPARAM lParam,
                                              SHACTIVATEINFO* info);
+EXTERN_C BOOL WINAPI SHSipPreference(HWND hwnd, SIPSTATE state);
 // Each metric is a DWORD. Missing on devices older than 4.21: to be looked up by name.
 EXTERN_C HRESULT WINAPI SHGetUIMetrics(SHUIMETRIC metric, void* buffer, DWORD size, DWORD* needed);

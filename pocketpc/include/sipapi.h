@@ -18,3 +18,5 @@ typedef struct tagSIPINFO {
 } SIPINFO;
 
 EXTERN_C BOOL WINAPI SipGetInfo(SIPINFO* info);
+// SIPF_ON or SIPF_OFF.
+EXTERN_C BOOL WINAPI SipShowIM(DWORD flag);

@@ -151,6 +151,13 @@ TEST(Device, TellsTheVisibleDesktopToExactRequestsOnly) {
     const RECT expected = {0, 26, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     EXPECT_TRUE(EqualRect(&info.rcVisibleDesktop, &expected));
     EXPECT_FALSE(info.fdwFlags & SIPF_ON);
+    EXPECT_FALSE(SipShowIM(SIPF_DOCKED));
+    ASSERT_TRUE(SipShowIM(SIPF_ON));
+    EXPECT_TRUE(SipGetInfo(&info) && info.fdwFlags & SIPF_ON);
+    EXPECT_EQ(info.rcVisibleDesktop.bottom, expected.bottom - 26 - 80);
+    EXPECT_EQ(info.rcSipRect.top, info.rcVisibleDesktop.bottom);
+    EXPECT_EQ(info.rcSipRect.bottom, expected.bottom - 26);
+    ASSERT_TRUE(SipShowIM(SIPF_OFF));
 }
 
 TEST(Device, FindsFunctionsByWideNameAndOrdinal) {

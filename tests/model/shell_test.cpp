@@ -2,6 +2,7 @@
 #include <aygshell.h>
 #include <commctrl.h>
 #include <gtest/gtest.h>
+#include <sipapi.h>
 #include <windows.h>
 
 #include <algorithm>
@@ -63,6 +64,7 @@ class Frame {
     }
 
     static inline std::vector<int> commands;
+    static inline int panelChanges = 0;
     static inline HMENU openedMenu = nullptr;
     static inline HMENU commandsMenu = nullptr;  // opened by any command
     static inline COLORREF keyColor = 0;         // of the right soft key under a menu
@@ -81,6 +83,12 @@ class Frame {
                 commands.push_back(LOWORD(wParam));
                 if (commandsMenu) TrackPopupMenuEx(commandsMenu, 0, 9, 99, hwnd, nullptr);
                 return 0;
+            case WM_SETTINGCHANGE: {
+                static SHACTIVATEINFO info = {sizeof info, nullptr, 0, 0, 0, 0};
+                panelChanges += wParam == SPI_SETSIPINFO;
+                SHHandleWMSettingChange(hwnd, wParam, lParam, &info);
+                return 0;
+            }
             case WM_INITMENUPOPUP:
                 keyColor = RightKeyColor(SHFindMenuBar(hwnd));
                 openedMenu = reinterpret_cast<HMENU>(wParam);
@@ -219,6 +227,63 @@ TEST(FullScreenDialog, FillsTheWorkAreaUnlessItIsAPage) {
     const RECT after = RectOf(info.hDlg);
     EXPECT_TRUE(EqualRect(&before, &after));
     EXPECT_FALSE(SHDoneButton(info.hDlg, SHDB_SHOW));
+}
+
+bool PanelIsUp() {
+    SIPINFO info = {};
+    info.cbSize = sizeof info;
+    return SipGetInfo(&info) && info.fdwFlags & SIPF_ON;
+}
+
+bool PanelGets(bool up) {
+    for (int i = 0; i < 100 && PanelIsUp() != up; ++i, Sleep(20)) Pump();
+    return PanelIsUp() == up;
+}
+
+TEST(InputPanel, RisesByItsButtonAndTypes) {
+    const Frame frame;
+    const HWND bar = frame.CreateMenuBar(SHCMBF_HMENU);
+    const HWND edit = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 90, 20,
+                                      frame.hwnd(), nullptr, nullptr, nullptr);
+    SetFocus(edit);
+    frame.panelChanges = 0;
+    Click(bar, GetSystemMetrics(SM_CXSCREEN) / 2, kBar / 2);
+    EXPECT_TRUE(PanelIsUp());
+    EXPECT_EQ(frame.panelChanges, 1);
+    EXPECT_EQ(RectOf(frame.hwnd()).bottom, WorkArea().bottom - 80);
+    const HWND keyboard = FindWindowW(L"PocketPC.Keyboard", nullptr);
+    EXPECT_EQ(RectOf(keyboard).top, WorkArea().bottom - 80);
+    for (const POINT key : {POINT{10, 10}, {20, 55}, {10, 10}, {50, 55}}) {  // 1, shift, !, z
+        Click(keyboard, key.x, key.y);
+    }
+    EXPECT_EQ(GetFocus(), edit);
+    wchar_t text[8] = {};
+    GetWindowTextW(edit, text, 8);
+    EXPECT_STREQ(text, L"1!z");
+    Click(bar, GetSystemMetrics(SM_CXSCREEN) / 2, kBar / 2);
+    EXPECT_FALSE(PanelIsUp() || IsWindowVisible(keyboard));
+    EXPECT_EQ(RectOf(frame.hwnd()).bottom, WorkArea().bottom);
+    EXPECT_EQ(std::ranges::count(frame.commands, 202), 0) << "a soft key was pressed";
+}
+
+TEST(InputPanel, RisesForTheEditControlsOfADialogThatAsksForIt) {
+    const Frame frame;
+    SHSipPreference(frame.hwnd(), SIP_UP);
+    SHINITDLGINFO info = {};
+    info.dwMask = SHIDIM_FLAGS;
+    info.dwFlags = SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
+    info.hDlg = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(103), frame.hwnd(),
+                                   NoMessages, 0);
+    ShowWindow(info.hDlg, SW_SHOW);
+    EXPECT_TRUE(SHInitDialog(&info));
+    SetFocus(GetDlgItem(info.hDlg, 1002));
+    EXPECT_TRUE(PanelGets(false));
+    SetFocus(GetDlgItem(info.hDlg, 1001));
+    EXPECT_TRUE(PanelIsUp());
+    EXPECT_EQ(RectOf(info.hDlg).bottom, WorkArea().bottom) << "a full-screen dialog keeps its size";
+    SetFocus(GetDlgItem(info.hDlg, 1002));
+    EXPECT_TRUE(PanelGets(false));
+    DestroyWindow(info.hDlg);
 }
 
 // A sheet of two pages. What happens goes into the log; the steps run one after the other inside

@@ -334,4 +334,41 @@ TEST_F(Pages, FocusScrollsALowPage) {
     EXPECT_LE(rectOf(last).bottom, client.bottom);
 }
 
+TEST_F(Pages, TheInputPanelLeavesTheFocusedFieldInSight) {
+    constexpr int kPanelTop = 240 - 26 - 80, kTop = 26;
+    Put(L"AutoSizeAdjust", 0);
+    const auto rectOf = [](HWND window) {
+        RECT rect = {};
+        GetWindowRect(window, &rect);
+        return rect;
+    };
+    struct Case {
+        const wchar_t *arguments, *title;
+        int field;
+    };
+    for (const Case& c : {Case{L"-P0:0", L"General options", IDC_HEIGHT},
+                          Case{L"-P5:1", L"Message options", IDC_MAIL_FILTER_NAME}}) {
+        Program program(c.arguments);
+        const HWND sheet = program.Sheet(c.title);
+        const HWND page = Page(sheet, c.field);
+        ASSERT_TRUE(page);
+        const HWND field = GetDlgItem(page, c.field);
+        const RECT before = rectOf(page), place = rectOf(field);
+        ASSERT_TRUE(Control(L"panel up"));
+        EXPECT_EQ(rectOf(page).bottom, kPanelTop);
+        for (const int end : {SB_TOP, SB_BOTTOM}) {
+            SendMessageW(page, WM_NEXTDLGCTL, FALSE, FALSE);
+            SendMessageW(page, WM_VSCROLL, end, 0);
+            EXPECT_EQ(rectOf(field).top < place.top, end == SB_BOTTOM) << c.field;
+            SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
+            const RECT shown = rectOf(field);
+            EXPECT_TRUE(shown.top > kTop && shown.bottom < kPanelTop) << c.field << " " << end;
+        }
+        ASSERT_TRUE(Control(L"panel down"));
+        const RECT after = rectOf(page), back = rectOf(field);
+        EXPECT_TRUE(EqualRect(&after, &before) && EqualRect(&back, &place)) << c.field;
+        EXPECT_TRUE(Cancel(sheet));
+    }
+}
+
 }  // namespace
