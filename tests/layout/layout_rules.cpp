@@ -62,7 +62,7 @@ class Inspection {
         // What stands nearly in line was meant to.
         const auto nearly = [this](int x, int y) { return x != y && std::abs(x - y) <= Scaled(2); };
         if (down <= 0 && nearly(a.left, b.left)) Report("edges", a, std::abs(a.left - b.left), &b);
-        if (down <= 0 && a.kind == b.kind && nearly(a.right, b.right)) {
+        if (down <= 0 && a.kind == b.kind && a.left == b.left && nearly(a.right, b.right)) {
             Report("edges", a, std::abs(a.right - b.right), &b);
         }
         const bool alike = a.kind == b.kind && a.bottom - a.top == b.bottom - b.top;

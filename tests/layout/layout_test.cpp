@@ -42,15 +42,49 @@ bool IsPseudoLanguage() {
     return language && std::string(language) == "pseudo";
 }
 
-// Numbers and what stands beside them need no translation.
-bool NeedsTranslation(const std::wstring& text) {
-    return std::any_of(text.begin(), text.end(), [](wchar_t c) { return std::iswalpha(c); });
-}
-
 std::string Utf8(const std::wstring& text) {
     char bytes[1024] = {};
     WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, bytes, sizeof bytes - 1, nullptr, nullptr);
     return bytes;
+}
+
+// Runs a program of this folder to its end; one with a window is closed.
+bool RunBeside(const wchar_t* program, std::wstring arguments, bool wait) {
+    wchar_t path[MAX_PATH];
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    wcscpy(wcsrchr(path, L'\\') + 1, program);
+    PROCESS_INFORMATION process = {};
+    if (!CreateProcessW(path, arguments.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        nullptr, &process)) {
+        return false;
+    }
+    if (!wait) {
+        HWND window = nullptr;
+        Walker::Until([&] { return (window = FindWindowW(L"DiarySettings_MainWnd", nullptr)); });
+        PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+    DWORD code = 1;
+    WaitForSingleObject(process.hProcess, 20'000);
+    GetExitCodeProcess(process.hProcess, &code);
+    if (code) ADD_FAILURE() << Utf8(program) << " ended with " << code;
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code == 0;
+}
+
+// Made of the template that the program writes where it finds no language.
+bool WritePseudoLanguage() {
+    DeleteFileW(kLanguageFile);
+    const std::wstring file = kLanguageFile;
+    return RunBeside(L"DiarySettings.exe", L"", false) &&
+           RunBeside(L"diarykit.exe",
+                     L"language pseudo \"" + file + L"\" -o \"" + file + L".made\"", true) &&
+           CopyFileW((file + L".made").c_str(), kLanguageFile, FALSE);
+}
+
+// Numbers and what stands beside them need no translation.
+bool NeedsTranslation(const std::wstring& text) {
+    return std::any_of(text.begin(), text.end(), [](wchar_t c) { return std::iswalpha(c); });
 }
 
 TEST(Layout, NothingIsCutCoveredOrOutOfLine) {
@@ -58,6 +92,7 @@ TEST(Layout, NothingIsCutCoveredOrOutOfLine) {
         const std::wstring path = L"Z:" + std::wstring(file, file + std::strlen(file));
         ASSERT_TRUE(CopyFileW(path.c_str(), kLanguageFile, FALSE)) << file;
     }
+    ASSERT_TRUE(!IsPseudoLanguage() || WritePseudoLanguage());
     Walker walker(Screens());
     std::set<std::string> untranslated;
     int views = 0;
@@ -112,8 +147,7 @@ TEST(Layout, FindsEachFault) {
     EXPECT_EQ(faults(page({box(5, 230)})), "unreachable: box, 6 px\n");
     EXPECT_EQ(faults(page({box(5, 30), box(60, 41)})),
               "overlap: box and box, 5 px\norder: box and box, 5 px\n");
-    EXPECT_EQ(faults(page({box(5, 30), box(7, 50)})),
-              "edges: box and box, 2 px\nedges: box and box, 2 px\n");
+    EXPECT_EQ(faults(page({box(5, 30), box(7, 50)})), "edges: box and box, 2 px\n");
     EXPECT_EQ(faults(page({box(5, 30), box(100, 31)})), "edges: box and box, 1 px\n");
     EXPECT_EQ(faults(page({label(5, 30), box(120, 30)})), "label without field: label, 0 px\n");
     EXPECT_EQ(faults(page({label(5, 30)})), "label without field: label, 0 px\n");
