@@ -14,7 +14,7 @@ namespace {
 // edges of buttons and drop-down lists around theirs.
 constexpr int kCheckBox = 18, kButtonEdges = 12, kListEdges = 8;
 constexpr int kLineEdges = 2;
-constexpr int kRowEdges = 24;
+constexpr int kRowEdges = 32;
 constexpr int kRowLength = 256;
 
 std::wstring TextOf(HWND control) {
@@ -71,7 +71,7 @@ int WidestRow(HWND list) {
         SendMessageW(list, LVM_GETITEMTEXTW, i, reinterpret_cast<LPARAM>(&item));
         widest = std::max<int>(widest, Measure(list, text, DT_SINGLELINE).cx);
     }
-    return widest ? widest + ScaleX(kRowEdges) + GetSystemMetrics(SM_CXVSCROLL) : 0;
+    return widest ? widest + ScaleX(kRowEdges) : 0;
 }
 
 }  // namespace
@@ -83,9 +83,8 @@ bool IsOfClass(HWND control, const wchar_t* className) {
 }
 
 ControlKind KindOf(HWND control) {
-    if (IsCheckBox(control) || IsLabel(control) || IsOfClass(control, L"RichInk")) {
-        return ControlKind::kText;
-    }
+    if (IsLabel(control)) return ControlKind::kLabel;
+    if (IsCheckBox(control) || IsOfClass(control, L"RichInk")) return ControlKind::kText;
     for (const wchar_t* const field : {WC_BUTTONW, WC_COMBOBOXW, WC_EDITW, TRACKBAR_CLASSW}) {
         if (IsOfClass(control, field)) return ControlKind::kField;
     }

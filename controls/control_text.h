@@ -12,7 +12,7 @@ ControlKind KindOf(HWND control);
 // 0 where it shows none;
 // for a control of kField without a text, how wide it must be to be of use. `width` is its own.
 int TextWidth(HWND control, int width);
-// The height in pixels of a control of kText that has this width.
+// The height in pixels of a control of kLabel or kText that has this width.
 int TextHeight(HWND control, int width);
 // Whether a check box breaks its text into lines; other texts do so anyway.
 void BreakLines(HWND control, bool breaks);

@@ -57,7 +57,9 @@ class Fitting {
         const Places before = places_;
         for (std::size_t i = 0; i < places_.size(); ++i) {
             ControlPlace& place = places_[i];
-            if (place.kind != ControlKind::kText || !place.shown || Fits(place)) continue;
+            const bool breaks =
+                place.kind == ControlKind::kText || place.kind == ControlKind::kLabel;
+            if (!breaks || !place.shown || Fits(place)) continue;
             place.bottom = std::max(place.bottom, place.top + heightAt_(i, WidthOf(place)));
         }
         MakeRoom(before);
@@ -112,8 +114,9 @@ class Fitting {
             for (std::size_t j = 0; j < places_.size(); ++j) {
                 const ControlPlace &a = places_[i], &b = places_[j];
                 if (!a.shown || !b.shown || columns_[i] == columns_[j]) continue;
-                const bool texts = a.kind == ControlKind::kText && b.kind == ControlKind::kText;
-                if (!ShareColumn(a, b) && (texts || !StandsRightOf(a, b))) continue;
+                // A check box may end close before another column.
+                const bool beside = a.kind != ControlKind::kText && StandsRightOf(a, b);
+                if (!ShareColumn(a, b) && !beside) continue;
                 std::replace(columns_.begin(), columns_.end(), std::size_t{columns_[j]},
                              std::size_t{columns_[i]});
             }
@@ -122,7 +125,7 @@ class Fitting {
 
     // What a label stands before; null when it stands alone.
     const ControlPlace* FieldOf(std::size_t label) const {
-        if (places_[label].kind != ControlKind::kText || !places_[label].shown) return nullptr;
+        if (places_[label].kind != ControlKind::kLabel || !places_[label].shown) return nullptr;
         for (const ControlPlace& place : places_) {
             if (place.kind == ControlKind::kField && StandsRightOf(places_[label], place)) {
                 return &place;
@@ -149,7 +152,9 @@ class Fitting {
         }
         const int by = least > 0 ? least : std::min(most, 0);
         for (const std::size_t label : labels) {
-            const std::size_t field = IndexOf(FieldOf(label));
+            const ControlPlace* const found = FieldOf(label);
+            if (!found) continue;  // Another label's field has moved in between.
+            const std::size_t field = IndexOf(found);
             if (least <= most) {
                 MoveBeside(label, field, by);
             } else if (!Fits(places_[label]) ||

@@ -7,7 +7,8 @@
 
 // What a control does with a text that is longer than its place.
 enum class ControlKind {
-    kText,   // a label or check box: takes more lines
+    kLabel,  // takes more lines, or stands above its field
+    kText,   // such as a check box: takes more lines
     kField,  // shows one line, such as a drop-down list or push button
     kOther,  // has no text of its own
 };
@@ -40,7 +41,7 @@ struct LayoutMetrics {
     int lineGap;       // between a label and its field below it
 };
 
-// The height in pixels of a control of kText, by its place in the list, at a width.
+// The height in pixels of a control of kLabel or kText, by its place in the list, at a width.
 using HeightAtWidth = std::function<int(std::size_t control, int width)>;
 
 // Fits controls to a dialog of a size that they were not designed for, and to longer texts:

@@ -29,8 +29,8 @@ std::optional<DialogTemplate> LoadTemplate(unsigned id) {
 }
 
 bool IsCut(const ControlPlace& place) {
-    return place.shown && place.kind != ControlKind::kText &&
-           place.textWidth > place.right - place.left;
+    const bool breaks = place.kind == ControlKind::kText || place.kind == ControlKind::kLabel;
+    return place.shown && !breaks && place.textWidth > place.right - place.left;
 }
 
 RECT RectInDialog(HWND dialog, HWND control) {

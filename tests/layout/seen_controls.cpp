@@ -109,7 +109,7 @@ void MeasureText(HWND control, LONG style, int dpi, Seen& seen) {
                 // The box, and what stands around the text.
                 const bool scrolls = GetWindowLongW(control, GWL_STYLE) & WS_VSCROLL;
                 seen.wantedWidth =
-                    widest + scaled(24) + (scrolls ? GetSystemMetrics(SM_CXVSCROLL) : 0);
+                    widest + scaled(30) + (scrolls ? GetSystemMetrics(SM_CXVSCROLL) : 0);
             }
             break;
         default: break;

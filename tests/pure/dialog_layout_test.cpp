@@ -11,7 +11,7 @@ constexpr int kLine = 12;
 enum { kLabel, kField, kListed, kUp, kBox };
 
 std::vector<ControlPlace> Designed() {
-    return {{kLabel, 10, 12, 50, 24, ControlKind::kText, 30},
+    return {{kLabel, 10, 12, 50, 24, ControlKind::kLabel, 30},
             {kField, 54, 10, 190, 24, ControlKind::kField, 80},
             {kListed, 10, 30, 150, 70},
             {kUp, 156, 30, 190, 44, ControlKind::kField, 20},
