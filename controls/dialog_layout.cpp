@@ -70,7 +70,7 @@ class Fitting {
         for (const Filling& fill : filling_) {
             if (!fill.least) continue;
             const ControlPlace& own = before[fill.index];
-            int lowest = 0, sharers = 0;
+            int lowest = 0, sharers = 1;
             for (std::size_t i = 0; i < before.size(); ++i) {
                 if (columns_[i] == columns_[fill.index] && before[i].shown) {
                     lowest = std::max(lowest, before[i].bottom);
@@ -78,7 +78,8 @@ class Fitting {
             }
             // Those above and below each other share what there is.
             for (const Filling& other : filling_) {
-                if (other.least && ShareColumn(before[other.index], own)) ++sharers;
+                const bool shares = other.index != fill.index && other.least;
+                if (shares && ShareColumn(before[other.index], own)) ++sharers;
             }
             const int extra = height - metrics_.bottomMargin - lowest;
             places_[fill.index].bottom += std::max(extra / sharers, fill.least - HeightOf(own));
