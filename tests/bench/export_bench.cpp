@@ -7,27 +7,18 @@
 
 #include <process.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <string>
-#include <vector>
 
 #include "app/registry_exporter.h"
+#include "tests/bench/bench.h"
 
 namespace {
 
-constexpr int kKeys = 500, kValuesInKey = 40, kRounds = 5;
+constexpr int kKeys = 500, kValuesInKey = 40;
 constexpr wchar_t kTree[] = L"\\Software\\Bench";
 // Where the stand-in keeps the tree in the desktop's registry.
 constexpr wchar_t kDesktopTree[] =
     L"HKCU\\Software\\PocketPC Devices\\Default\\HKEY_LOCAL_MACHINE\\Software\\Bench";
-
-double Now() {
-    LARGE_INTEGER frequency, count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 void MakeTree() {
     for (int k = 0; k < kKeys; ++k) {
@@ -48,24 +39,9 @@ void MakeTree() {
     }
 }
 
-template <typename Action>
-double Time(Action action) {
-    const double begin = Now();
-    if (!action()) {
-        printf("an action failed: error %lu\n", GetLastError());
-        ExitProcess(1);
-    }
-    return Now() - begin;
-}
-
 // By the C library, as the device's CreateProcessW starts the device's programs alone.
 bool Reg(const std::wstring& arguments) {
     return _wspawnlp(_P_WAIT, L"reg.exe", L"reg.exe", arguments.c_str(), nullptr) == 0;
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 }  // namespace
@@ -73,18 +49,18 @@ double Median(std::vector<double> values) {
 int main() {
     MakeTree();
     const std::wstring tree = kDesktopTree;
-    std::vector<double> exports, imports, regExports, regImports;
-    for (int round = 0; round < kRounds; ++round) {
-        exports.push_back(Time(
-            [] { return RegistryExporter().Export(L"\\bench.dias", HKEY_LOCAL_MACHINE, kTree); }));
-        regExports.push_back(Time([&] { return Reg(L"export \"" + tree + L"\" bench.reg /y"); }));
-        imports.push_back(Time([] { return RegistryExporter().Import(L"\\bench.dias"); }));
-        regImports.push_back(Time([] { return Reg(L"import bench.reg"); }));
-    }
-    printf("%d values in %d keys, medians of %d:\n", kKeys * kValuesInKey, kKeys, kRounds);
-    printf("export %.0f ms, reg export %.0f ms: %.1f times as fast\n", Median(exports),
-           Median(regExports), Median(regExports) / Median(exports));
-    printf("import %.0f ms, reg import %.0f ms: %.1f times as fast\n", Median(imports),
-           Median(regImports), Median(regImports) / Median(imports));
+    const auto time = [](const char* what, const auto& action) {
+        return [=] { return Time([&] { Require(action(), what); }); };
+    };
+    const Medians exports = Compare(
+        time("exporting",
+             [] { return RegistryExporter().Export(L"\\bench.dias", HKEY_LOCAL_MACHINE, kTree); }),
+        time("reg export", [&] { return Reg(L"export \"" + tree + L"\" bench.reg /y"); }));
+    const Medians imports =
+        Compare(time("importing", [] { return RegistryExporter().Import(L"\\bench.dias"); }),
+                time("reg import", [] { return Reg(L"import bench.reg"); }));
+    printf("%d values in %d keys, medians of 5:\n", kKeys * kValuesInKey, kKeys);
+    Print("export", "reg export", exports);
+    Print("import", "reg import", imports);
     return 0;
 }

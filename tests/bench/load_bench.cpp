@@ -5,9 +5,6 @@
 // usage: load_bench.exe (with a device of its own as current drive, beside the built artwork)
 #include <windows.h>
 
-#include <algorithm>
-#include <cstdio>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,36 +13,18 @@
 #include "appearance/skins/archive.h"
 #include "appearance/skins/skin_art.h"
 #include "base/mapped_file.h"
+#include "base/owned_handle.h"
 #include "pages/stores/mail_folder_tree.h"
 #include "pocketpc/common/mail_store.h"
 #include "settings/keyboard_layouts.h"
 #include "settings/settings_key.h"
+#include "tests/bench/bench.h"
 
 namespace {
 
-constexpr int kRounds = 5;
-
-double Now() {
-    LARGE_INTEGER frequency, count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
 // The medians of two actions that take turns.
-std::pair<double, double> Compare(const std::function<void()>& one,
-                                  const std::function<void()>& other) {
-    std::vector<double> times[2];
-    for (int round = 0; round < kRounds; ++round) {
-        double begin = Now();
-        one();
-        times[0].push_back(Now() - begin);
-        begin = Now();
-        other();
-        times[1].push_back(Now() - begin);
-    }
-    for (std::vector<double>& list : times) std::sort(list.begin(), list.end());
-    return {times[0][kRounds / 2], times[1][kRounds / 2]};
+Medians CompareActions(const std::function<void()>& one, const std::function<void()>& other) {
+    return Compare([&] { return Time(one); }, [&] { return Time(other); });
 }
 
 std::wstring Beside(const wchar_t* name) {
@@ -55,12 +34,6 @@ std::wstring Beside(const wchar_t* name) {
     return path.substr(0, path.rfind(L'\\') + 1) + name;
 }
 
-void Require(bool done, const char* what) {
-    if (done) return;
-    printf("failed: %s\n", what);
-    ExitProcess(1);
-}
-
 void BenchSkin() {
     constexpr int kTimes = 20;
     CreateDirectoryW(L"\\Bench", nullptr);
@@ -68,7 +41,7 @@ void BenchSkin() {
     Require(
         CopyFileW(Beside(L"Skins\\NewStyle.zip").c_str(), L"\\Bench\\Skins\\NewStyle.zip", FALSE),
         "copying the skin");
-    const auto [art, floor] = Compare(
+    const Medians times = CompareActions(
         [] {
             for (int i = 0; i < kTimes; ++i) Require(GetSkinArt().IsValid(), "loading the skin");
             GetSkinArt().Reset();
@@ -81,8 +54,7 @@ void BenchSkin() {
                 }
             }
         });
-    printf("a skin's artwork: %.2f ms, inflating its members alone %.2f ms: %.2f times that\n",
-           art / kTimes, floor / kTimes, art / floor);
+    Print("a skin's artwork", "inflating its members alone", times, kTimes);
 }
 
 // A catalogue of groups with random digests, of which none is an icon's.
@@ -97,12 +69,11 @@ void WriteCatalogue(int digests) {
             file.push_back(random = random * 1664525 + 1013904223);
         }
     }
-    const HANDLE handle =
-        CreateFileW(L"\\Bench\\icons.dat", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const OwnedFile catalogue(
+        CreateFileW(L"\\Bench\\icons.dat", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     DWORD written = 0;
-    WriteFile(handle, file.data(), static_cast<DWORD>(file.size() * sizeof(DWORD)), &written,
-              nullptr);
-    CloseHandle(handle);
+    WriteFile(catalogue.get(), file.data(), static_cast<DWORD>(file.size() * sizeof(DWORD)),
+              &written, nullptr);
 }
 
 std::vector<std::wstring> MakeIcons(const std::wstring& folder, int count) {
@@ -123,7 +94,7 @@ void BenchIcons() {
         const std::wstring folder = L"\\Bench\\" + std::to_wstring(count);
         const std::vector<std::wstring> paths = MakeIcons(folder, count);
         IconLibrary library;
-        const auto [loading, floor] = Compare(
+        const Medians times = CompareActions(
             [&] {
                 library.Clear();
                 library.LoadFolder(folder);
@@ -135,11 +106,9 @@ void BenchIcons() {
                 }
             });
         Require(library.groups()[0].icons.size() == paths.size(), "loading the icons");
-        if (!smallest) smallest = loading;
-        printf(
-            "%d icons: %.0f ms, mapping and hashing alone %.0f ms: %.2f times that; %.1f times "
-            "500\n",
-            count, loading, floor, loading / floor, loading / smallest);
+        if (!smallest) smallest = times.one;
+        printf("%d icons, %.1f times 500: ", count, times.one / smallest);
+        Print("loading", "mapping and hashing alone", times);
     }
 }
 
@@ -157,12 +126,10 @@ void BenchMail() {
         }
         Require(store.Save(), "saving the mail store");
         std::size_t accounts = 0;
-        const double begin = Now();
-        {
+        const double time = Time([&] {
             const MapiSession session;
             accounts = ReadMailFolderTree(session, Mail2(), L"None").size();
-        }
-        const double time = Now() - begin;
+        });
         Require(accounts == kAccounts, "reading the folders");
         if (!smallest) smallest = time;
         printf("%d mail folders: %.0f ms, %.1f times 400\n", folders, time, time / smallest);
@@ -172,11 +139,12 @@ void BenchMail() {
 void BenchLayouts() {
     constexpr int kLookups = 10000;
     KeyboardLayouts& layouts = GetKeyboardLayouts();
-    const double begin = Now();
-    for (int i = 0; i < kLookups; ++i) {
-        Require(layouts.Find(i % 2 ? L"Latin" : L"greek") != nullptr, "finding a layout");
-    }
-    printf("%d lookups of keyboard layouts by name: %.2f ms\n", kLookups, Now() - begin);
+    const double time = Time([&] {
+        for (int i = 0; i < kLookups; ++i) {
+            Require(layouts.Find(i % 2 ? L"Latin" : L"greek") != nullptr, "finding a layout");
+        }
+    });
+    printf("%d lookups of keyboard layouts by name: %.2f ms\n", kLookups, time);
 }
 
 }  // namespace

@@ -1,14 +1,12 @@
 // Lookups of translations in a large language file, against a list searched from its front.
-#include <chrono>
-#include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "app/language/language_file.h"
 #include "app/language/language_index.h"
+#include "tests/bench/bench.h"
 
 namespace {
 
@@ -58,37 +56,25 @@ std::vector<std::wstring> Wanted() {
     return wanted;
 }
 
-struct Result {
-    std::size_t found = 0;
-    double seconds = 0;
-};
-
-template <typename Table>
-Result Measure(const Table& table, const std::vector<std::wstring>& wanted) {
-    Result result;
-    const auto start = std::chrono::steady_clock::now();
-    for (const std::wstring& source : wanted) result.found += table.Find(source) != nullptr;
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-    result.seconds = time.count();
-    return result;
-}
-
 }  // namespace
 
 int main() {
     const std::vector<LanguageEntry> entries = ParseLanguageFile(LargeFile());
     const std::vector<std::wstring> wanted = Wanted();
-    const Result list = Measure(FrontSearchedList(entries), wanted);
-    const Result index = Measure(LanguageIndex(entries), wanted);
-    if (list.found != index.found) {
-        std::printf("The index finds %u texts, the list %u.\n", static_cast<unsigned>(index.found),
-                    static_cast<unsigned>(list.found));
-        return 1;
-    }
+    const FrontSearchedList list(entries);
+    const LanguageIndex index(entries);
+    std::size_t found[2] = {};
+    const auto search = [&](const auto& table, std::size_t& count) {
+        return Time([&] {
+            count = 0;
+            for (const std::wstring& source : wanted) count += table.Find(source) != nullptr;
+        });
+    };
+    const Medians times =
+        Compare([&] { return search(list, found[0]); }, [&] { return search(index, found[1]); }, 1);
+    Require(found[0] == found[1], "finding the same texts");
     std::printf("%u lookups in a language file of %u lines, %u of them found:\n",
                 static_cast<unsigned>(kLookups), static_cast<unsigned>(kEntries),
-                static_cast<unsigned>(index.found));
-    std::printf("  list searched from its front  %10.3f ms\n", list.seconds * 1000);
-    std::printf("  LanguageIndex                 %10.3f ms, %.0f times faster\n",
-                index.seconds * 1000, list.seconds / index.seconds);
+                static_cast<unsigned>(found[0]));
+    Print("list searched from its front", "LanguageIndex", times);
 }

@@ -7,21 +7,11 @@
 
 #include <psapi.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <string>
-#include <vector>
+
+#include "tests/bench/bench.h"
 
 namespace {
-
-constexpr int kRounds = 7;
-
-double Now() {
-    LARGE_INTEGER frequency, count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 struct Search {
     DWORD process;
@@ -50,17 +40,16 @@ Start Measure(std::wstring commandLine) {
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
-    const double begin = Now();
-    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process)) {
-        printf("cannot start %ls\n", commandLine.c_str());
-        ExitProcess(1);
-    }
-    Search search{process.dwProcessId};
-    while (!search.found && WaitForSingleObject(process.hProcess, 1) == WAIT_TIMEOUT) {
-        EnumWindows(IsItsMainWindow, reinterpret_cast<LPARAM>(&search));
-    }
-    Start start{Now() - begin};
+    Start start;
+    start.milliseconds = Time([&] {
+        Require(CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                               nullptr, &startup, &process) != FALSE,
+                "starting a program");
+        Search search{process.dwProcessId};
+        while (!search.found && WaitForSingleObject(process.hProcess, 1) == WAIT_TIMEOUT) {
+            EnumWindows(IsItsMainWindow, reinterpret_cast<LPARAM>(&search));
+        }
+    });
     WaitForInputIdle(process.hProcess, 5000);
     PROCESS_MEMORY_COUNTERS memory = {};
     GetProcessMemoryInfo(process.hProcess, &memory, sizeof memory);
@@ -70,11 +59,6 @@ Start Measure(std::wstring commandLine) {
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
     return start;
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 }  // namespace
@@ -88,17 +72,12 @@ int main() {
 
     Measure(peer);
     const Start first = Measure(program);  // Writes the language file.
-    std::vector<double> own, others;
     Start last;
-    for (int round = 0; round < kRounds; ++round) {
-        last = Measure(program);
-        own.push_back(last.milliseconds);
-        others.push_back(Measure(peer).milliseconds);
-    }
+    const Medians times = Compare([&] { return (last = Measure(program)).milliseconds; },
+                                  [&] { return Measure(peer).milliseconds; }, 7);
     WIN32_FILE_ATTRIBUTE_DATA file = {};
     GetFileAttributesExW(program.c_str(), GetFileExInfoStandard, &file);
-    printf("start to window, median of %d: %.0f ms, winecfg %.0f ms, ratio %.2f\n", kRounds,
-           Median(own), Median(others), Median(own) / Median(others));
+    Print("start to window", "winecfg", times);
     printf("first start, which writes the language file: %.0f ms\n", first.milliseconds);
     printf("peak memory: %.1f MiB; program: %.0f KiB\n",
            static_cast<double>(last.peakBytes) / (1 << 20), file.nFileSizeLow / 1024.0);
