@@ -18,19 +18,13 @@ TEST(CategoryColor, PacksAndBlends) {
     EXPECT_EQ(color.GetColor(), kNoColor);
     EXPECT_EQ(color.GetIntensity(), 0);
 
-    struct Case {
-        std::uint32_t packed, background, blended;
-    };
-    for (const Case& c : {
-             Case{0x00123456, 0x00ABCDEF, 0x00ABCDEF},
-             Case{0x64123456, 0x00ABCDEF, 0x00123456},
-             Case{0xE4123456, 0x00ABCDEF, 0x00ABCDEF},
-             Case{0x32000000, 0x00FFFFFF, 0x00808080},  // 255 - 127, not 128
-             Case{0x320000FF, 0x00000000, 0x0000007F},
-             Case{0x190A14FF, 0x00FF1400, 0x00C2143F},
-         }) {
-        color.Unpack(c.packed);
-        EXPECT_EQ(BlendCategoryColor(color, c.background), c.blended) << std::hex << c.packed;
+    constexpr std::tuple<std::uint32_t, std::uint32_t, std::uint32_t> kBlends[] = {
+        {0x00123456, 0x00ABCDEF, 0x00ABCDEF}, {0x64123456, 0x00ABCDEF, 0x00123456},
+        {0xE4123456, 0x00ABCDEF, 0x00ABCDEF}, {0x32000000, 0x00FFFFFF, 0x00808080},  // 255 - 127
+        {0x320000FF, 0x00000000, 0x0000007F}, {0x190A14FF, 0x00FF1400, 0x00C2143F}};
+    for (const auto& [packed, background, blended] : kBlends) {
+        color.Unpack(packed);
+        EXPECT_EQ(BlendCategoryColor(color, background), blended) << std::hex << packed;
     }
 }
 
@@ -50,23 +44,19 @@ TEST(ColorGrid, LiesOnTheScreenAsDesigned) {
     EXPECT_EQ(fine.CellArea({1, 2}), (GridArea{44, 80, 68, 104}));
     EXPECT_EQ(usual.FrameArea({0, 0}), (GridArea{1, 1, 19, 19}));
 
-    struct Case {
-        const ColorGrid& grid;
-        int x, y;
-        GridCell cell;
-    };
-    for (const Case& c : {
-             Case{usual, 4, 4, {0, 0}}, Case{usual, 21, 21, {0, 0}}, Case{usual, 22, 22, {1, 1}},
-             Case{usual, 147, 93, {7, 4}}, Case{usual, 148, 94, {8, 5}},
-             Case{usual, 900, 900, {8, 5}}, Case{usual, -900, -900, {0, 0}},
-             Case{fine, 44, 80, {1, 2}},
-             Case{uneven, 8, 39, {0, 0}},  // rows by the horizontal density
-         }) {
-        EXPECT_EQ(c.grid.CellAt(c.x, c.y), c.cell) << c.x << "," << c.y;
+    const std::tuple<const ColorGrid&, GridPoint, GridCell> cells[] = {
+        {usual, {4, 4}, {0, 0}},       {usual, {21, 21}, {0, 0}},
+        {usual, {22, 22}, {1, 1}},     {usual, {147, 93}, {7, 4}},
+        {usual, {148, 94}, {8, 5}},    {usual, {900, 900}, {8, 5}},
+        {usual, {-900, -900}, {0, 0}}, {fine, {44, 80}, {1, 2}},
+        {uneven, {8, 39}, {0, 0}}};  // rows by the horizontal density
+    for (const auto& [grid, point, cell] : cells) {
+        EXPECT_EQ(grid.CellAt(point.x, point.y), cell) << point.x << "," << point.y;
     }
     EXPECT_EQ(ClampToGrid({8, 5}), (GridCell{7, 4}));
 
     EXPECT_EQ(PlaceColorGrid({10, 20, 50, 40}, 148, 94, 240, 320, 1), (GridPoint{10, 39}));
+    EXPECT_EQ(PlaceColorGrid({92, 206, 132, 227}, 148, 94, 240, 320, 1), (GridPoint{92, 226}));
     EXPECT_EQ(PlaceColorGrid({190, 290, 230, 310}, 148, 94, 240, 320, 1), (GridPoint{82, 196}));
     EXPECT_EQ(PlaceColorGrid({100, 50, 140, 70}, 148, 94, 140, 100, 1), (GridPoint{100, 69}));
 }

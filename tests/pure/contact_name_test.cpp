@@ -5,28 +5,23 @@
 namespace {
 
 TEST(ContactName, InEveryMode) {
-    struct Case {
-        // Title, first, middle and last name, suffix, nickname, file as, company.
-        ContactRecord record;
-        std::array<std::wstring, 4> names;
-    };
-    for (const Case& c : {
-             Case{{L"Dr.", L"Ann", L"B.", L"Cole", L"Jr.", L"Annie", L"Cole, Ann", L"Mill", {}},
-                  {L"Ann B. Cole Jr.", L"Cole, Ann B.", L"Cole, Ann",
-                   L"Dr. Ann \"Annie\" B. Cole Jr."}},
-             Case{{L"", L"", L"B.", L"Cole", L"", L"Annie", L"", L"", {}},
-                  {L"B. Cole", L"Cole", L"B. Cole", L"Annie B. Cole"}},
-             Case{{L"", L"", L"B.", L"", L"", L"", L"Filed", L"Mill", {}},
-                  {L"B.", L"Mill", L"Filed", L"B."}},
-             Case{{}, {}},
-         }) {
-        ContactRecord record = c.record;
+    // Title, first, middle and last name, suffix, nickname, file as, company.
+    const std::pair<ContactRecord, std::array<std::wstring, 4>> cases[] = {
+        {{L"Dr.", L"Ann", L"B.", L"Cole", L"Jr.", L"Annie", L"Cole, Ann", L"Mill", {}},
+         {L"Ann B. Cole Jr.", L"Cole, Ann B.", L"Cole, Ann", L"Dr. Ann \"Annie\" B. Cole Jr."}},
+        {{L"", L"", L"B.", L"Cole", L"", L"Annie", L"", L"", {}},
+         {L"B. Cole", L"Cole", L"B. Cole", L"Annie B. Cole"}},
+        {{L"", L"", L"B.", L"", L"", L"", L"Filed", L"Mill", {}},
+         {L"B.", L"Mill", L"Filed", L"B."}},
+        {{}, {}}};
+    for (const auto& [given, names] : cases) {
+        ContactRecord record = given;
         for (int mode = 3; mode >= 0; --mode) {
-            EXPECT_EQ(FormatContactName(record, mode), c.names[static_cast<std::size_t>(mode)])
+            EXPECT_EQ(FormatContactName(record, mode), names[static_cast<std::size_t>(mode)])
                 << mode;
         }
-        EXPECT_EQ(FormatContactName(record, -1), c.names[0]);
-        EXPECT_EQ(FormatContactName(record, 4), c.names[0]);
+        EXPECT_EQ(FormatContactName(record, -1), names[0]);
+        EXPECT_EQ(FormatContactName(record, 4), names[0]);
     }
 }
 

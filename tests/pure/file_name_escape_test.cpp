@@ -10,12 +10,11 @@ namespace {
 TEST(FileNameEscape, KeepsEveryName) {
     EXPECT_EQ(EscapeFileName(L"Work/Home"), L"Work%CHome");
     EXPECT_EQ(EscapeFileName(L"%\\/:*?\"<>|"), L"%A%B%C%D%E%F%G%H%I%J");
-    struct Case {
-        const wchar_t *escaped, *name;
-    };
-    for (const Case& c : {Case{L"a%Bb", L"a\\b"}, Case{L"a%K%", L"a%K%"}, Case{L"%%A", L"%%"},
-                          Case{L"%a%@", L"%a%@"}, Case{L"%AB", L"%B"}, Case{L"%J", L"|"}}) {
-        EXPECT_EQ(UnescapeFileName(c.escaped), c.name);
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"a%Bb", L"a\\b"}, {L"a%K%", L"a%K%"}, {L"%%A", L"%%"},
+        {L"%a%@", L"%a%@"}, {L"%AB", L"%B"},    {L"%J", L"|"}};
+    for (const auto& [escaped, name] : cases) {
+        EXPECT_EQ(UnescapeFileName(escaped), name);
     }
     std::mt19937 random(1);
     const std::wstring letters = L"%\\/:*?\"<>|AJK a";

@@ -75,18 +75,22 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
              Case{"short table", 40, 3, 2, 8, 0, 2, 8, true},
              Case{"too many colours", 40, 3, 2, 4, 0, 17, 500, false},
              Case{"run lengths", 40, 3, 2, 8, 1, 256, 500, false},
-             Case{"no such depth", 40, 3, 2, 7, 0, 0, 500, false},
+             Case{"no such depth", 40, 3, 2, 7, 0, 2, 500, false},
+             Case{"masks", 40, 3, 2, 16, 3, 0, 16, true},
+             Case{"a mask's byte short", 40, 3, 2, 16, 3, 0, 15, false},
+             Case{"no such compression", 40, 3, 2, 16, 2, 0, 500, false},
              Case{"no width", 40, 0, 2, 24, 0, 0, 500, false},
              Case{"widest", 40, 0x7FFFFFFF, 2, 24, 0, 0, 500, false},
              Case{"deepest", 40, 3, 0x80000000, 24, 0, 0, 500, false},
              Case{"no such header", 41 + 84, 3, 2, 24, 0, 0, 500, false},
          }) {
         Bytes file = {'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0};
-        for (const std::uint32_t field : {14 + c.header + 4 * c.colors, c.header, c.width, c.height,
-                                          1 | c.bits << 16, c.compression, 0u, 0u, 0u, c.colors}) {
+        const std::uint32_t pixels = 14 + c.header + 4 * c.colors + (c.compression == 3 ? 12 : 0);
+        for (const std::uint32_t field : {pixels, c.header, c.width, c.height, 1 | c.bits << 16,
+                                          c.compression, 0u, 0u, 0u, c.colors}) {
             Append(file, field);
         }
-        file.resize(14 + c.header + 4 * c.colors + c.pixels);
+        file.resize(pixels + c.pixels);
         const std::optional<BitmapSize> size = ReadBitmapSize(file);
         EXPECT_EQ(size, c.good ? std::optional(BitmapSize{3, 2}) : std::nullopt) << c.what;
     }
@@ -105,6 +109,7 @@ TEST(IconGrid, LiesGroupBelowGroup) {
     EXPECT_EQ(grid.At({0, 92}), (IconPlace{2}));
     EXPECT_EQ(grid.At({60, 39}), std::nullopt);  // behind the last icon
     EXPECT_EQ(grid.At({80, 20}), std::nullopt);  // behind the last column
+    EXPECT_EQ(grid.At({85, 5}), std::nullopt);
     EXPECT_EQ(grid.At({20, 132}), std::nullopt);
     EXPECT_EQ(grid.At({20, -1}), std::nullopt);
     EXPECT_EQ(grid.GroupsWithin(0, 15), (IconGrid::Range{0, 1}));
@@ -116,30 +121,22 @@ TEST(IconGrid, LiesGroupBelowGroup) {
     EXPECT_EQ(grid.IconsWithin(2, 0, 500), (IconGrid::Range{0, 0}));
 
     struct Case {
-        IconPlace from;
         IconMove move;
-        IconPlace to;
+        std::vector<std::pair<IconPlace, IconPlace>> ways;
     };
-    for (const Case& c : {
-             Case{{0}, IconMove::kUp, {0}},
-             Case{{0, 1}, IconMove::kUp, {0}},
-             Case{{0, 4}, IconMove::kUp, {0, 1}},
-             Case{{0, 1}, IconMove::kDown, {0, 4}},
-             Case{{0, 2}, IconMove::kDown, {0, 4}},
-             Case{{0, 3}, IconMove::kDown, {1}},
-             Case{{1}, IconMove::kUp, {0, 3}},
-             Case{{0, 4}, IconMove::kRight, {1}},
-             Case{{3}, IconMove::kLeft, {2}},
-             Case{{3}, IconMove::kRight, {3, 0}},
-             Case{{3, 0}, IconMove::kDown, {3, 0}},
-             Case{{0}, IconMove::kLast, {3, 0}},
-             Case{{3, 0}, IconMove::kFirst, {0}},
-             Case{{0}, IconMove::kPageDown, {0, 3}},
-             Case{{3, 0}, IconMove::kPageUp, {2}},
-             Case{{3}, IconMove::kPageDown, {3, 0}},
-         }) {
-        EXPECT_EQ(grid.Move(c.from, c.move, 63), c.to)
-            << c.from.group << "," << c.from.icon << " " << static_cast<int>(c.move);
+    for (const Case& c :
+         {Case{IconMove::kUp, {{{0}, {0}}, {{0, 1}, {0}}, {{0, 4}, {0, 1}}, {{1}, {0, 3}}}},
+          Case{IconMove::kDown,
+               {{{0, 1}, {0, 4}}, {{0, 2}, {0, 4}}, {{0, 3}, {1}}, {{3, 0}, {3, 0}}}},
+          Case{IconMove::kRight, {{{0, 4}, {1}}, {{3}, {3, 0}}}},
+          Case{IconMove::kLeft, {{{3}, {2}}, {{1}, {0, 4}}}},
+          Case{IconMove::kLast, {{{0}, {3, 0}}}}, Case{IconMove::kFirst, {{{3, 0}, {0}}}},
+          Case{IconMove::kPageDown, {{{0}, {0, 3}}, {{3}, {3, 0}}}},
+          Case{IconMove::kPageUp, {{{3, 0}, {2}}}}}) {
+        for (const auto& [from, to] : c.ways) {
+            EXPECT_EQ(grid.Move(from, c.move, 63), to)
+                << from.group << "," << from.icon << " " << static_cast<int>(c.move);
+        }
     }
     EXPECT_EQ(grid.Move(std::nullopt, IconMove::kDown, 60), IconPlace{});
     EXPECT_EQ(IconGrid().Move(std::nullopt, IconMove::kDown, 60), std::nullopt);
@@ -178,22 +175,17 @@ TEST(IconSources, ShowsAnyOfThem) {
 }
 
 TEST(IconSources, AreShownAsShortPaths) {
-    struct Case {
-        std::wstring path;
-        std::size_t room;
-        std::wstring shown;
-    };
-    for (const Case& c : {
-             Case{L"\\My Documents\\Icons\\", 20, L"\\My Documents\\Icons\\"},
-             Case{L"\\My Documents\\Icons\\", 19, L"...\\Icons\\"},
-             Case{L"\\My Documents\\Icons", 8, L"...Icons"},
-             Case{L"\\My Documents\\Icons", 0, L"..."},
-             Case{std::wstring(260, L'a'), 6, L"...aaa"},
-             Case{L"\\", 0, L"..."},
-             Case{L"", 0, L""},
-         }) {
-        const auto fits = [&](const std::wstring& text) { return text.size() <= c.room; };
-        EXPECT_EQ(ShortenPath(c.path, fits), c.shown) << c.room;
+    const std::tuple<std::wstring, std::size_t, std::wstring> cases[] = {
+        {L"\\My Documents\\Icons\\", 20, L"\\My Documents\\Icons\\"},
+        {L"\\My Documents\\Icons\\", 19, L"...\\Icons\\"},
+        {L"\\My Documents\\Icons", 8, L"...Icons"},
+        {L"\\My Documents\\Icons", 0, L"..."},
+        {std::wstring(260, L'a'), 6, L"...aaa"},
+        {L"\\", 0, L"..."},
+        {L"", 0, L""}};
+    for (const auto& [path, room, shown] : cases) {
+        const auto fits = [room](const std::wstring& text) { return text.size() <= room; };
+        EXPECT_EQ(ShortenPath(path, fits), shown) << room;
     }
 }
 

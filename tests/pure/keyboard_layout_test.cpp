@@ -6,29 +6,21 @@ namespace {
 
 TEST(KeyboardLayout, ParsesItsText) {
     const std::wstring longest(123, L'a');
-    struct Case {
-        std::wstring text;
-        std::optional<KeyboardLayout> layout;
+    const std::pair<std::wstring, std::optional<KeyboardLayout>> cases[] = {
+        {L"labc(abc)def(def)", {{false, {{L"abc", L"abc"}, {L"def", L"def"}}}}},
+        {L"rabc(abcx) d(e) ", {{true, {{L"abc", L"abcx"}, {L"d", L"e"}}}}},
+        {L"Ra(b)", {{false, {{L"a", L"b"}}}}},  // Only a small r is the direction.
+        {L"l\xD800(\xDC00\xD800)", {{false, {{L"\xD800", L"\xDC00\xD800"}}}}},
+        {L"l" + longest + L"(b)", {{false, {{longest, L"b"}}}}},
+        {L"la" + longest + L"(b)", {}},
+        {L"l" + std::wstring(10000, L'('), {}},
     };
-    for (const Case& c : {
-             Case{L"labc(abc)def(def)", {{false, {{L"abc", L"abc"}, {L"def", L"def"}}}}},
-             Case{L"rabc(abcx) d(e) ", {{true, {{L"abc", L"abcx"}, {L"d", L"e"}}}}},
-             Case{L"Ra(b)", {{false, {{L"a", L"b"}}}}},  // Only a small r is the direction.
-             Case{L"l\xD800(\xDC00\xD800)", {{false, {{L"\xD800", L"\xDC00\xD800"}}}}},
-             Case{L"l" + longest + L"(b)", {{false, {{longest, L"b"}}}}},
-             Case{L"la" + longest + L"(b)", {}},
-             Case{L"l" + std::wstring(10000, L'('), {}},
-             Case{L"labc(abc) def (def)", {}},
-             Case{L"l a(b)", {}},
-             Case{L"labc()", {}},
-             Case{L"l(abc)", {}},
-             Case{L"labc(a(bc)", {}},
-             Case{L"labc(abc", {}},
-             Case{L"labc)abc(", {}},
-             Case{L"la(b)c", {}},
-             Case{L"", {}},
-         }) {
-        EXPECT_TRUE(KeyboardLayout::Parse(c.text) == c.layout) << testing::PrintToString(c.text);
+    for (const auto& [text, layout] : cases) {
+        EXPECT_TRUE(KeyboardLayout::Parse(text) == layout) << testing::PrintToString(text);
+    }
+    for (const wchar_t* const none : {L"labc(abc) def (def)", L"l a(b)", L"labc()", L"l(abc)",
+                                      L"labc(a(bc)", L"labc(abc", L"labc)abc(", L"la(b)c", L""}) {
+        EXPECT_FALSE(KeyboardLayout::Parse(none)) << testing::PrintToString(none);
     }
 }
 

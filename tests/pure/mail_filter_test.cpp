@@ -58,20 +58,17 @@ TEST(MailFilter, DropsWhatIsDamaged) {
 
 TEST(MailFilter, NamesNewOnes) {
     const NewMailFilterNames texts = {L"None", L"Set"};
-    struct Case {
-        std::vector<std::wstring> filters;
-        const wchar_t* name;
+    const std::pair<std::vector<std::wstring>, const wchar_t*> cases[] = {
+        {{}, L"Set 1"},
+        {{L"Set"}, L"Set 1"},
+        {{L"Set 3", L"Set 1"}, L"Set 4"},
+        {{L"Sets", L"A Set 9", L"set 8", L"Set x", L"Set -3"}, L"Set 1"},
+        {{L"Set7", L"Set 99999999999"}, L"Set 8"},
+        {{L"Set 10", L"Set 9"}, L"Set 11"},
+        {{L"Set 129"}, L"Set 130"},
     };
-    for (const Case& c : {
-             Case{{}, L"Set 1"},
-             Case{{L"Set"}, L"Set 1"},
-             Case{{L"Set 3", L"Set 1"}, L"Set 4"},
-             Case{{L"Sets", L"A Set 9", L"set 8", L"Set x", L"Set -3"}, L"Set 1"},
-             Case{{L"Set7", L"Set 99999999999"}, L"Set 8"},
-             Case{{L"Set 10", L"Set 9"}, L"Set 11"},
-             Case{{L"Set 129"}, L"Set 130"},
-         }) {
-        EXPECT_EQ(AutomaticFilterName(texts, 2, {}, c.filters), c.name);
+    for (const auto& [filters, name] : cases) {
+        EXPECT_EQ(AutomaticFilterName(texts, 2, {}, filters), name);
     }
     EXPECT_EQ(AutomaticFilterName(texts, 0, {}, {}), L"None");
     EXPECT_EQ(AutomaticFilterName(texts, 1, L"Inbox", {L"Set"}), L"Inbox");
@@ -90,24 +87,19 @@ TEST(MailFilter, SuggestsNames) {
 TEST(MailFilter, TakesTheFirstFreeName) {
     const MailFolderNames inbox = {L"home", L"Inbox"};
     const MailFolderNames longOne = {std::wstring(250, L'a'), L"Inbox"};
-    struct Case {
-        std::set<std::wstring> taken;
-        const MailFolderNames* one;
-        const wchar_t* name;
-    };
-    for (const Case& c : {
-             Case{{}, &inbox, L"Inbox"},
-             Case{{L"Inbox"}, &inbox, L"home - Inbox"},
-             Case{{L"Inbox", L"home - Inbox"}, &inbox, L"home"},
-             Case{{L"Inbox", L"home - Inbox", L"home"}, &inbox, L"Inbox - home"},
-             Case{
-                 {L"Inbox", L"home - Inbox", L"home", L"Inbox - home", L"Set 1"}, &inbox, L"Set 2"},
-             Case{{L"Inbox", longOne.account}, &longOne, L"Set 1"},
-             Case{{L"Inbox", L"Set 1", L"Set 2"}, nullptr, L"Set 3"},
-         }) {
-        EXPECT_EQ(FreeFilterName(L"Inbox", c.one, L"Set", Before,
-                                 [&](const std::wstring& name) { return c.taken.contains(name); }),
-                  c.name);
+    const std::tuple<std::set<std::wstring>, const MailFolderNames*, const wchar_t*> cases[] = {
+        {{}, &inbox, L"Inbox"},
+        {{L"Inbox"}, &inbox, L"home - Inbox"},
+        {{L"Inbox", L"home - Inbox"}, &inbox, L"home"},
+        {{L"Inbox", L"home - Inbox", L"home"}, &inbox, L"Inbox - home"},
+        {{L"Inbox", L"home - Inbox", L"home", L"Inbox - home", L"Set 1"}, &inbox, L"Set 2"},
+        {{L"Inbox", longOne.account}, &longOne, L"Set 1"},
+        {{L"Inbox", L"Set 1", L"Set 2"}, nullptr, L"Set 3"}};
+    for (const auto& [taken, one, name] : cases) {
+        const auto isTaken = [&names = taken](const std::wstring& text) {
+            return names.contains(text);
+        };
+        EXPECT_EQ(FreeFilterName(L"Inbox", one, L"Set", Before, isTaken), name);
     }
 }
 

@@ -5,28 +5,23 @@
 namespace {
 
 TEST(NoteLabel, FitsItsColumn) {
-    struct Case {
-        std::uint32_t number;
-        const wchar_t* size;
-        const wchar_t* duration;
-    };
-    for (const Case& c : {
-             Case{0, L"0B", L"0.00S"},
-             Case{1023, L"1023B", L"1.02S"},
-             Case{1024, L"1.00K", L"1.02S"},
-             Case{1536, L"1.51K", L"1.53S"},
-             Case{10240, L"10.0K", L"10.2S"},
-             Case{59999, L"58.6K", L"59.9S"},
-             Case{90000, L"87.9K", L"1.30M"},
-             Case{102400, L"100K", L"1.42M"},
-             Case{(1u << 20) - 1, L"1023K", L"17.2M"},
-             Case{1u << 20, L"1.00M", L"17.2M"},
-             Case{(5u << 20) + 7, L"5.00M", L"87.2M"},
-             Case{1u << 30, L"1.00G", L"1789M"},
-             Case{0xFFFFFFFF, L"3.10G", L"7158M"},
-         }) {
-        EXPECT_EQ(NoteSizeLabel(c.number, L"."), c.size) << c.number;
-        EXPECT_EQ(RecordingLabel(c.number, L"."), c.duration) << c.number;
+    constexpr std::tuple<std::uint32_t, const wchar_t*, const wchar_t*> kCases[] = {
+        {0, L"0B", L"0.00S"},
+        {1023, L"1023B", L"1.02S"},
+        {1024, L"1.00K", L"1.02S"},
+        {1536, L"1.51K", L"1.53S"},
+        {10240, L"10.0K", L"10.2S"},
+        {59999, L"58.6K", L"59.9S"},
+        {90000, L"87.9K", L"1.30M"},
+        {102400, L"100K", L"1.42M"},
+        {(1u << 20) - 1, L"1023K", L"17.2M"},
+        {1u << 20, L"1.00M", L"17.2M"},
+        {(5u << 20) + 7, L"5.00M", L"87.2M"},
+        {1u << 30, L"1.00G", L"1789M"},
+        {0xFFFFFFFF, L"3.10G", L"7158M"}};
+    for (const auto& [number, size, duration] : kCases) {
+        EXPECT_EQ(NoteSizeLabel(number, L"."), size) << number;
+        EXPECT_EQ(RecordingLabel(number, L"."), duration) << number;
     }
     EXPECT_EQ(NoteSizeLabel(1536, L" ,"), L"1 ,51K");
 }

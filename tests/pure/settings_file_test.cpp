@@ -60,22 +60,23 @@ constexpr std::uint32_t Two(char16_t first, char16_t second) {
 }
 constexpr std::uint32_t kLocalMachine = 0x80000002;
 
+// The key "\S" of a root: "On" is 258, the value without a name a text, "Bn" in "Sb" four bytes.
 const Bytes kGolden = File({0,
                             kLocalMachine,
                             4,
                             Two('\\', 'S'),
                             2,
-                            0,  //
+                            0,
                             4,
                             4,
                             Two('O', 'n'),
                             4,
-                            258,  // a number
+                            258,
                             4,
                             0,
                             1,
                             4,
-                            Two('h', 0x2026),  // a text
+                            Two('h', 0x2026),
                             2,
                             4,
                             Two('S', 'b'),
@@ -85,7 +86,7 @@ const Bytes kGolden = File({0,
                             3,
                             4,
                             0xFFFFFFFF,
-                            3,  //
+                            3,
                             3,
                             1});
 
@@ -107,37 +108,40 @@ TEST(SettingsFile, WritesAndReadsTheSameBytes) {
     EXPECT_EQ(notes.text, "root 2147483650 \\S;{;On=#258;=h\\8230;{Sb;Bn=4 bytes;};};");
 }
 
-TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
-    struct Case {
-        const char* what;
-        Bytes file;
-        bool read;
-        const char* seen;
-    };
-    for (const Case& c : {
-             Case{"empty", {}, false, ""},
-             Case{"wrong first tag", File({1, kLocalMachine, 0, 2, 0, 3, 1}), false, ""},
-             Case{"no key after the path", File({0, 1, 0, 4, 0, 3, 1}), false, "root 1 ;"},
-             Case{"nothing but a key", File({0, 1, 0, 2, 0, 3, 1}), true, "root 1 ;{;};"},
-             Case{"no end", File({0, 1, 0, 2, 0, 3}), false, "root 1 ;{;};"},
-             Case{"bytes behind the end", File({0, 1, 0, 2, 0, 3, 1, 77}), true, "root 1 ;{;};"},
-             Case{"other tags", File({0, 1, 0, 2, 0, 9, 0, 5, 3, 1}), true, "root 1 ;{;};"},
-             Case{"end tag inside", File({0, 1, 0, 2, 0, 2, 0, 1, 3, 1}), true, "root 1 ;{;{;};};"},
-             Case{"unknown type", File({0, 1, 0, 2, 0, 4, 0, 4, 7, 4, 0, 7, 0, 3, 1}), false,
-                  "root 1 ;{;=#7;"},
-             Case{"gigantic text", File({0, 1, 0, 2, 0, 4, 0, 1, 0xFFFFFFFF, 3, 1}), false,
-                  "root 1 ;{;"},
-             Case{"gigantic name", File({0, 1, 0, 2, 0x7FFFFFFF, 3, 1}), false, "root 1 ;"},
-             Case{"gigantic bytes", File({0, 1, 0, 2, 0, 4, 0, 3, 0x80000000}), false,
-                  "root 1 ;{;"},
-             // Where a value of no bytes cannot be meant, what follows it is its count.
-             Case{"bytes without a count", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 7}), false,
-                  "root 1 ;{;=3 bytes;"},
-         }) {
+struct Case {
+    const char* what;
+    Bytes file;
+    bool read;
+    const char* seen;
+};
+
+void ExpectSeen(const std::vector<Case>& cases) {
+    for (const Case& c : cases) {
         Notes notes;
         EXPECT_EQ(ReadSettingsFile(c.file, notes), c.read) << c.what;
         EXPECT_EQ(notes.text, c.seen) << c.what;
     }
+}
+
+TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
+    ExpectSeen({
+        {"empty", {}, false, ""},
+        {"wrong first tag", File({1, kLocalMachine, 0, 2, 0, 3, 1}), false, ""},
+        {"no key after the path", File({0, 1, 0, 4, 0, 3, 1}), false, "root 1 ;"},
+        {"nothing but a key", File({0, 1, 0, 2, 0, 3, 1}), true, "root 1 ;{;};"},
+        {"no end", File({0, 1, 0, 2, 0, 3}), false, "root 1 ;{;};"},
+        {"bytes behind the end", File({0, 1, 0, 2, 0, 3, 1, 77}), true, "root 1 ;{;};"},
+        {"other tags", File({0, 1, 0, 2, 0, 9, 0, 5, 3, 1}), true, "root 1 ;{;};"},
+        {"end tag inside", File({0, 1, 0, 2, 0, 2, 0, 1, 3, 1}), true, "root 1 ;{;{;};};"},
+        {"unknown type", File({0, 1, 0, 2, 0, 4, 0, 4, 7, 4, 0, 7, 0, 3, 1}), false,
+         "root 1 ;{;=#7;"},
+        {"gigantic text", File({0, 1, 0, 2, 0, 4, 0, 1, 0xFFFFFFFF, 3, 1}), false, "root 1 ;{;"},
+        {"gigantic name", File({0, 1, 0, 2, 0x7FFFFFFF, 3, 1}), false, "root 1 ;"},
+        {"gigantic bytes", File({0, 1, 0, 2, 0, 4, 0, 3, 0x80000000}), false, "root 1 ;{;"},
+        // Where a value of no bytes cannot be meant, what follows it is its count.
+        {"bytes without a count", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 7}), false,
+         "root 1 ;{;=3 bytes;"},
+    });
     for (std::size_t size = 0; size < kGolden.size(); ++size) {
         Notes notes;
         EXPECT_FALSE(ReadSettingsFile(std::span(kGolden).first(size), notes)) << size;
@@ -150,39 +154,29 @@ TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
 
 TEST(SettingsFile, ValuesWithoutBytes) {
     constexpr std::uint32_t kAb = Two('a', 'b'), kCd = Two('c', 'd');
-    struct Case {
-        const char* what;
-        Bytes file;
-        const char* seen;
-    };
-    for (const Case& c : {
-             Case{"before the key's end", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 1}),
-                  "root 1 ;{;=0 bytes;};"},
-             Case{"before a value", File({0, 1, 0, 2, 0, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 1}),
-                  "root 1 ;{;=0 bytes;ab=#7;};"},
-             Case{"before a key", File({0, 1, 0, 2, 0, 4, 0, 3, 2, 4, kAb, 3, 3, 1}),
-                  "root 1 ;{;=0 bytes;{ab;};};"},
-             Case{"several", File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 3, 1}),
-                  "root 1 ;{;ab=0 bytes;cd=0 bytes;};"},
-             Case{"before a value with bytes",
-                  File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 4, 7, 3, 1}),
-                  "root 1 ;{;ab=0 bytes;cd=4 bytes;};"},
-             Case{"in a key that seems to end earlier",
-                  File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 3, 1}),
-                  "root 1 ;{;{;=0 bytes;=0 bytes;ab=#7;};};"},
-             Case{"behind an unknown tag", File({0, 1, 0, 2, 0, 9, 4, 0, 3, 3, 1}),
-                  "root 1 ;{;=0 bytes;};"},
-             Case{"before what seems to be the file's end",
-                  File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 1, 0x377, 0x100, 0}),
-                  "root 1 ;{;ab=0 bytes;cd=1 bytes;};"},
-             Case{"none, as what no writer wrote reads well as it stands",
-                  File({0, 1, 0, 2, 0, 9, 4, 0, 3, 4, 0, 3, 1, 0x300, 0x100, 0}),
-                  "root 1 ;{;=4 bytes;};"},
-         }) {
-        Notes notes;
-        EXPECT_TRUE(ReadSettingsFile(c.file, notes)) << c.what;
-        EXPECT_EQ(notes.text, c.seen) << c.what;
-    }
+    ExpectSeen({
+        {"before the key's end", File({0, 1, 0, 2, 0, 4, 0, 3, 3, 1}), true,
+         "root 1 ;{;=0 bytes;};"},
+        {"before a value", File({0, 1, 0, 2, 0, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 1}), true,
+         "root 1 ;{;=0 bytes;ab=#7;};"},
+        {"before a key", File({0, 1, 0, 2, 0, 4, 0, 3, 2, 4, kAb, 3, 3, 1}), true,
+         "root 1 ;{;=0 bytes;{ab;};};"},
+        {"several", File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 3, 1}), true,
+         "root 1 ;{;ab=0 bytes;cd=0 bytes;};"},
+        {"before a value with bytes", File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 4, 7, 3, 1}),
+         true, "root 1 ;{;ab=0 bytes;cd=4 bytes;};"},
+        {"in a key that seems to end earlier",
+         File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 3, 1}), true,
+         "root 1 ;{;{;=0 bytes;=0 bytes;ab=#7;};};"},
+        {"behind an unknown tag", File({0, 1, 0, 2, 0, 9, 4, 0, 3, 3, 1}), true,
+         "root 1 ;{;=0 bytes;};"},
+        {"before what seems to be the file's end",
+         File({0, 1, 0, 2, 0, 4, 4, kAb, 3, 4, 4, kCd, 3, 1, 0x377, 0x100, 0}), true,
+         "root 1 ;{;ab=0 bytes;cd=1 bytes;};"},
+        {"none, as what no writer wrote reads well as it stands",
+         File({0, 1, 0, 2, 0, 9, 4, 0, 3, 4, 0, 3, 1, 0x300, 0x100, 0}), true,
+         "root 1 ;{;=4 bytes;};"},
+    });
 }
 
 // Each round is two values of which either may be empty, at any of the depths before it.

@@ -22,32 +22,29 @@ TEST(SettingsIni, ReadsLinesAsPairsOrSkipsThem) {
     using namespace std::string_literals;
     const std::string full(kLongestIniLine - 4, 'x');
     const std::wstring wideFull(kLongestIniLine - 4, L'x');
-    struct Case {
-        std::string text;
-        Pairs pairs;
+    const std::pair<std::string, Pairs> cases[] = {
+        {"key=value", {{L"key", L"value"}}},
+        {"  key = value \t\r\n", {{L"key ", L" value"}}},
+        {"ab=c\nab=d\n", {{L"ab", L"c"}, {L"ab", L"d"}}},
+        {"key=a=b", {{L"key", L"a=b"}}},
+        {"key=", {{L"key", L""}}},
+        // Too short, nothing before the sign, no sign, a comment.
+        {"a=b\n[a]\nabc\n=value\nvalue\n;key=value\n", {}},
+        {"[open=1\n", {{L"[open", L"1"}}},
+        {"one=1\0two=2\nthree=3\n"s, {{L"one", L"1"}, {L"three", L"3"}}},
+        // A full line and its rest, which is a line of its own.
+        {"key=" + full + "more=1\n", {{L"key", wideFull}, {L"more", L"1"}}},
+        // UTF-8 behind a mark of the value's own; the file's mark is none.
+        {"key=\xEF\xBB\xBF\xC3\xA4", {{L"key", L"~\xC3\xA4"}}},
+        {"key=\xEF\xBB\xBF", {{L"key", L""}}},
+        {"key=\xC3\xA4\xEF\xBB\xBF", {{L"key", L"\xC3\xA4\xEF\xBB\xBF"}}},
+        {"\xEF\xBB\xBF[Name]\nkey=1\n", {{L"key", L"1"}}},
+        {"key=\xEF\xBB\xBF" + std::string(512, 'x'), {{L"key", L""}}},
     };
-    for (const Case& c : {
-             Case{"key=value", {{L"key", L"value"}}},
-             Case{"  key = value \t\r\n", {{L"key ", L" value"}}},
-             Case{"ab=c\nab=d\n", {{L"ab", L"c"}, {L"ab", L"d"}}},
-             Case{"key=a=b", {{L"key", L"a=b"}}},
-             Case{"key=", {{L"key", L""}}},
-             // Too short, nothing before the sign, no sign, a comment.
-             Case{"a=b\n[a]\nabc\n=value\nvalue\n;key=value\n", {}},
-             Case{"[open=1\n", {{L"[open", L"1"}}},
-             Case{"one=1\0two=2\nthree=3\n"s, {{L"one", L"1"}, {L"three", L"3"}}},
-             // A full line and its rest, which is a line of its own.
-             Case{"key=" + full + "more=1\n", {{L"key", wideFull}, {L"more", L"1"}}},
-             // UTF-8 behind a mark of the value's own; the file's mark is none.
-             Case{"key=\xEF\xBB\xBF\xC3\xA4", {{L"key", L"~\xC3\xA4"}}},
-             Case{"key=\xEF\xBB\xBF", {{L"key", L""}}},
-             Case{"key=\xC3\xA4\xEF\xBB\xBF", {{L"key", L"\xC3\xA4\xEF\xBB\xBF"}}},
-             Case{"\xEF\xBB\xBF[Name]\nkey=1\n", {{L"key", L"1"}}},
-             Case{"key=\xEF\xBB\xBF" + std::string(512, 'x'), {{L"key", L""}}},
-         }) {
-        const SettingsIni file = Parse(c.text);
-        EXPECT_EQ(file.top.pairs, c.pairs) << c.text;
-        EXPECT_TRUE(file.sections.empty()) << c.text;
+    for (const auto& [text, pairs] : cases) {
+        const SettingsIni file = Parse(text);
+        EXPECT_EQ(file.top.pairs, pairs) << text;
+        EXPECT_TRUE(file.sections.empty()) << text;
     }
 }
 

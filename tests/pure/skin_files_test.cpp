@@ -33,42 +33,34 @@ Bytes Strip(const std::string& column) {
 }
 
 TEST(Strip, MagentaRowsEndPieces) {
-    struct Case {
-        std::string column;
-        std::vector<StripPiece> pieces;
-    };
-    for (const Case& c : {
-             Case{"...", {{0, 3}}},
-             Case{"..M.M..", {{0, 2}, {3, 4}}},  // What follows the last row is no piece.
-             Case{"M.MM", {{0, 0}, {1, 2}, {3, 3}}},
-             Case{".m.M", {{0, 3}}},
-         }) {
-        const Bytes bytes = Strip(c.column);
-        EXPECT_EQ(FindStripPieces(ParseBitmapFile(bytes).value()), c.pieces) << c.column;
-        Bytes topDown = Strip(std::string(c.column.rbegin(), c.column.rend()));
-        Put(topDown, 22, 0u - static_cast<std::uint32_t>(c.column.size()));
-        EXPECT_EQ(FindStripPieces(ParseBitmapFile(topDown).value()), c.pieces) << c.column;
+    const std::pair<std::string, std::vector<StripPiece>> cases[] = {
+        {"...", {{0, 3}}},
+        {"..M.M..", {{0, 2}, {3, 4}}},  // What follows the last row is no piece.
+        {"M.MM", {{0, 0}, {1, 2}, {3, 3}}},
+        {".m.M", {{0, 3}}}};
+    for (const auto& [column, pieces] : cases) {
+        const Bytes bytes = Strip(column);
+        EXPECT_EQ(FindStripPieces(ParseBitmapFile(bytes).value()), pieces) << column;
+        Bytes topDown = Strip(std::string(column.rbegin(), column.rend()));
+        Put(topDown, 22, 0u - static_cast<std::uint32_t>(column.size()));
+        EXPECT_EQ(FindStripPieces(ParseBitmapFile(topDown).value()), pieces) << column;
     }
 }
 
 TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
     // Numbers of the header of a file with 3 rows of 4 pixels.
-    struct Case {
-        std::size_t offset;
-        std::vector<std::uint32_t> refused;
-    };
-    for (const Case& c : {
-             Case{10, {53, 55, 0xFFFFFFFF}},            // where the pixels are
-             Case{14, {12, 39}},                        // the header's size
-             Case{18, {0, 5, 0x55555556, 0xFFFFFFFC}},  // the width
-             Case{22, {0, 4, 0x7FFFFFFF, 0x80000000}},  // the height
-             Case{26, {0x180002, 0x10001, 0x40001, 0x80001, 0x100001, 0x200001}},  // planes, bits
-             Case{30, {1, 3}},  // the compression
-         }) {
-        for (const std::uint32_t value : c.refused) {
+    const std::pair<std::size_t, std::vector<std::uint32_t>> refusals[] = {
+        {10, {53, 55, 0xFFFFFFFF}},                                       // where the pixels are
+        {14, {12, 39}},                                                   // the header's size
+        {18, {0, 5, 0x55555556, 0xFFFFFFFC}},                             // the width
+        {22, {0, 4, 0x7FFFFFFF, 0x80000000}},                             // the height
+        {26, {0x180002, 0x10001, 0x40001, 0x80001, 0x100001, 0x200001}},  // planes, bits
+        {30, {1, 3}}};                                                    // the compression
+    for (const auto& [offset, values] : refusals) {
+        for (const std::uint32_t value : values) {
             Bytes bytes = Strip("..M");
-            Put(bytes, c.offset, value);
-            EXPECT_FALSE(ParseBitmapFile(bytes)) << c.offset << ": " << value;
+            Put(bytes, offset, value);
+            EXPECT_FALSE(ParseBitmapFile(bytes)) << offset << ": " << value;
         }
     }
     Bytes bytes = Strip("..M");

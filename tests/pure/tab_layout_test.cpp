@@ -5,22 +5,20 @@
 namespace {
 
 TEST(TabLayout, OrderOfAnyText) {
-    struct Case {
-        std::wstring stored, order;
+    const std::pair<std::wstring, std::wstring> cases[] = {
+        {L"", L"123456"},
+        {L"654321", L"654321"},
+        {L"3", L"312456"},
+        {L"754321", L"154326"},  // No tab 7: the first place stays, and so does its tab.
+        {L"112233", L"123456"},
+        {L"2,1", L"213456"},  // What stands for no tab still takes a place.
+        {L"x\xFFFF\x0661 6", L"123465"},
+        {L"6543210987", L"654321"},
+        {std::wstring(5000, L'4'), L"412356"},
     };
-    for (const Case& c : {
-             Case{L"", L"123456"},
-             Case{L"654321", L"654321"},
-             Case{L"3", L"312456"},
-             Case{L"754321", L"154326"},  // No tab 7: the first place stays, and so does its tab.
-             Case{L"112233", L"123456"},
-             Case{L"2,1", L"213456"},  // What stands for no tab still takes a place.
-             Case{L"x\xFFFF\x0661 6", L"123465"},
-             Case{L"6543210987", L"654321"},
-             Case{std::wstring(5000, L'4'), L"412356"},
-         }) {
-        EXPECT_EQ(TabLayout::Parse(0xFFFFFFFF, c.stored).Sequence(), c.order)
-            << testing::PrintToString(c.stored.substr(0, 20));
+    for (const auto& [stored, order] : cases) {
+        EXPECT_EQ(TabLayout::Parse(0xFFFFFFFF, stored).Sequence(), order)
+            << testing::PrintToString(stored.substr(0, 20));
     }
 }
 

@@ -14,20 +14,17 @@ std::wstring Letters(const TitleRows& rows) {
 }
 
 TEST(TitleRows, ListFieldsAndGiveThePatternBack) {
-    struct Case {
-        const wchar_t* pattern;
-        const wchar_t* rows;
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"p3nqrsc", L"p_nqrsca-"}, {L"n3rqsca", L"n_rqscap-"},    {L"c1n", L"c_np-r-q-s-a-"},
+        {L"2", L"_p-n-r-q-s-c-a-"}, {L"xp1yzn", L"p_nr-q-s-c-a-"},  // x, y and z stand for nothing
+                                                                    // here.
     };
-    for (const Case& c : {
-             Case{L"p3nqrsc", L"p_nqrsca-"}, Case{L"n3rqsca", L"n_rqscap-"},
-             Case{L"c1n", L"c_np-r-q-s-a-"}, Case{L"2", L"_p-n-r-q-s-c-a-"},
-             Case{L"xp1yzn", L"p_nr-q-s-c-a-"},  // x, y and z stand for nothing here.
-         }) {
+    for (const auto& [text, listed] : cases) {
         DisplayPattern pattern;
-        pattern.Parse(c.pattern);
+        pattern.Parse(text);
         const TitleRows rows(pattern);
-        EXPECT_EQ(Letters(rows), c.rows);
-        EXPECT_EQ(rows.Pattern(pattern.mode).Format(), c.pattern);
+        EXPECT_EQ(Letters(rows), listed);
+        EXPECT_EQ(rows.Pattern(pattern.mode).Format(), text);
     }
 }
 
