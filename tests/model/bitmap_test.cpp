@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <fstream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ struct BitmapCase {
     std::vector<std::uint32_t> masks;
     std::vector<std::uint8_t> table;
     std::vector<std::uint8_t> rows;
-    std::vector<COLORREF> colors;  // Top left, top right and so on; none when it must be refused.
+    std::string colors;  // "RGBW": top left, top right and so on; none when it must be refused.
 };
 
 std::string FileOf(const BitmapCase& bitmap) {
@@ -42,14 +43,20 @@ std::string FileOf(const BitmapCase& bitmap) {
     return bytes.append(bitmap.rows.begin(), bitmap.rows.end());
 }
 
-std::vector<COLORREF> LoadColors(const std::string& file) {
+// Red, green, blue, white, 0 for black, D for one dimmed.
+std::string LoadColors(const std::string& file) {
     std::ofstream("\\test.bmp", std::ios::binary) << file;
     const HBITMAP bitmap = SHLoadDIBitmap(L"\\test.bmp");
-    std::vector<COLORREF> colors;
+    std::string colors;
     if (!bitmap) return colors;
     const HDC dc = CreateCompatibleDC(nullptr);
     const HGDIOBJ old = SelectObject(dc, bitmap);
-    for (int i = 0; i < 4; ++i) colors.push_back(GetPixel(dc, i % 2, i / 2));
+    const std::map<COLORREF, char> names = {{0xFF, 'R'},     {0xFF00, 'G'}, {0xFF0000, 'B'},
+                                            {0xFFFFFF, 'W'}, {0, '0'},      {0xAA2455, 'D'}};
+    for (int i = 0; i < 4; ++i) {
+        const auto name = names.find(GetPixel(dc, i % 2, i / 2));
+        colors += name == names.end() ? '?' : name->second;
+    }
     SelectObject(dc, old);
     DeleteDC(dc);
     DeleteObject(bitmap);
@@ -57,93 +64,33 @@ std::vector<COLORREF> LoadColors(const std::string& file) {
 }
 
 TEST(Bitmaps, AreDecodedAtEveryDepthAndInEveryOrder) {
-    constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255);
-    constexpr COLORREF kDim = RGB(0x55, 0x24, 0xAA);
-    const std::vector<std::uint8_t> rgbw = {0,   0, 255, 0, 0,   255, 0,   0,
-                                            255, 0, 0,   0, 255, 255, 255, 0};
-    const std::vector<std::uint8_t> redAndGreen = {0, 0, 255, 0, 255, 0};
-    const std::vector<COLORREF> all = {kRed, kGreen, kBlue, RGB(255, 255, 255)};
-    const std::vector<COLORREF> turned = {kBlue, RGB(255, 255, 255), kRed, kGreen};
+    using Bytes = std::vector<std::uint8_t>;
+    const Bytes rgbw = {0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0, 255, 255, 255, 0};
+    const Bytes redGreen3 = {0, 0, 255, 0, 255, 0}, redGreen4 = {0, 0, 255, 0, 0, 255, 0, 0};
+    const Bytes bits1 = {0x40, 0, 0, 0, 0x80, 0, 0, 0}, nibbles = {0x01, 0, 0, 0, 0x23, 0, 0, 0};
+    const Bytes tooMany = {0x01, 0, 0, 0, 0xF3, 0, 0, 0}, bytes8 = {0, 1, 0, 0, 2, 3, 0, 0};
+    const Bytes rgbw555 = {0x00, 0x7C, 0xE0, 0x03, 0x1F, 0x00, 0xFF, 0x7F};
+    const Bytes rgbw565 = {0x00, 0xF8, 0xE0, 0x07, 0x1F, 0x00, 0xFF, 0xFF};
+    const Bytes few = {0x45, 0x01, 0x45, 0x01, 0x03, 0, 0xFF, 0x01}, zeros(8);
+    const Bytes rgbw24 = {0, 0, 255, 0, 255, 0, 9, 9, 255, 0, 0, 255, 255, 255, 9, 9};
+    const Bytes rgbw10 = {0, 0, 0xF0, 0x3F, 0, 0xFC, 0xF, 0, 0xFF, 3, 0, 0, 255, 255, 255, 255};
     const std::vector<BitmapCase> cases = {
-        {"1, core",
-         12,
-         2,
-         1,
-         {},
-         redAndGreen,
-         {0x40, 0, 0, 0, 0x80, 0, 0, 0},
-         {kGreen, kRed, kRed, kGreen}},
-        {"1, top down",
-         40,
-         -2,
-         1,
-         {},
-         {0, 0, 255, 0, 0, 255, 0, 0},
-         {0x40, 0, 0, 0, 0x80, 0, 0, 0},
-         {kRed, kGreen, kGreen, kRed}},
-        {"4", 40, 2, 4, {}, rgbw, {0x01, 0, 0, 0, 0x23, 0, 0, 0}, turned},
-        {"4, no such colour",
-         40,
-         2,
-         4,
-         {},
-         rgbw,
-         {0x01, 0, 0, 0, 0xF3, 0, 0, 0},
-         {0, RGB(255, 255, 255), kRed, kGreen}},
-        {"8, top down", 40, -2, 8, {}, rgbw, {0, 1, 0, 0, 2, 3, 0, 0}, all},
-        {"16", 40, 2, 16, {}, {}, {0x00, 0x7C, 0xE0, 0x03, 0x1F, 0x00, 0xFF, 0x7F}, turned},
-        {"16, top down, 565",
-         40,
-         -2,
-         16,
-         {0xF800, 0x7E0, 0x1F},
-         {},
-         {0x00, 0xF8, 0xE0, 0x07, 0x1F, 0x00, 0xFF, 0xFF},
-         all},
-        {"16, 2 to 4 bits",
-         40,
-         2,
-         16,
-         {0x3, 0x1C, 0x1E0},
-         {},
-         {0x45, 0x01, 0x45, 0x01, 0x03, 0, 0xFF, 0x01},
-         {kRed, RGB(255, 255, 255), kDim, kDim}},
-        {"24, core",
-         12,
-         2,
-         24,
-         {},
-         {},
-         {0, 0, 255, 0, 255, 0, 9, 9, 255, 0, 0, 255, 255, 255, 9, 9},
-         turned},
-        {"32, top down", 40, -2, 32, {}, {}, rgbw, all},
-        {"32, longer header, channels the other way round",
-         56,
-         2,
-         32,
-         {0xFF, 0xFF00, 0xFF0000},
-         {},
-         rgbw,
-         {kRed, RGB(255, 255, 255), kBlue, kGreen}},
-        {"32, more than 8 bits",
-         40,
-         -2,
-         32,
-         {0x3FF00000, 0xFFC00, 0x3FF},
-         {},
-         {0, 0, 0xF0, 0x3F, 0, 0xFC, 0xF, 0, 0xFF, 3, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF},
-         all},
-        {"masks with a gap", 40, 2, 16, {0xF100, 0x7E, 0x1}, {}, {0, 0, 0, 0, 0, 0, 0, 0}, {}},
-        {"masks over each other",
-         40,
-         2,
-         16,
-         {0xF800, 0xFE0, 0x1F},
-         {},
-         {0, 0, 0, 0, 0, 0, 0, 0},
-         {}},
-        {"2", 40, 2, 2, {}, rgbw, {0, 0, 0, 0, 0, 0, 0, 0}, {}},
-        {"longer table than pixels can name", 40, 2, 1, {}, rgbw, {0, 0, 0, 0, 0, 0, 0, 0}, {}},
+        {"1, core", 12, 2, 1, {}, redGreen3, bits1, "GRRG"},
+        {"1, top down", 40, -2, 1, {}, redGreen4, bits1, "RGGR"},
+        {"4", 40, 2, 4, {}, rgbw, nibbles, "BWRG"},
+        {"4, no such colour", 40, 2, 4, {}, rgbw, tooMany, "0WRG"},
+        {"8, top down", 40, -2, 8, {}, rgbw, bytes8, "RGBW"},
+        {"16", 40, 2, 16, {}, {}, rgbw555, "BWRG"},
+        {"16, top down, 565", 40, -2, 16, {0xF800, 0x7E0, 0x1F}, {}, rgbw565, "RGBW"},
+        {"16, 2 to 4 bits", 40, 2, 16, {0x3, 0x1C, 0x1E0}, {}, few, "RWDD"},
+        {"24, core", 12, 2, 24, {}, {}, rgbw24, "BWRG"},
+        {"32, top down", 40, -2, 32, {}, {}, rgbw, "RGBW"},
+        {"longer header, channels turned", 56, 2, 32, {0xFF, 0xFF00, 0xFF0000}, {}, rgbw, "RWBG"},
+        {"more than 8 bits", 40, -2, 32, {0x3FF00000, 0xFFC00, 0x3FF}, {}, rgbw10, "RGBW"},
+        {"masks with a gap", 40, 2, 16, {0xF100, 0x7E, 0x1}, {}, zeros, ""},
+        {"masks over each other", 40, 2, 16, {0xF800, 0xFE0, 0x1F}, {}, zeros, ""},
+        {"2", 40, 2, 2, {}, rgbw, zeros, ""},
+        {"longer table than pixels can name", 40, 2, 1, {}, rgbw, zeros, ""},
     };
     for (std::size_t i = 0; i < cases.size(); ++i) {
         const std::string file = FileOf(cases[i]);

@@ -10,6 +10,7 @@
 #include "settings/install_path.h"
 #include "settings/settings_key.h"
 #include "tests/model/devicectl.h"
+#include "tests/windows.h"
 
 namespace {
 
@@ -22,21 +23,14 @@ struct Listener : CategoryListener {
         changes.emplace_back(change, index);
     }
     Changes Await(std::size_t count) {
-        const DWORD start = GetTickCount();
-        MSG message;
-        while (changes.size() < count && GetTickCount() - start < 10'000) {
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_ALLINPUT);
-        }
+        Until([&] { return changes.size() >= count; });
         return std::exchange(changes, {});
     }
     Changes changes;
 };
 
 std::uint32_t Stored(const wchar_t* value) {
-    const std::wstring key = std::wstring(kProductKey) + L"\\Colors";
-    return CSettingsKey(HKEY_LOCAL_MACHINE, key.c_str(), true, true)
-        .ReadDword(value, SETTINGS_NO_DEFAULT);
+    return OpenProductKey(L"Colors").ReadDword(value, SETTINGS_NO_DEFAULT);
 }
 
 bool Change(const std::wstring& command, const std::wstring& values) {
@@ -56,8 +50,7 @@ std::wstring Values(const wchar_t* name, bool whole = true) {
 
 TEST(Categories, HaveIconsAndColorsByTheirNames) {
     {
-        const std::wstring colors = std::wstring(kProductKey) + L"\\Colors";
-        CSettingsKey key(HKEY_LOCAL_MACHINE, colors.c_str(), true, true);
+        CSettingsKey key = OpenProductKey(L"Colors");
         key.WriteDword(L"Business", 0x64FF0000);
         key.WriteDword(L"Personal", 0x64009300);
         key.WriteDword(L"Work/Home", 0x322068FF);

@@ -15,6 +15,7 @@
 #include "base/scale.h"
 #include "controls/dialog.h"
 #include "settings/install_path.h"
+#include "tests/windows.h"
 
 namespace {
 
@@ -23,11 +24,6 @@ constexpr int kOther = 4401;
 constexpr int kList = 4402;
 using Commands = std::vector<std::pair<int, int>>;
 constexpr UINT kTurnAway = WM_APP;
-
-void Pump() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
 
 class TestDialog : public Dialog {
   public:
@@ -77,6 +73,7 @@ class TestDialog : public Dialog {
 };
 
 TEST(ColorButton, ChoosesAColorFromItsGrid) {
+    // A key, which goes where the focus is, or what the grid's window is told.
     struct Step {
         UINT message;
         WPARAM wParam = 0;
@@ -90,35 +87,30 @@ TEST(ColorButton, ChoosesAColorFromItsGrid) {
         bool chosen;
     };
     const auto point = [](int x, int y) { return MAKELPARAM(ScaleX(x), ScaleY(y)); };
-    const auto key = [](WPARAM code) { return Step{WM_KEYDOWN, code}; };
+    const Step right = {WM_KEYDOWN, VK_RIGHT}, down = {WM_KEYDOWN, VK_DOWN};
+    const Step up = {WM_KEYDOWN, VK_UP}, enter = {WM_KEYDOWN, VK_RETURN}, lift = {WM_LBUTTONUP};
+    const auto tap = [&](int x, int y) { return Step{WM_LBUTTONDOWN, 0, point(x, y)}; };
     const Commands told = {{kButton, 0x400}};
     TestDialog dialog;
     dialog.Open();
     const HWND grid = FindWindowW(L"LumDiaryColorsListWnd.0", nullptr);
     ASSERT_NE(grid, nullptr);
     EXPECT_EQ(SendMessageW(grid, WM_GETDLGCODE, 0, 0), DLGC_WANTALLKEYS);
-    for (const Case& c : {
-             Case{"keys", kNoColor, {key(VK_RIGHT), key(VK_DOWN), key(VK_RETURN)}, 0x2068FF, true},
-             Case{"the edge",
-                  0x282828,
-                  {key(VK_RIGHT), key(VK_UP), key(VK_DOWN), key(VK_RETURN)},
-                  0x666666,
-                  true},
-             Case{"past the last",
-                  0xFF,
-                  {{WM_LBUTTONDOWN, 0, point(145, 91)}, {WM_LBUTTONUP}},
-                  0xFFFFFF,
-                  true},
-             Case{"none", 0xFF, {{WM_LBUTTONDOWN, 0, point(5, 5)}, {WM_LBUTTONUP}}, kNoColor, true},
-             Case{"the same again", 0xFF, {key(VK_RETURN)}, 0xFF, true},
-             Case{"Escape", 0xFF, {key(VK_LEFT), key(VK_ESCAPE)}, 0xFF, false},
-             Case{"a tap elsewhere", 0xFF, {{WM_LBUTTONDOWN, 0, point(-9, -9)}}, 0xFF, false},
-             Case{"a colour that is not there", 0x123456, {key(VK_RETURN)}, 0x123456, false},
-             Case{"closed", 0xFF, {{WM_CLOSE}}, 0xFF, false},
-         }) {
+    const std::vector<Case> cases = {
+        {"keys", kNoColor, {right, down, enter}, 0x2068FF, true},
+        {"the edge", 0x282828, {right, up, down, enter}, 0x666666, true},
+        {"past the last", 0xFF, {tap(145, 91), lift}, 0xFFFFFF, true},
+        {"none", 0xFF, {tap(5, 5), lift}, kNoColor, true},
+        {"the same again", 0xFF, {enter}, 0xFF, true},
+        {"Escape", 0xFF, {right, {WM_KEYDOWN, VK_ESCAPE}}, 0xFF, false},
+        {"a tap elsewhere", 0xFF, {tap(-9, -9)}, 0xFF, false},
+        {"a colour that is not there", 0x123456, {enter}, 0x123456, false},
+        {"closed", 0xFF, {{WM_CLOSE}}, 0xFF, false},
+    };
+    for (const Case& c : cases) {
         dialog.button.SetColor(c.before);
         for (const Step& step : c.steps) {
-            const bool isKey = step.message == WM_KEYDOWN;  // which goes where the focus is
+            const bool isKey = step.message == WM_KEYDOWN;
             PostMessageW(isKey ? dialog.button.hwnd() : grid, step.message, step.wParam,
                          step.lParam);
         }

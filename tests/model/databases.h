@@ -14,6 +14,11 @@ inline constexpr CEPROPID kText = PropertyId(1, CEVT_LPWSTR);
 inline constexpr CEPROPID kNumber = PropertyId(2, CEVT_I2);
 inline const DWORD kKind = IsNewerPocketPc() ? EDB_MOUNT_FLAG : 0;
 
+// Expects a call to fail with an error.
+#define EXPECT_ERROR(call, error) \
+    EXPECT_FALSE(call);           \
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(error))
+
 inline BOOL Mount(const wchar_t* path, DWORD flags, CEGUID& guid) {
     SetLastError(ERROR_SUCCESS);
     return CeMountDBVol(&guid, const_cast<LPWSTR>(path), flags);

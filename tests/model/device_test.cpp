@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "pocketpc/include/sipapi.h"
+#include "tests/windows.h"
 
 namespace {
 
@@ -27,6 +28,11 @@ LSTATUS Create(HKEY root, const std::wstring& path) {
         RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, 0, nullptr, &key, &disposition);
     if (status == ERROR_SUCCESS) RegCloseKey(key);
     return status;
+}
+
+HWND CreateEdit(DWORD style, HWND parent = nullptr, DWORD extendedStyle = 0) {
+    return CreateWindowExW(extendedStyle, L"EDIT", L"", style, 0, 30, 90, 90, parent, nullptr,
+                           nullptr, nullptr);
 }
 
 class Registry : public ::testing::Test {
@@ -175,34 +181,26 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     PROCESS_INFORMATION process = {};
     wchar_t arguments[] = L"Missing.htm#anchor";
     wchar_t folder[] = L"\\";
-    EXPECT_FALSE(CreateProcessW(L"NoSuchProgram", arguments, nullptr, nullptr, FALSE, 0, nullptr,
-                                nullptr, nullptr, &process));
+    const auto start = [&](const wchar_t* program, wchar_t* folder) {
+        SetLastError(ERROR_SUCCESS);
+        // A console, if the viewer wanted one, would be a window of its own.
+        return CreateProcessW(program, arguments, nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE,
+                              nullptr, folder, nullptr, &process);
+    };
+    EXPECT_FALSE(start(L"NoSuchProgram", nullptr));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
-    EXPECT_FALSE(CreateProcessW(nullptr, arguments, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                nullptr, &process));
-    EXPECT_FALSE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, 0, nullptr, folder,
-                                nullptr, &process));
-    const HWND asking = CreateWindowExW(0, L"EDIT", L"", WS_POPUP | WS_VISIBLE, 0, 30, 90, 90,
-                                        nullptr, nullptr, nullptr, nullptr);
+    EXPECT_FALSE(start(nullptr, nullptr) || start(L"PegHelp", folder));
+    const HWND asking = CreateEdit(WS_POPUP | WS_VISIBLE);
     ASSERT_TRUE(SetForegroundWindow(asking));
-    // A console, if the viewer wanted one, would be a window of its own.
-    ASSERT_TRUE(CreateProcessW(L"PegHelp", arguments, nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE,
-                               nullptr, nullptr, nullptr, &process));
-    constexpr DWORD kReadingTime = 300;  // Focus has settled before a person can answer.
-    const DWORD start = GetTickCount();
-    DWORD said = 0;
-    while ((WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT ||
-            GetForegroundWindow() != asking) &&
-           GetTickCount() - start < 10'000) {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-        const HWND box = FindWindowW(L"#32770", L"Help");
-        if (!box || !IsWindowVisible(box)) continue;
-        if (!said) said = GetTickCount();
-        if (GetTickCount() - said > kReadingTime) PostMessageW(box, WM_COMMAND, IDOK, 0);
-    }
-    EXPECT_NE(said, 0u);
-    EXPECT_EQ(GetForegroundWindow(), asking);
+    ASSERT_TRUE(start(L"PegHelp", nullptr));
+    HWND box = nullptr;
+    EXPECT_TRUE(Until([&] { return IsWindowVisible(box = FindWindowW(L"#32770", L"Help")); }));
+    Sleep(300);  // Focus has settled before a person can answer.
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(Until([&] {
+        return WaitForSingleObject(process.hProcess, 0) == WAIT_OBJECT_0 &&
+               GetForegroundWindow() == asking;
+    }));
     DestroyWindow(asking);
     DWORD code = 0;
     EXPECT_TRUE(GetExitCodeProcess(process.hProcess, &code));
@@ -214,14 +212,10 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
 }
 
 TEST(Device, HidesTheDesktopsMannersAboutWindows) {
-    const HINSTANCE instance = GetModuleHandleW(nullptr);
-    const HWND window = CreateWindowExW(0x40, L"EDIT", L"", WS_OVERLAPPED, 0, 30, 100, 100, nullptr,
-                                        nullptr, instance, nullptr);
+    const HWND window = CreateEdit(WS_OVERLAPPED, nullptr, 0x40);
     ASSERT_NE(window, nullptr);
     EXPECT_FALSE(GetWindowLongW(window, GWL_STYLE) & WS_CAPTION);
-    EXPECT_NE(CreateWindowExW(0x40, L"EDIT", L"", WS_CHILD, 0, 0, 9, 9, window, nullptr, instance,
-                              nullptr),
-              nullptr);
+    EXPECT_NE(CreateEdit(WS_CHILD, window, 0x40), nullptr);
     ShowWindow(window, SW_SHOW);
     const auto withLowBit = reinterpret_cast<HWND>(reinterpret_cast<ULONG_PTR>(window) | 1);
     EXPECT_TRUE(SetForegroundWindow(withLowBit));
@@ -232,19 +226,11 @@ TEST(Device, HidesTheDesktopsMannersAboutWindows) {
 
 TEST(Device, HasTheTodayScreenAsTheDesktopsFirstChild) {
     EXPECT_EQ(GetWindow(GetDesktopWindow(), GW_CHILD), nullptr);
-    WNDCLASSW windowClass = {};
-    windowClass.lpfnWndProc = DefWindowProcW;
-    windowClass.hInstance = GetModuleHandleW(nullptr);
-    windowClass.lpszClassName = L"DesktopExplorerWindow";
-    RegisterClassW(&windowClass);
-    const HWND today = CreateWindowExW(0, windowClass.lpszClassName, L"", WS_POPUP, 0, 0, 9, 9,
-                                       nullptr, nullptr, windowClass.hInstance, nullptr);
-    const HWND above = CreateWindowExW(0, L"EDIT", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr,
-                                       nullptr, windowClass.hInstance, nullptr);
+    const HWND today = MakeWindow(L"DesktopExplorerWindow", DefWindowProcW);
+    const HWND above = CreateEdit(WS_POPUP | WS_VISIBLE);
     EXPECT_EQ(GetWindow(GetDesktopWindow(), GW_CHILD), today);
     EXPECT_EQ(GetWindow(today, GW_CHILD), nullptr);
-    const HWND child = CreateWindowExW(0, L"EDIT", L"", WS_CHILD, 0, 0, 9, 9, today, nullptr,
-                                       windowClass.hInstance, nullptr);
+    const HWND child = CreateEdit(WS_CHILD, today);
     EXPECT_EQ(GetWindow(today, GW_CHILD), child);
     DestroyWindow(above);
     DestroyWindow(today);

@@ -11,9 +11,11 @@
 #include "appearance/drawing/fonts.h"
 #include "appearance/drawing/theme_colors.h"
 #include "appearance/skins/skin_art.h"
+#include "base/read_file.h"
 #include "settings/diary_settings.h"
 #include "settings/keyboard_layouts.h"
 #include "settings/settings_key.h"
+#include "tests/windows.h"
 
 namespace {
 
@@ -92,6 +94,10 @@ TEST_F(Exporter, BringsATreeBack) {
     // What cannot be read as a number is exported as one that says so.
     Put(L"", L"TooLong", REG_DWORD, "12345678"sv);
     ASSERT_TRUE(Export());
+    const auto bytes = ReadWholeFile(kFile).value();
+    const std::string text(bytes.begin(), bytes.end());
+    EXPECT_LT(text.find("E\0m\0p"sv), text.find("B\0y\0t"sv))
+        << "a key's values come before its keys";
 
     DeleteKeyTree(HKEY_LOCAL_MACHINE, kTree);
     Put(L"", L"Stays", REG_DWORD, "\1\0\0\0"sv);
@@ -134,11 +140,7 @@ TEST_F(Exporter, ImportEndsWhereTheRegistryDoes) {
         file.insert(file.end(), {4, 0, 4, 7});
         file.insert(file.end(), static_cast<std::size_t>(levels), 3);
         file.push_back(1);
-        const HANDLE handle =
-            CreateFileW(kFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-        DWORD written = 0;
-        WriteFile(handle, file.data(), static_cast<DWORD>(file.size() * 4), &written, nullptr);
-        CloseHandle(handle);
+        WriteBytes(kFile, file.data(), file.size() * 4);
         return RegistryExporter().Import(kFile);
     };
     EXPECT_TRUE(import(0x80000002, 14));

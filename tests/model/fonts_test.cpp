@@ -26,30 +26,25 @@ TEST(Fonts, ListFontsFollowTheSettings) {
     // A fresh device has the system's font, and notes the default of whoever draws.
     EXPECT_EQ(Describe(ListFont(FontStyle::kNormal)).lfHeight, ListFontSettings::OfSystem().height);
     EXPECT_EQ(OpenProductKey().ReadDword(L"ClearType", 9), 0u);
-    {
-        CSettingsKey key = OpenProductKey();
-        key.WriteDword(L"UseSystem", 0);
-        key.WriteDword(L"FontHeight", 16);
-        key.WriteDword(L"ClearType", 1);
-        key.WriteString(L"FontName", L"A face of more than thirty-two characters");
+    for (const auto& [name, value] :
+         {std::pair{L"UseSystem", 0}, {L"FontHeight", 16}, {L"ClearType", 1}}) {
+        OpenProductKey().WriteDword(name, value);
     }
+    OpenProductKey().WriteString(L"FontName", L"A face of more than thirty-two characters");
     EXPECT_NE(Describe(ListFont(FontStyle::kNormal)).lfHeight, 16) << "not from the cache";
     ResetListFonts();
-    struct Case {
-        FontStyle style;
-        bool strikeOut;
-        LONG weight;
-        bool italic;
-    };
-    for (const Case& c :
-         {Case{FontStyle::kNormal, false, 400, false}, Case{FontStyle::kBold, true, 700, false},
-          Case{FontStyle::kItalic, false, 400, true}, Case{FontStyle::kItalic, true, 400, false}}) {
-        const LOGFONTW font = Describe(ListFont(c.style, c.strikeOut));
+    const std::tuple<FontStyle, bool, LONG, bool> cases[] = {
+        {FontStyle::kNormal, false, 400, false},
+        {FontStyle::kBold, true, 700, false},
+        {FontStyle::kItalic, false, 400, true},
+        {FontStyle::kItalic, true, 400, false}};
+    for (const auto& [style, strikeOut, weight, italic] : cases) {
+        const LOGFONTW font = Describe(ListFont(style, strikeOut));
         EXPECT_EQ(font.lfHeight, 16);
         EXPECT_EQ(font.lfQuality, CLEARTYPE_QUALITY);
-        EXPECT_EQ(font.lfWeight, c.weight);
-        EXPECT_EQ(font.lfItalic != 0, c.italic);
-        EXPECT_EQ(font.lfStrikeOut != 0, c.strikeOut);
+        EXPECT_EQ(font.lfWeight, weight);
+        EXPECT_EQ(font.lfItalic != 0, italic);
+        EXPECT_EQ(font.lfStrikeOut != 0, strikeOut);
         EXPECT_EQ(std::wstring(font.lfFaceName), L"A face of more than thirty-two ");
     }
     ResetListFonts();

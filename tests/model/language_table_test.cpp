@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "app/language/module.h"
-#include "base/owned_handle.h"
 #include "resources/ids.h"
+#include "tests/windows.h"
 
 namespace {
 
@@ -26,15 +26,9 @@ class Language : public ::testing::Test {
     void SetUp() override { DeleteFileW(kFile); }
 
     void LoadLines(const std::wstring& lines) {
-        WriteText(L"\xFEFF" + lines);
+        const std::wstring text = L"\xFEFF" + lines;
+        ASSERT_TRUE(WriteBytes(kFile, text.data(), text.size() * sizeof(wchar_t)));
         ASSERT_TRUE(table.Load(kFile));
-    }
-    static void WriteText(const std::wstring& text) {
-        const OwnedFile file(
-            CreateFileW(kFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-        DWORD written = 0;
-        ASSERT_TRUE(
-            WriteFile(file.get(), text.data(), text.size() * sizeof(wchar_t), &written, nullptr));
     }
     static HWND CreateControl(const wchar_t* className, const wchar_t* text, DWORD style,
                               HWND parent) {

@@ -158,18 +158,6 @@ TEST_F(MailFilters, TablesGiveFewRowsAndNoCount) {
         const MapiRows owner(rows);
         EXPECT_EQ(rows ? static_cast<int>(rows->cRows) : -1, given) << asked;
     }
-    const std::vector<std::uint8_t> identifier = mail.nodes()[0].identifier;
-    LPMDB store = nullptr;
-    ASSERT_EQ(session->OpenMsgStore(0, static_cast<ULONG>(identifier.size()), EntryOf(identifier),
-                                    nullptr, 0, &store),
-              S_OK);
-    const MapiPointer<IMsgStore> storeOwner(store);
-    for (const ULONG flags : {0ul, MAPI_UNICODE, ~0ul}) {
-        MapiTags tags({PR_DISPLAY_NAME_W});
-        LPSPropValue values = nullptr;
-        EXPECT_EQ(store->GetProps(tags.get(), flags, &count, &values), S_OK) << flags;
-        EXPECT_EQ(MapiRecord(MapiValues(values).get(), count).Text(0), L"A") << flags;
-    }
 }
 
 // The key that names a storage is part of its folders' identifiers.
@@ -253,10 +241,7 @@ TEST_F(MailFilters, ReleaseEverythingWhateverFails) {
             Try(L"FailCall", fail);
             const std::wstring tree = Tree();
             calls = ReportedCalls();
-            EXPECT_LE(tree.size(), whole.size()) << fail;
-            if (fail > calls) {
-                EXPECT_EQ(tree, whole);
-            }
+            EXPECT_TRUE(fail > calls ? tree == whole : tree.size() <= whole.size()) << fail;
         }
     }
 }
@@ -297,7 +282,6 @@ TEST_F(MailFilters, OfOneNameAreOne) {
 }
 
 TEST_F(MailFilters, AreStoredAndLoaded) {
-    const std::wstring path = std::wstring(kProductKey) + L"\\MailFilters";
     CMailFoldersFilters filters;
     EXPECT_FALSE(filters.Load(false)) << "nothing is stored yet";
     filters.filters() = {{L"b", {{{{1, 2}, true}, L"One"}}},
@@ -305,16 +289,13 @@ TEST_F(MailFilters, AreStoredAndLoaded) {
                          {L"A", {{{{3}, false}, L"Two"}}},
                          {L"long", {{{{4}, false}, std::wstring(300, L'n')}}},
                          {L"large", {{{std::vector<std::uint8_t>(256), false}, L"Three"}}}};
-    {
-        CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
-        key.WriteBinary(L"gone", "M\1\7\1x", 6);
-    }
+    OpenProductKey(L"MailFilters").WriteBinary(L"gone", "M\1\7\1x", 6);
     EXPECT_EQ(filters.SortedIndices(), (std::vector<int>{2, 0, 4, 3}));
     EXPECT_EQ(filters.FindByName(L"LONG"), 3);
     EXPECT_EQ(filters.FindByName(L"lon"), -1);
     filters.Save();
     {
-        CSettingsKey key(HKEY_LOCAL_MACHINE, path.c_str(), false, false);
+        CSettingsKey key = OpenProductKey(L"MailFilters");
         std::uint8_t bytes[64];
         DWORD size = sizeof bytes;
         ASSERT_TRUE(key.ReadBinary(L"b", bytes, &size));

@@ -8,19 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "tests/windows.h"
+
 namespace {
-
-constexpr int kBar = 26;
-
-RECT RectOf(HWND hwnd) {
-    RECT rect = {};
-    GetWindowRect(hwnd, &rect);
-    return rect;
-}
-
-RECT WorkArea() {
-    return {0, kBar, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) - kBar};
-}
 
 // What a message box looks like while it waits; a timer's procedure closes it then.
 struct BoxOnScreen {

@@ -41,10 +41,8 @@ class Settings : public ::testing::Test {
     }
     static void Store(const wchar_t* name, DWORD type, const std::vector<BYTE>& data) {
         HKEY key = nullptr;
-        DWORD disposition = 0;
-        ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, nullptr, 0, 0, nullptr, &key,
-                                  &disposition),
-                  ERROR_SUCCESS);
+        OpenProductKey();  // makes it
+        ASSERT_EQ(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &key), ERROR_SUCCESS);
         RegSetValueExW(key, name, 0, type, data.data(), static_cast<DWORD>(data.size()));
         RegCloseKey(key);
     }
@@ -148,21 +146,15 @@ TEST_F(Settings, KeyThatDoesNotOpen) {
 
 TEST_F(Settings, DeleteKeyTree) {
     {
-        CSettingsKey a(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\A\\B\\C").c_str(), true,
-                       true);
-        CSettingsKey d(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\A\\D").c_str(), true,
-                       true);
-        a.WriteDword(L"x", 1);
+        OpenProductKey(L"A\\B\\C").WriteDword(L"x", 1);
+        OpenProductKey(L"A\\D");
     }
     EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, nullptr));
     EXPECT_TRUE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
     EXPECT_FALSE(CSettingsKey(HKEY_LOCAL_MACHINE, kProductKey, false, false).IsOpen());
     EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
-    {
-        CSettingsKey held(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\A").c_str(), true,
-                          true);
-        EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
-    }
+    const CSettingsKey held = OpenProductKey(L"A");
+    EXPECT_FALSE(DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey));
 }
 
 TEST_F(Settings, InstallPath) {
@@ -201,33 +193,24 @@ TEST_F(Settings, SaveWritesAllButTheTextOffset) {
 
 // Names are the same where a key of the registry has but one value for both.
 TEST_F(Settings, SameNamesShareAValue) {
-    struct Case {
-        std::wstring one, other;
-        bool same;
-    };
-    for (const Case& c : {
-             Case{L"\x00C4RZTE", L"\x00E4rzte", true},
-             Case{L"\x042F\x0449\x0438\x043A", L"\x044F\x0429\x0418\x041A", true},
-             Case{L"\x03A3", L"\x03C3", true},
-             Case{L"Stra\x00DF"
-                  L"e",
-                  L"STRASSE", false},
-             Case{L"\x00C4rzte", L"Arzte", false},
-             Case{L"a", L"ab", false},
-             Case{L"ab",
-                  L"a\x00AD"
-                  L"b",
-                  false},
-             Case{L"\xFF21", L"A", false},
-         }) {
+    const std::tuple<std::wstring, std::wstring, bool> cases[] = {
+        {L"\x00C4RZTE", L"\x00E4rzte", true},
+        {L"\x03A3", L"\x03C3", true},
+        {L"\x042F\x0449\x0438\x043A", L"\x044F\x0429\x0418\x041A", true},
+        {L"Stra\u00DFe", L"STRASSE", false},
+        {L"\x00C4rzte", L"Arzte", false},
+        {L"a", L"ab", false},
+        {L"ab", L"a\u00ADb", false},
+        {L"\xFF21", L"A", false}};
+    for (const auto& [one, other, same] : cases) {
         CSettingsKey key = OpenProductKey();
-        key.WriteDword(c.one.c_str(), 1);
-        key.WriteDword(c.other.c_str(), 2);
-        const bool shared = key.ReadDword(c.one.c_str(), 0) == 2;
-        EXPECT_EQ(shared, c.same) << testing::PrintToString(c.one);
-        EXPECT_EQ(IsSameName(c.one, c.other), c.same) << testing::PrintToString(c.one);
-        key.DeleteValue(c.one.c_str());
-        key.DeleteValue(c.other.c_str());
+        key.WriteDword(one.c_str(), 1);
+        key.WriteDword(other.c_str(), 2);
+        const bool shared = key.ReadDword(one.c_str(), 0) == 2;
+        EXPECT_EQ(shared, same) << testing::PrintToString(one);
+        EXPECT_EQ(IsSameName(one, other), same) << testing::PrintToString(one);
+        key.DeleteValue(one.c_str());
+        key.DeleteValue(other.c_str());
     }
 }
 

@@ -7,29 +7,16 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "tests/windows.h"
+
 namespace {
 
-constexpr int kBar = 26;
 constexpr UINT kStep = WM_APP;
-
-RECT WorkArea() {
-    return {0, kBar, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) - kBar};
-}
-
-RECT RectOf(HWND hwnd) {
-    RECT rect = {};
-    GetWindowRect(hwnd, &rect);
-    return rect;
-}
-
-void Pump() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
 
 // A program's main window, and what it was told.
 class Frame {
@@ -65,35 +52,17 @@ class Frame {
 
     static inline std::vector<int> commands;
     static inline int panelChanges = 0;
-    static inline HMENU openedMenu = nullptr;
-    static inline HMENU commandsMenu = nullptr;  // opened by any command
-    static inline COLORREF keyColor = 0;         // of the right soft key under a menu
-
-    static COLORREF RightKeyColor(HWND bar) {
-        const HDC dc = GetDC(bar);
-        const COLORREF color = GetPixel(dc, GetSystemMetrics(SM_CXSCREEN) - 4, kBar / 2);
-        ReleaseDC(bar, dc);
-        return color;
-    }
 
   private:
     static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
-            case WM_COMMAND:
-                commands.push_back(LOWORD(wParam));
-                if (commandsMenu) TrackPopupMenuEx(commandsMenu, 0, 9, 99, hwnd, nullptr);
-                return 0;
+            case WM_COMMAND: commands.push_back(LOWORD(wParam)); return 0;
             case WM_SETTINGCHANGE: {
                 static SHACTIVATEINFO info = {sizeof info, nullptr, 0, 0, 0, 0};
                 panelChanges += wParam == SPI_SETSIPINFO;
                 SHHandleWMSettingChange(hwnd, wParam, lParam, &info);
                 return 0;
             }
-            case WM_INITMENUPOPUP:
-                keyColor = RightKeyColor(SHFindMenuBar(hwnd));
-                openedMenu = reinterpret_cast<HMENU>(wParam);
-                EndMenu();
-                return 0;
         }
         return DefWindowProcW(hwnd, message, wParam, lParam);
     }
@@ -126,43 +95,28 @@ TEST(MenuBar, AnswersAsAToolBar) {
     info.dwMask = TBIF_TEXT | TBIF_LPARAM;
     info.pszText = text;
     info.cchText = 32;
-    const auto address = reinterpret_cast<LPARAM>(&info);
-    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, buttons[0].idCommand, address), 0);
+    const auto get = [&](DWORD mask, int button) {
+        info.dwMask = mask;
+        return SendMessageW(bar, TB_GETBUTTONINFOW, button, reinterpret_cast<LPARAM>(&info));
+    };
+    EXPECT_EQ(get(TBIF_TEXT | TBIF_LPARAM, buttons[0].idCommand), 0);
     EXPECT_STREQ(text, L"Edit");
     EXPECT_EQ(GetMenuItemID(reinterpret_cast<HMENU>(info.lParam), 0), 201u);
-    info.dwMask = TBIF_TEXT | TBIF_LPARAM | TBIF_BYINDEX;
-    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 1, address), 1);
+    EXPECT_EQ(get(TBIF_TEXT | TBIF_LPARAM | TBIF_BYINDEX, 1), 1);
     EXPECT_STREQ(text, L"Close");
     EXPECT_EQ(info.lParam, 0u);
 
     wchar_t changed[] = L"Schlie\u00DFen";
-    info.dwMask = TBIF_TEXT;
     info.pszText = changed;
-    EXPECT_TRUE(SendMessageW(bar, TB_SETBUTTONINFOW, 202, address));
+    info.dwMask = TBIF_TEXT;
+    EXPECT_TRUE(SendMessageW(bar, TB_SETBUTTONINFOW, 202, reinterpret_cast<LPARAM>(&info)));
     info.pszText = text;
     info.cchText = 4;
-    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), 1);
+    EXPECT_EQ(get(TBIF_TEXT, 202), 1);
     EXPECT_STREQ(text, L"Sch");
     info.cbSize -= 4;
-    EXPECT_EQ(SendMessageW(bar, TB_GETBUTTONINFOW, 202, address), -1);
+    EXPECT_EQ(get(TBIF_TEXT, 202), -1);
     EXPECT_FALSE(SendMessageW(bar, TB_GETBUTTON, 2, reinterpret_cast<LPARAM>(&buttons[0])));
-}
-
-TEST(MenuBar, LightsTheKeyWhoseCommandOpensAMenu) {
-    const Frame frame;
-    const HWND bar = frame.CreateMenuBar(SHCMBF_HMENU);
-    Pump();
-    const COLORREF dark = Frame::RightKeyColor(bar);
-    Frame::commandsMenu = CreatePopupMenu();
-    AppendMenuW(Frame::commandsMenu, MF_STRING, 301, L"One");
-    Click(bar, GetSystemMetrics(SM_CXSCREEN) - 20, kBar / 2);
-    EXPECT_EQ(Frame::openedMenu, Frame::commandsMenu);
-    EXPECT_NE(Frame::keyColor, dark);
-    EXPECT_EQ(Frame::RightKeyColor(bar), dark);
-    // A menu that no soft key has asked for.
-    TrackPopupMenuEx(Frame::commandsMenu, 0, 9, 99, frame.hwnd(), nullptr);
-    EXPECT_EQ(Frame::keyColor, dark);
-    DestroyMenu(std::exchange(Frame::commandsMenu, nullptr));
 }
 
 TEST(MenuBar, ShowsWithItsWindowAndDiesWithIt) {
@@ -212,21 +166,17 @@ TEST(FullScreenDialog, FillsTheWorkAreaUnlessItIsAPage) {
     SHINITDLGINFO info = {};
     info.dwMask = SHIDIM_FLAGS;
     info.dwFlags = SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
-    info.hDlg = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(103), frame.hwnd(),
-                                   NoMessages, 0);
-    ASSERT_TRUE(SHInitDialog(&info));
-    const RECT area = WorkArea(), dialog = RectOf(info.hDlg);
-    EXPECT_TRUE(EqualRect(&dialog, &area));
-    EXPECT_FALSE(GetWindowLongW(info.hDlg, GWL_STYLE) & WS_CAPTION);
-    DestroyWindow(info.hDlg);
-
-    info.hDlg = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(101), frame.hwnd(),
-                                   NoMessages, 0);
-    const RECT before = RectOf(info.hDlg);
-    EXPECT_TRUE(SHInitDialog(&info));
-    const RECT after = RectOf(info.hDlg);
-    EXPECT_TRUE(EqualRect(&before, &after));
-    EXPECT_FALSE(SHDoneButton(info.hDlg, SHDB_SHOW));
+    for (const int dialog : {103, 101}) {
+        info.hDlg = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(dialog),
+                                       frame.hwnd(), NoMessages, 0);
+        const RECT expected = dialog == 103 ? WorkArea() : RectOf(info.hDlg);
+        EXPECT_TRUE(SHInitDialog(&info));
+        const RECT area = RectOf(info.hDlg);
+        EXPECT_TRUE(EqualRect(&area, &expected)) << dialog;
+        EXPECT_EQ(SHDoneButton(info.hDlg, SHDB_SHOW) != FALSE, dialog == 103);
+        EXPECT_EQ((GetWindowLongW(info.hDlg, GWL_STYLE) & WS_CAPTION) == 0, dialog == 103);
+        DestroyWindow(info.hDlg);
+    }
 }
 
 bool PanelIsUp() {
@@ -373,20 +323,16 @@ class SheetTest : public ::testing::Test {
             return TRUE;
         }
         if (message != WM_NOTIFY) return FALSE;
-        const char* name = nullptr;
-        LRESULT result = 0;
-        switch (reinterpret_cast<const NMHDR*>(lParam)->code) {
-            case PSN_SETACTIVE: name = "setactive"; break;
-            case PSN_KILLACTIVE: name = "killactive"; break;
-            case PSN_HELP: name = "help"; break;
-            case PSN_RESET: name = "reset"; break;
-            case PSN_APPLY:
-                name = "apply";
-                if (refusals_ > 0 && refusals_--) result = PSNRET_INVALID_NOCHANGEPAGE;
-                break;
-            default: return FALSE;
-        }
-        log_ += name + std::to_string(GetWindowLongPtrW(hwnd, GWLP_USERDATA)) + " ";
+        static const std::map<UINT, std::string> names = {{PSN_SETACTIVE, "setactive"},
+                                                          {PSN_KILLACTIVE, "killactive"},
+                                                          {PSN_HELP, "help"},
+                                                          {PSN_RESET, "reset"},
+                                                          {PSN_APPLY, "apply"}};
+        const auto name = names.find(reinterpret_cast<const NMHDR*>(lParam)->code);
+        if (name == names.end()) return FALSE;
+        const bool refuses = name->first == PSN_APPLY && refusals_ > 0 && refusals_--;
+        const LRESULT result = refuses ? PSNRET_INVALID_NOCHANGEPAGE : PSNRET_NOERROR;
+        log_ += name->second + std::to_string(GetWindowLongPtrW(hwnd, GWLP_USERDATA)) + " ";
         SetWindowLongPtrW(hwnd, DWLP_MSGRESULT, result);
         return TRUE;
     }
@@ -420,13 +366,11 @@ TEST(Sheets, AreRefusedWithOtherSizes) {
 
 constexpr char kOpening[] = "version precreate initialized title link setactive1 ";
 
-TEST_F(SheetTest, ARefusedApplyKeepsTheSheet) {
+TEST_F(SheetTest, ARefusedApplyKeepsTheSheetAndKeysTurnThePages) {
     refusals_ = 1;
     EXPECT_GT(Run({[] { Press(IDOK); }, [] { log_ += "again "; }, [] { Press(IDOK); }}), 0);
-    EXPECT_EQ(log_, std::string(kOpening) + "killactive1 apply1 again killactive1 apply1 ");
-}
-
-TEST_F(SheetTest, ControlAndTabTurnThePages) {
+    EXPECT_EQ(std::exchange(log_, {}),
+              std::string(kOpening) + "killactive1 apply1 again killactive1 apply1 ");
     const auto press = [] {
         BYTE keys[256] = {};
         keys[VK_CONTROL] = 0x80;
@@ -442,32 +386,24 @@ TEST_F(SheetTest, ControlAndTabTurnThePages) {
 }
 
 TEST_F(SheetTest, MaximizedItFillsTheWorkAreaWithTabsAtTheBottom) {
-    RECT sheet = {}, page = {}, tabs = {}, firstTab = {};
-    Run({[&] {
-             sheet = RectOf(sheet_);
-             page = RectOf(Page());
-             tabs = RectOf(Tabs());
-             SendMessageW(Tabs(), TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&firstTab));
-             EXPECT_FALSE(GetWindowLongW(sheet_, GWL_STYLE) & WS_CAPTION);
-             for (const int id : {IDOK, IDCANCEL, IDHELP}) {
-                 const HWND button = GetDlgItem(sheet_, id);
-                 EXPECT_FALSE(button && IsWindowVisible(button)) << id;
-             }
-         },
-         [] { Press(IDCANCEL); }});
     const RECT area = WorkArea();
-    EXPECT_TRUE(EqualRect(&sheet, &area));
-    EXPECT_TRUE(EqualRect(&tabs, &area));
-    EXPECT_EQ(page.top, area.top);
-    EXPECT_EQ(page.right, area.right);
-    EXPECT_LE(page.bottom, area.top + firstTab.top);
-    EXPECT_GT(page.bottom, area.bottom - 30);
-}
-
-TEST_F(SheetTest, WithoutThePocketPcsVersionTheTabsStayAbove) {
-    version_ = 0;
+    const auto look = [&] {
+        RECT firstTab = {};
+        SendMessageW(Tabs(), TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&firstTab));
+        const RECT sheet = RectOf(sheet_), page = RectOf(Page()), tabs = RectOf(Tabs());
+        EXPECT_FALSE(GetWindowLongW(sheet_, GWL_STYLE) & WS_CAPTION);
+        for (const int id : {IDOK, IDCANCEL, IDHELP}) {
+            EXPECT_FALSE(IsWindowVisible(GetDlgItem(sheet_, id))) << id;
+        }
+        EXPECT_TRUE(EqualRect(&sheet, &area) && EqualRect(&tabs, &area));
+        EXPECT_TRUE(page.top == area.top && page.right == area.right);
+        EXPECT_LE(page.bottom, area.top + firstTab.top);
+        EXPECT_GT(page.bottom, area.bottom - 30);
+    };
+    EXPECT_GE(Run({look, [] { Press(IDCANCEL); }}), 0);
+    version_ = 0;  // Without the Pocket PC's version the tabs stay above.
     Run({[] { EXPECT_FALSE(GetWindowLongW(Tabs(), GWL_STYLE) & TCS_BOTTOM); },
-         [] { EXPECT_GT(RectOf(Page()).top, WorkArea().top + 10); }, [] { Press(IDCANCEL); }});
+         [&] { EXPECT_GT(RectOf(Page()).top, area.top + 10); }, [] { Press(IDCANCEL); }});
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "appearance/skins/skin_art.h"
 #include "base/scale.h"
 #include "settings/settings_key.h"
+#include "tests/windows.h"
 
 namespace {
 
@@ -17,9 +18,7 @@ const std::wstring kArchives = L"Z:" ARCHIVES L"/";
 const std::wstring kSkins = L"\\Program Files\\Lum Diary\\Skins\\";
 
 void Write(const std::wstring& path, const Bytes& bytes) {
-    const OwnedFile file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, 0));
-    DWORD written = 0;
-    ASSERT_TRUE(WriteFile(file.get(), bytes.data(), bytes.size(), &written, nullptr));
+    ASSERT_TRUE(WriteBytes(path, bytes.data(), bytes.size()));
 }
 
 Bytes Read(const std::wstring& folder, const std::string& name) {
