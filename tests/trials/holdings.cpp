@@ -124,10 +124,7 @@ void Holdings::Restore() const {
     for (const auto& [path, bytes] : files) {
         const auto found = now.files.find(path);
         if (found != now.files.end() && found->second == bytes) continue;
-        const OwnedFile file(
-            CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-        DWORD written = 0;
-        WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+        WriteBytes(path, bytes.data(), bytes.size());
     }
 }
 

@@ -71,17 +71,6 @@ Outcome WalkSheet(const Program& program, int entry, unsigned shown, const Stori
     return {Ok(sheet)};
 }
 
-void Press(HWND window, std::initializer_list<WPARAM> keys) {
-    for (const WPARAM key : keys) PostMessageW(window, WM_KEYDOWN, key, 0);
-}
-
-GUITHREADINFO StateOf(HWND window) {
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-    return info;
-}
-
 void UseColors(HWND dialog) {
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_CATEGORY_COLOR, BN_CLICKED),
                  reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_CATEGORY_COLOR)));
@@ -89,27 +78,15 @@ void UseColors(HWND dialog) {
     const auto find = [&] { return colors = FindWindowW(L"LumDiaryColorsListWnd.0", nullptr); };
     if (!Until([&] { return !IsWindow(dialog) || find(); }) || !colors) return;
     Draw(colors);
-    Press(colors, {VK_RIGHT, VK_RETURN});
+    PostKeys(colors, {VK_RIGHT, VK_RETURN});
     Until([&] { return !IsWindow(colors) || !IsWindowVisible(colors); });
 }
 
-// Chooses from the menu of sources.
-void PickSource(HWND chooser, WPARAM key) {
-    PostMessageW(chooser, WM_COMMAND, IDM_SHOW_SOURCES, 0);
-    const auto menu = [chooser] {
-        return StateOf(chooser).flags & GUI_INMENUMODE &&
-               IsWindowVisible(FindWindowW(L"#32768", nullptr));
-    };
-    if (Until([&] { return !IsWindow(chooser) || menu(); }))
-        Press(StateOf(chooser).hwndFocus, {key, VK_RETURN});
-    Until([&] { return !(StateOf(chooser).flags & GUI_INMENUMODE); });
-}
-
 void BrowseForIcons(const Program& program, HWND chooser) {
-    PickSource(chooser, VK_UP);
+    PickSource(chooser, {VK_UP});
     const HWND folders = program.Sheet(L"Choose folder");
     Draw(folders);
-    Press(GetDlgItem(folders, IDC_FOLDER_TREE), {VK_END});
+    PostKeys(GetDlgItem(folders, IDC_FOLDER_TREE), {VK_END});
     Cancel(folders);
 }
 
@@ -126,10 +103,10 @@ Outcome WalkCategories(const Program& program, const Storing& storing) {
         const HWND chooser = program.Sheet(L"Choose icon");
         if (!chooser) return {};
         BrowseForIcons(program, chooser);
-        PickSource(chooser, VK_DOWN);  // all of them
+        PickSource(chooser, {VK_DOWN});  // all of them
         SendMessageW(chooser, WM_NULL, 0, 0);
         Draw(chooser);
-        Press(GetDlgItem(chooser, IDC_ICON_LIST), {VK_DOWN, VK_DOWN, VK_DOWN});
+        PostKeys(GetDlgItem(chooser, IDC_ICON_LIST), {VK_DOWN, VK_DOWN, VK_DOWN});
         storing();
         PostMessageW(chooser, WM_COMMAND, IDOK, 0);
         SendMessageW(chooser, WM_NULL, 0, 0);

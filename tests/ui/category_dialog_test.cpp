@@ -22,39 +22,14 @@ class CategoryDialogTest : public DeviceTest {
         list_ = GetDlgItem(dialog_, IDC_CATEGORY_LIST);
         ASSERT_TRUE(FocusIs(dialog_, IDC_CATEGORY_LIST));
     }
-    // Of the program's thread.
-    HWND Focus() const {
-        GUITHREADINFO info = {};
-        info.cbSize = sizeof info;
-        GetGUIThreadInfo(GetWindowThreadProcessId(dialog_, nullptr), &info);
-        return info.hwndFocus;
-    }
     bool FocusIs(HWND dialog, int control) const {
-        return Until([&] { return Focus() && Focus() == GetDlgItem(dialog, control); });
+        return Until([&] { return FocusOf(dialog) && ui::FocusIs(dialog, control); });
     }
-    void Press(std::initializer_list<WPARAM> keys) const {
-        const HWND focus = Focus();
-        for (const WPARAM key : keys) PostMessageW(focus, WM_KEYDOWN, key, 0);
-    }
+    void Press(std::initializer_list<WPARAM> keys) const { PostKeys(FocusOf(dialog_), keys); }
     HWND OpenChooser() const {
         Press({VK_RETURN});
         const HWND chooser = program_->Sheet(L"Choose icon");
         return chooser && FocusIs(chooser, IDC_ICON_LIST) ? chooser : nullptr;
-    }
-    // Chooses from the menu of sources by the direction keys.
-    void PickSource(HWND chooser, std::initializer_list<WPARAM> keys) const {
-        PostMessageW(chooser, WM_COMMAND, IDM_SHOW_SOURCES, 0);
-        // A menu shows a moment before it takes the keys.
-        const auto menu = [chooser] {
-            GUITHREADINFO info = {};
-            info.cbSize = sizeof info;
-            return GetGUIThreadInfo(GetWindowThreadProcessId(chooser, nullptr), &info) &&
-                   info.flags & GUI_INMENUMODE;
-        };
-        ASSERT_TRUE(Until(menu));
-        Press(keys);
-        Press({VK_RETURN});
-        ASSERT_TRUE(Until([&] { return !menu(); }));
     }
     bool RowsAre(int count, int selected) const {
         return Until([&] {
@@ -63,12 +38,10 @@ class CategoryDialogTest : public DeviceTest {
                        selected;
         });
     }
-    static CSettingsKey Key(const wchar_t* name) {
-        const std::wstring path = std::wstring(kProductKey) + L"\\" + name;
-        return CSettingsKey(HKEY_LOCAL_MACHINE, path.c_str(), true, true);
-    }
     static bool ColorIs(const wchar_t* name, DWORD value) {
-        return Until([&] { return Key(L"Colors").ReadDword(name, SETTINGS_NO_DEFAULT) == value; });
+        return Until([&] {
+            return OpenProductKey(L"Colors").ReadDword(name, SETTINGS_NO_DEFAULT) == value;
+        });
     }
 
     std::optional<Program> program_;
@@ -130,15 +103,15 @@ TEST_F(CategoryDialogTest, ShowsSourcesAndFoldersToChooseFrom) {
         CreateDirectoryW(folder, nullptr);
     const std::wstring picture = kInstall + L"IconSet\\car.bmp";
     ASSERT_TRUE(CopyFileW(picture.c_str(), L"\\Sets\\R&D\\car.bmp", FALSE));
-    const auto first = [] { return Key(L"IconSets").ReadString(L"1"); };
-    Key(L"IconSets").WriteString(L"1", L"\\Gone");
-    Key(L"IconSets").WriteString(L"2", L"\\Sets\\R&D");
+    const auto first = [] { return OpenProductKey(L"IconSets").ReadString(L"1"); };
+    OpenProductKey(L"IconSets").WriteString(L"1", L"\\Gone");
+    OpenProductKey(L"IconSets").WriteString(L"2", L"\\Sets\\R&D");
     Put(L"IconSetID", 99);
     Open();
     HWND chooser = OpenChooser();
     ASSERT_TRUE(chooser);
     // All, the icon set, what is gone, and the other folder, which then comes first.
-    PickSource(chooser, {VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN});
+    ASSERT_TRUE(PickSource(chooser, {VK_DOWN, VK_DOWN, VK_DOWN, VK_DOWN}));
     EXPECT_TRUE(Until([&] { return first() == L"\\Sets\\R&D"; }));
     Press({VK_DOWN, VK_DOWN, VK_DOWN});
     PostMessageW(chooser, WM_COMMAND, IDOK, 0);
@@ -148,14 +121,14 @@ TEST_F(CategoryDialogTest, ShowsSourcesAndFoldersToChooseFrom) {
     EXPECT_TRUE(Until([&] { return ReadBytes(icon.c_str()) == ReadBytes(picture.c_str()); }));
 
     chooser = OpenChooser();
-    PickSource(chooser, {VK_UP});
+    ASSERT_TRUE(PickSource(chooser, {VK_UP}));
     const HWND folders = program_->Sheet(L"Choose folder");
     ASSERT_TRUE(folders && FocusIs(folders, IDC_FOLDER_TREE));
     Press({VK_END, VK_UP, VK_RIGHT, VK_RIGHT, VK_DOWN, VK_RETURN});  // \Sets\Two, before \Windows
     EXPECT_TRUE(Until([&] { return first() == L"\\Sets\\Two"; }));
     ASSERT_TRUE(FocusIs(chooser, IDC_ICON_LIST));
     ASSERT_TRUE(Cancel(chooser));
-    EXPECT_EQ(Key(L"IconSets").ReadString(L"3"), L"\\Gone");
+    EXPECT_EQ(OpenProductKey(L"IconSets").ReadString(L"3"), L"\\Gone");
 
     // Told to close, the program closes what is open inside of each other.
     chooser = OpenChooser();

@@ -10,11 +10,7 @@ using namespace ui;
 
 class Contacts : public DeviceTest {
   protected:
-    HWND OpenPage() {
-        program_.Open(3, 0);
-        sheet_ = program_.Sheet(L"Contact options");
-        return Page(sheet_, IDC_CONTACT_LAYOUT);
-    }
+    HWND OpenPage() { return DeviceTest::OpenPage(program_, 3, 0, IDC_CONTACT_LAYOUT); }
     static std::wstring Layout(HWND page) { return Selected(page, IDC_CONTACT_LAYOUT); }
     HWND OpenDialog(HWND page, int entry) {
         Select(page, IDC_CONTACT_LAYOUT, entry);
@@ -22,20 +18,16 @@ class Contacts : public DeviceTest {
     }
     static void Tick(HWND dialog, int row) {
         const HWND list = GetDlgItem(dialog, IDC_LAYOUTS_LIST);
-        SendMessageW(list, WM_KEYDOWN, VK_HOME, 0);
-        for (int i = 0; i < row; ++i) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
-        SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);
+        SendKeys(list, {VK_HOME});
+        for (int i = 0; i < row; ++i) SendKeys(list, {VK_DOWN});
+        SendKeys(list, {VK_SPACE});
     }
 
     Program program_;
-    HWND sheet_ = nullptr;
 };
 
 TEST_F(Contacts, LayoutsAreChosenInTheirDialog) {
-    const std::wstring language =
-        L"\xFEFF"
-        L"Greek|Griechisch\r\n";
-    ASSERT_TRUE(WriteBytes(kLanguageFile, language.data(), language.size() * 2));
+    ASSERT_TRUE(WriteLanguageFile(L"Greek|Griechisch\r\n"));
     OpenProductKey().WriteString(L"Contacts_layouts", L"Greek,Foo,Latin");
     Put(L"Contacts_layout_active", 2);
     Put(L"ContactsGroupBy", 549);
@@ -81,7 +73,7 @@ TEST_F(Contacts, LayoutsAreChosenInTheirDialog) {
     page = OpenPage();
     const HWND list = GetDlgItem(page, IDC_CONTACT_LAYOUT);
     SendMessageW(page, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list), TRUE);
-    for (int i = 0; i < 2; ++i) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
+    SendKeys(list, {VK_DOWN, VK_DOWN});
     dialog = program_.Sheet(L"Keyboard layouts");
     ASSERT_TRUE(dialog);
     ASSERT_TRUE(Ok(dialog));
@@ -118,8 +110,7 @@ TEST_F(Contacts, WhatOthersStoreMeanwhileShowsUnlessItWasTouched) {
 
 TEST_F(Contacts, LayoutsThatCannotBeStoredAreRefused) {
     {
-        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\Layouts").c_str(),
-                         true, true);
+        CSettingsKey key = OpenProductKey(L"Layouts");
         for (const wchar_t c : {L'a', L'b', L'c', L'd', L'e', L'f', L'g', L'h'}) {
             key.WriteString((c + std::wstring(254, L'x')).c_str(), L"la(a)");
         }

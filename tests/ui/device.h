@@ -21,6 +21,11 @@ inline bool FurnishWith(const wchar_t* thing) {
 inline constexpr wchar_t kInstallFolder[] = L"\\Program Files\\Lum Diary\\";
 inline constexpr wchar_t kLanguageFile[] = L"\\Program Files\\Lum Diary\\LumDiary_en.txt";
 
+inline constexpr const wchar_t* kSheetTitles[] = {
+    L"General options", L"Calendar options", L"Task options",          L"Contact options",
+    L"Note options",    L"Message options",  L"Special event options",
+};
+
 class DeviceTest : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -28,6 +33,19 @@ class DeviceTest : public ::testing::Test {
         DeleteFileW(kLanguageFile);
         // Away from where menus open, whose entry under the pointer is selected.
         SetCursorPos(0, 0);
+    }
+
+    // Opens a page of an entry's sheet; null when it does not show with the control.
+    HWND OpenPage(const Program& program, int entry, int page, int control) {
+        program.Open(entry, page);
+        sheet_ = program.Sheet(kSheetTitles[entry]);
+        TurnTo(sheet_, page);  // Not every sheet opens at any page.
+        return Page(sheet_, control);
+    }
+    // Says ok and confirms the message that keeps the sheet open.
+    bool IsRefused(const Program& program) const {
+        PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
+        return program.Dismiss() && IsWindow(sheet_);
     }
 
     static void Put(const wchar_t* name, DWORD value) { OpenProductKey().WriteDword(name, value); }
@@ -54,12 +72,9 @@ class DeviceTest : public ::testing::Test {
         }
         return false;
     }
-    static bool WriteBytes(const wchar_t* path, const void* data, DWORD size) {
-        const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-        DWORD written = 0;
-        const bool done = WriteFile(file, data, size, &written, nullptr) && written == size;
-        CloseHandle(file);
-        return done;
+    static bool WriteLanguageFile(const std::wstring& text) {
+        const std::wstring content = L"\xFEFF" + text;
+        return WriteBytes(kLanguageFile, content.data(), content.size() * sizeof(wchar_t));
     }
     // Looking at a file must not keep the program from writing or deleting it.
     static std::string ReadBytes(const wchar_t* path) {
@@ -74,6 +89,8 @@ class DeviceTest : public ::testing::Test {
         CloseHandle(file);
         return bytes;
     }
+
+    HWND sheet_ = nullptr;
 };
 
 }  // namespace ui

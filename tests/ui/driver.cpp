@@ -4,6 +4,7 @@
 #include <prsht.h>
 
 #include "pocketpc/include/aygshell.h"
+#include "resources/ids.h"
 
 namespace ui {
 
@@ -80,17 +81,6 @@ std::vector<HWND> VisibleDialogs(DWORD process) {
 }
 
 }  // namespace
-
-bool Until(const std::function<bool()>& condition) {
-    const DWORD start = GetTickCount();
-    for (;;) {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-        if (condition()) return true;
-        if (GetTickCount() - start > kLimit) return false;
-        Sleep(5);
-    }
-}
 
 Program::Program(const std::wstring& arguments) {
     const std::wstring program = FolderOfTests() + L"DiarySettings.exe";
@@ -196,11 +186,11 @@ bool Cancel(HWND sheet) {
 
 namespace {
 
-HWND FocusOf(HWND window) {
+GUITHREADINFO StateOf(HWND window) {
     GUITHREADINFO info = {};
     info.cbSize = sizeof info;
     GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-    return info.hwndFocus;
+    return info;
 }
 
 void Press(HWND focus, WPARAM key) {
@@ -208,25 +198,40 @@ void Press(HWND focus, WPARAM key) {
     PostMessageW(focus, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }
 
-}  // namespace
-
-bool FocusIs(HWND page, int control) { return FocusOf(page) == GetDlgItem(page, control); }
-
-namespace {
-
 bool TabTo(HWND page, int control) {
     constexpr int kMostControls = 40;
     const HWND wanted = GetDlgItem(page, control);
     for (int i = 0; i < kMostControls; ++i) {
-        const HWND focus = FocusOf(page);
+        const HWND focus = StateOf(page).hwndFocus;
         if (focus == wanted) return true;
         Press(focus, VK_TAB);
-        if (!Until([&] { return FocusOf(page) != focus; })) return false;
+        if (!Until([&] { return StateOf(page).hwndFocus != focus; })) return false;
     }
     return false;
 }
 
 }  // namespace
+
+HWND FocusOf(HWND window) { return StateOf(window).hwndFocus; }
+
+bool FocusIs(HWND page, int control) { return FocusOf(page) == GetDlgItem(page, control); }
+
+void PostKeys(HWND window, std::initializer_list<WPARAM> keys) {
+    for (const WPARAM key : keys) PostMessageW(window, WM_KEYDOWN, key, 0);
+}
+
+bool PickSource(HWND chooser, std::initializer_list<WPARAM> keys) {
+    PostMessageW(chooser, WM_COMMAND, IDM_SHOW_SOURCES, 0);
+    const auto isOpen = [chooser] { return (StateOf(chooser).flags & GUI_INMENUMODE) != 0; };
+    // A menu shows a moment before it takes the keys.
+    const auto takesKeys = [&] {
+        return isOpen() && IsWindowVisible(FindWindowW(L"#32768", nullptr));
+    };
+    if (!Until([&] { return !IsWindow(chooser) || takesKeys(); })) return false;
+    PostKeys(FocusOf(chooser), keys);
+    PostKeys(FocusOf(chooser), {VK_RETURN});
+    return Until([&] { return !isOpen(); });
+}
 
 bool ClickByKeys(HWND page, int control) {
     if (!TabTo(page, control)) return false;
@@ -269,6 +274,16 @@ void Select(HWND page, int control, int index) {
                  reinterpret_cast<LPARAM>(list));
 }
 
+void Select(HWND page, int control, const wchar_t* text) {
+    const LRESULT index =
+        SendDlgItemMessageW(page, control, CB_FINDSTRINGEXACT, -1, reinterpret_cast<LPARAM>(text));
+    Select(page, control, static_cast<int>(index));
+}
+
+void SendKeys(HWND window, std::initializer_list<WPARAM> keys) {
+    for (const WPARAM key : keys) SendMessageW(window, WM_KEYDOWN, key, 0);
+}
+
 void AskForHelp(HWND window) {
     HELPINFO info = {};
     info.cbSize = sizeof info;
@@ -308,13 +323,7 @@ bool PressInMenu(HWND parent, int index, wchar_t key) {
 }
 
 Plugin::Plugin() {
-    WNDCLASSW windowClass = {};
-    windowClass.lpfnWndProc = Procedure;
-    windowClass.hInstance = GetModuleHandleW(nullptr);
-    windowClass.lpszClassName = L"LumDiaryTimeHelperWnd_1.0";
-    RegisterClassW(&windowClass);
-    hwnd_ = CreateWindowExW(0, windowClass.lpszClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
-                            nullptr, windowClass.hInstance, nullptr);
+    hwnd_ = MakeWindow(L"LumDiaryTimeHelperWnd_1.0", Procedure);
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

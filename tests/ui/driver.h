@@ -3,15 +3,13 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace ui {
+#include "tests/windows.h"
 
-// Waits until a condition holds, for at most ten seconds, while this thread's messages are handled.
-bool Until(const std::function<bool()>& condition);
+namespace ui {
 
 // The running program. Ends it when the test leaves it behind.
 class Program {
@@ -60,12 +58,21 @@ bool IsChecked(HWND page, int control);
 bool IsEnabled(HWND page, int control);
 void Click(HWND page, int control);
 void Select(HWND page, int control, int index);
+void Select(HWND page, int control, const wchar_t* text);
+// Tells a window of keys that are pressed in it.
+void SendKeys(HWND window, std::initializer_list<WPARAM> keys);
 // With the keys alone: goes on to a control by Tab, from wherever the focus is, and clicks its box
 // or chooses an entry of its list. False when the focus does not come there or nothing changes.
 bool ClickByKeys(HWND page, int control);
 bool SelectByKeys(HWND page, int control, int index);
-// Whether a control of the page or dialog has the focus.
+// The window of the same thread that has the focus, and whether it is a control of the page.
+HWND FocusOf(HWND window);
 bool FocusIs(HWND page, int control);
+// Posts keys that are pressed to a window.
+void PostKeys(HWND window, std::initializer_list<WPARAM> keys);
+// Chooses from the icon chooser's menu of sources by the direction keys; false when it does not
+// open or close.
+bool PickSource(HWND chooser, std::initializer_list<WPARAM> keys);
 // As F1 does while the window has the focus.
 void AskForHelp(HWND window);
 // The text of the selected entry; empty when none is.

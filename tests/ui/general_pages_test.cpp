@@ -13,12 +13,9 @@ using namespace ui;
 class General : public DeviceTest {
   protected:
     HWND OpenPage(int page, int control) {
-        program_.Open(0, page);
-        sheet_ = program_.Sheet(L"General options");
-        return Page(sheet_, control);
+        return DeviceTest::OpenPage(program_, 0, page, control);
     }
     Program program_;
-    HWND sheet_ = nullptr;
 };
 
 TEST_F(General, HeightKeepsItsRange) {
@@ -33,9 +30,7 @@ TEST_F(General, HeightKeepsItsRange) {
     SendDlgItemMessageW(page, IDC_HEIGHT_SPIN, WM_KEYDOWN, VK_DOWN, 0);
     for (const wchar_t* refused : {L"301", L"79", L"", L"99999999999"}) {
         SetDlgItemTextW(page, IDC_HEIGHT, refused);
-        PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
-        ASSERT_TRUE(program_.Dismiss()) << testing::PrintToString(refused);
-        EXPECT_TRUE(IsWindow(page));
+        ASSERT_TRUE(IsRefused(program_)) << testing::PrintToString(refused);
     }
     // From another page the refusing one comes to the front, and stays there.
     TurnTo(sheet_, 7);
@@ -67,8 +62,8 @@ TEST_F(General, HeightKeepsItsRange) {
 }
 
 TEST_F(General, OnlyInstalledProgramsAreOffered) {
-    const std::wstring key = L"SOFTWARE\\Developer One\\Agenda One";
-    CSettingsKey(HKEY_LOCAL_MACHINE, key.c_str(), true, true).WriteString(L"InstallPath", L"\\x");
+    constexpr wchar_t kAgenda[] = L"SOFTWARE\\Developer One\\Agenda One";
+    CSettingsKey(HKEY_LOCAL_MACHINE, kAgenda, true, true).WriteString(L"InstallPath", L"\\x");
     Put(L"CurrentPIM", 3);
     HWND page = OpenPage(0, IDC_PIM);
     ASSERT_TRUE(page);
@@ -76,7 +71,7 @@ TEST_F(General, OnlyInstalledProgramsAreOffered) {
     EXPECT_EQ(SendDlgItemMessageW(page, IDC_PIM, CB_GETCOUNT, 0, 0), 2);
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(Stored(L"CurrentPIM"), 3u);
-    DeleteKeyTree(HKEY_LOCAL_MACHINE, key.c_str());
+    DeleteKeyTree(HKEY_LOCAL_MACHINE, kAgenda);
     page = OpenPage(0, IDC_PIM);
     EXPECT_EQ(Selected(page, IDC_PIM), L"This device");
     ASSERT_TRUE(Ok(sheet_));
@@ -158,12 +153,7 @@ LRESULT CALLBACK TodayProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
 }
 
 TEST_F(General, TabsAreMovedByKeysAndButtons) {
-    WNDCLASSW today = {};
-    today.lpfnWndProc = TodayProcedure;
-    today.lpszClassName = L"DesktopExplorerWindow";
-    RegisterClassW(&today);
-    const HWND window = CreateWindowExW(0, today.lpszClassName, L"", WS_POPUP, 0, 0, 1, 1, nullptr,
-                                        nullptr, nullptr, nullptr);
+    const HWND window = MakeWindow(L"DesktopExplorerWindow", TodayProcedure);
     OpenProductKey().WriteString(L"ShowTabsSequence", L"2");
     Put(L"TotalHeight", 50);
     Put(L"TotalHeightL", 200);
@@ -171,12 +161,11 @@ TEST_F(General, TabsAreMovedByKeysAndButtons) {
     const HWND list = GetDlgItem(page, IDC_TABS_LIST);
     ASSERT_TRUE(list);
     EXPECT_FALSE(IsEnabled(page, IDC_TABS_UP));
-    SendMessageW(list, WM_KEYDOWN, VK_RIGHT, 0);  // 1 2 3 4 5 6
-    Click(page, IDC_TABS_DOWN);                   // 1 3 2 4 5 6
-    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // The tasks are not shown.
-    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
-    SendMessageW(list, WM_KEYDOWN, VK_LEFT, 0);  // 1 3 4 2 5 6
-    Click(page, IDC_TABS_UP);                    // 1 4 3 2 5 6
+    SendKeys(list, {VK_RIGHT});          // 1 2 3 4 5 6
+    Click(page, IDC_TABS_DOWN);          // 1 3 2 4 5 6
+    SendKeys(list, {VK_SPACE});          // The tasks are not shown.
+    SendKeys(list, {VK_DOWN, VK_LEFT});  // 1 3 4 2 5 6
+    Click(page, IDC_TABS_UP);            // 1 4 3 2 5 6
     EXPECT_FALSE(IsEnabled(page, IDC_TABS_IN_ONE)) << "there is no tab host";
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(StoredText(L"ShowTabsSequence"), L"143256");
@@ -216,9 +205,7 @@ TEST_F(General, SettingsTravelInAFile) {
     import(IDYES);
     EXPECT_TRUE(Until([] { return Stored(L"CalendarPeriod") == 30u; }));
     // The program may still have the file open.
-    ASSERT_TRUE(Until([&] {
-        return WriteBytes(kFile, exported.data(), static_cast<DWORD>(exported.size() - 4));
-    }));
+    ASSERT_TRUE(Until([&] { return WriteBytes(kFile, exported.data(), exported.size() - 4); }));
     import(IDYES);
     ASSERT_TRUE(program_.Dismiss());
     EXPECT_EQ(program_.CloseAndWait(), 0u);

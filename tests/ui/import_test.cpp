@@ -65,28 +65,13 @@ class Import : public DeviceTest {
     }
 };
 
-TEST_F(Import, ReachesTheLayoutsThatAreLoaded) {
-    OpenProductKey().WriteString(L"Contacts_layouts", L"Mine,Greek");
+TEST_F(Import, StoresWhatTheFileHasAndReachesWhatIsLoaded) {
+    Put(L"CalendarPeriod", 30);
     OpenProductKey(L"Layouts").WriteString(L"Mine", L"labc(abc)");
     ASSERT_TRUE(MoveToFile());
-    Program program(L"-P3:0");
-    HWND sheet = program.Sheet(L"Contact options");
-    ASSERT_EQ(Selected(Page(sheet, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Latin");
-    ASSERT_TRUE(Cancel(sheet));
-    ASSERT_TRUE(RunImport(program));
-    program.Open(3, 0);
-    sheet = program.Sheet(L"Contact options");
-    EXPECT_EQ(Selected(Page(sheet, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Mine");
-    ASSERT_TRUE(Ok(sheet));
-    EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Mine,Greek");
-    EXPECT_EQ(program.CloseAndWait(), 0u);
-}
-
-TEST_F(Import, StoresWhatTheFileHasAndNothingElse) {
-    Put(L"CalendarPeriod", 30);
-    ASSERT_TRUE(MoveToFile());
     Program program;
-    ASSERT_TRUE(program.Main());
+    OpenPage(program, 3, 0, IDC_CONTACT_LAYOUT);  // Loads the layouts.
+    ASSERT_TRUE(Cancel(sheet_));
     std::set<std::wstring> expected = Names();
     EXPECT_TRUE(expected.insert(L"CalendarPeriod").second);
     Put(L"OneClick", 2);
@@ -100,6 +85,8 @@ TEST_F(Import, StoresWhatTheFileHasAndNothingElse) {
     ASSERT_TRUE(RunImport(program));
     EXPECT_EQ(Stored(L"OneClick"), 2u);
     EXPECT_EQ(Names(), expected);
+    OpenProductKey().WriteString(L"Contacts_layouts", L"Mine");
+    EXPECT_EQ(Selected(OpenPage(program, 3, 0, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Mine");
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
@@ -138,19 +125,15 @@ TEST_F(Import, TellsWhatAFileWouldDo) {
 TEST_F(Import, ClosingEndsWhatAsks) {
     Put(L"CalendarPeriod", 30);
     ASSERT_TRUE(MoveToFile());
-    struct Case {
-        const char* what;
-        std::function<HWND(const Program&)> open;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, std::function<HWND(const Program&)>> cases[] = {
         {"export", [](const Program& program) { return Choose(program, IDM_EXPORT, L"Save As"); }},
         {"import", [](const Program& program) { return Choose(program, IDM_IMPORT, L"Open"); }},
         {"question", Ask},
     };
-    for (const Case& c : cases) {
+    for (const auto& [what, open] : cases) {
         Program program;
-        EXPECT_TRUE(c.open(program)) << c.what;
-        EXPECT_EQ(program.CloseAndWait(), 0u) << c.what;
+        EXPECT_TRUE(open(program)) << what;
+        EXPECT_EQ(program.CloseAndWait(), 0u) << what;
     }
     EXPECT_EQ(Stored(L"CalendarPeriod"), std::nullopt) << "imported unasked";
 }

@@ -15,9 +15,7 @@ constexpr int kArchive = 0, kInbox = 3;
 class MessagesPages : public DeviceTest {
   protected:
     void Open(Program& program) {
-        program.Open(5, 1);
-        sheet_ = program.Sheet(L"Message options");
-        page_ = Page(sheet_, IDC_MAIL_FOLDERS);
+        page_ = OpenPage(program, 5, 1, IDC_MAIL_FOLDERS);
         ASSERT_TRUE(page_);
     }
     LPARAM Next(LPARAM item, WPARAM relation) const {
@@ -38,28 +36,18 @@ class MessagesPages : public DeviceTest {
     void Press(int account, int folder) const {
         const HWND tree = GetDlgItem(page_, IDC_MAIL_FOLDERS);
         SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, Folder(account, folder));
-        SendMessageW(tree, WM_KEYDOWN, VK_SPACE, 0);
+        SendKeys(tree, {VK_SPACE});
     }
-    void ChooseFilter(const wchar_t* name) const {
-        Select(page_, IDC_MAIL_FILTER,
-               static_cast<int>(SendDlgItemMessageW(page_, IDC_MAIL_FILTER, CB_FINDSTRINGEXACT, -1,
-                                                    reinterpret_cast<LPARAM>(name))));
-    }
+    void ChooseFilter(const wchar_t* name) const { Select(page_, IDC_MAIL_FILTER, name); }
     void TypeName(const wchar_t* name) const {
         const HWND list = GetDlgItem(page_, IDC_MAIL_FILTER_NAME);
         SetWindowTextW(list, name);
         SendMessageW(page_, WM_COMMAND, MAKEWPARAM(IDC_MAIL_FILTER_NAME, CBN_EDITCHANGE),
                      reinterpret_cast<LPARAM>(list));
     }
-    // Says ok and confirms the message that keeps the sheet open.
-    bool IsRefused(const Program& program) const {
-        PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
-        return program.Dismiss() && IsWindow(sheet_);
-    }
     // The kinds of a filter's records: "MMF"; "-" when there is no such filter.
     static std::string Kinds(const wchar_t* filter) {
-        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\MailFilters").c_str(),
-                         false, false);
+        CSettingsKey key = OpenProductKey(L"MailFilters");
         unsigned char bytes[4096];
         DWORD size = sizeof bytes;
         if (!key.ReadBinary(filter, bytes, &size)) return "-";
@@ -72,7 +60,6 @@ class MessagesPages : public DeviceTest {
         return kinds;
     }
 
-    HWND sheet_ = nullptr;
     HWND page_ = nullptr;
 };
 
@@ -129,8 +116,7 @@ TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
 
 TEST_F(MessagesPages, WhatCannotBeStoredKeepsTheSheetOpen) {
     {
-        CSettingsKey key(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\MailFilters").c_str(),
-                         true, true);
+        CSettingsKey key = OpenProductKey(L"MailFilters");
         std::string bytes;  // 17 records of 240 bytes, which leave no room for another one
         for (char i = 'a'; i < 'a' + 17; ++i) {
             bytes += std::string("M\xEB", 2) + std::string(235, i) + std::string("\1n\0", 3);
@@ -176,8 +162,7 @@ TEST_F(MessagesPages, ANewFilterChangesNoOther) {
 }
 
 TEST_F(MessagesPages, NoFilterOfTheUsersIsLeftWithoutFolders) {
-    const std::wstring filters = std::wstring(kProductKey) + L"\\MailFilters";
-    CSettingsKey(HKEY_LOCAL_MACHINE, filters.c_str(), true, true).WriteBinary(L"Archive", "", 0);
+    OpenProductKey(L"MailFilters").WriteBinary(L"Archive", "", 0);
     Program program;
     Open(program);
     Press(kOutlook, kArchive);

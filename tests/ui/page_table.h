@@ -21,11 +21,6 @@ struct PageRow {
 };
 inline constexpr int kClick = -1;
 
-inline constexpr const wchar_t* kSheetTitles[] = {
-    L"General options", L"Calendar options", L"Task options",          L"Contact options",
-    L"Note options",    L"Message options",  L"Special event options",
-};
-
 // In the order of the pages.
 inline constexpr PageRow kPageRows[] = {
     {0, 0, IDC_HEADER_STATE, 1, L"HeaderMinimized", 0, 1},

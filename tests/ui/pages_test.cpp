@@ -19,16 +19,6 @@ TEST_F(Pages, OkStoresTheShownPagesOnly) {
     const HWND sheet = program.Sheet(L"Calendar options");
     const HWND page = Page(sheet, IDC_SHOW_TASKS);
     ASSERT_TRUE(page);
-    EXPECT_TRUE(IsChecked(page, IDC_SHOW_UNDATED_TASKS));
-    Click(page, IDC_SHOW_TASKS);
-    for (const int control : {IDC_SHOW_UNDATED_TASKS, IDC_SHOW_OVERDUE_TASKS}) {
-        EXPECT_FALSE(IsEnabled(page, control) || IsChecked(page, control)) << control;
-    }
-    EXPECT_FALSE(IsEnabled(page, IDC_TASK_PLACEMENT));
-    Click(page, IDC_SHOW_TASKS);
-    EXPECT_TRUE(IsChecked(page, IDC_SHOW_UNDATED_TASKS) && IsChecked(page, IDC_SHOW_OVERDUE_TASKS));
-    EXPECT_FALSE(IsChecked(page, IDC_SHOW_COMPLETED_TASKS));
-    EXPECT_TRUE(IsEnabled(page, IDC_TASK_PLACEMENT));
     Click(page, IDC_SHOW_TASKS);
     EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u) << "written before ok";
     ASSERT_TRUE(Ok(sheet));
@@ -42,50 +32,25 @@ TEST_F(Pages, OkStoresTheShownPagesOnly) {
     EXPECT_EQ(plugin.Updates(), (std::vector<Plugin::Update>{{0, 0}}));
 }
 
-TEST_F(Pages, CancelChangesNoStoredValue) {
-    Plugin plugin;
-    Put(L"CalendarShowOverdueTasks", 0);
-    Program program(L"-P1:2");
-    const HWND sheet = program.Sheet(L"Calendar options");
-    const HWND page = Page(sheet, IDC_SHOW_TASKS);
-    ASSERT_TRUE(page);
-    Click(page, IDC_SHOW_OVERDUE_TASKS);
-    Click(page, IDC_SHOW_TASKS);
-    Select(page, IDC_TASK_PLACEMENT, 0);
-    ASSERT_TRUE(Cancel(sheet));
-    EXPECT_EQ(Stored(L"CalendarShowTasks"), 1u);  // First read.
-    EXPECT_EQ(Stored(L"CalendarShowOverdueTasks"), 0u);
-    EXPECT_EQ(Stored(L"App_TaskShowMultiday"), 3u);
-    EXPECT_EQ(program.CloseAndWait(), 0u);
-    EXPECT_TRUE(plugin.Updates().empty());
-}
-
-HWND OpenTable(const Program& program, std::span<const PageRow> rows) {
-    program.Open(rows.front().entry, rows.front().page);
-    const HWND sheet = program.Sheet(kSheetTitles[rows.front().entry]);
-    TurnTo(sheet, rows.front().page);  // Not every sheet opens at any page.
-    return sheet;
-}
-
 // Every control is changed from its default, with the keys alone.
 TEST_F(Pages, EveryControlIsStored) {
     ASSERT_TRUE(FurnishWith(L"weather"));
     OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
     Program program;
     for (const std::span<const PageRow> rows : PageTables()) {
-        const HWND sheet = OpenTable(program, rows);
-        const HWND page = Page(sheet, rows.front().control);
-        ASSERT_TRUE(page) << rows.front().entry << ":" << rows.front().page;
+        const PageRow& first = rows.front();
+        const HWND page = OpenPage(program, first.entry, first.page, first.control);
+        ASSERT_TRUE(page) << first.entry << ":" << first.page;
         for (const PageRow& row : rows) {
             EXPECT_TRUE(row.select == kClick ? ClickByKeys(page, row.control)
                                              : SelectByKeys(page, row.control, row.select))
                 << testing::PrintToString(row.name);
         }
-        if (rows.front().entry == 2 && rows.front().page == 0) {
+        if (first.entry == 2 && first.page == 0) {
             EXPECT_EQ(Selected(page, IDC_TASK_SUBJECT), L"Whole subject for selected");
             Select(page, IDC_TASK_SUBJECT, 0);
         }
-        ASSERT_TRUE(Ok(sheet));
+        ASSERT_TRUE(Ok(sheet_));
     }
     for (const PageRow& row : kPageRows) {
         EXPECT_EQ(Stored(row.name), row.stored) << testing::PrintToString(row.name);
@@ -102,20 +67,17 @@ TEST_F(Pages, TransactionsNeedTheFinanceProgram) {
         if (present) {
             ASSERT_TRUE(FurnishWith(L"finance"));
         }
-        Program program(L"-P1:1");
-        const HWND calendar = program.Sheet(L"Calendar options");
-        const HWND show = Page(calendar, IDC_SHOW_PAST);
+        Program program;
+        const HWND show = OpenPage(program, 1, 1, IDC_SHOW_PAST);
         ASSERT_TRUE(show);
         EXPECT_EQ(GetDlgItem(show, IDC_SHOW_TRANSACTIONS) != nullptr, present);
-        ASSERT_TRUE(Ok(calendar));
+        ASSERT_TRUE(Ok(sheet_));
         EXPECT_EQ(Stored(L"CalendarShowTransactions"), present ? std::optional(1ul) : std::nullopt);
-        program.Open(6, 0);
-        const HWND special = program.Sheet(L"Special event options");
-        const HWND page = Page(special, IDC_SPECIAL_TRANSACTIONS);
+        const HWND page = OpenPage(program, 6, 0, IDC_SPECIAL_TRANSACTIONS);
         ASSERT_TRUE(page);
         EXPECT_EQ(IsEnabled(page, IDC_SPECIAL_TRANSACTIONS), present);
         EXPECT_EQ(SendDlgItemMessageW(page, IDC_SPECIAL_PERIOD, CB_GETCURSEL, 0, 0), 3);
-        ASSERT_TRUE(Ok(special));
+        ASSERT_TRUE(Ok(sheet_));
         EXPECT_EQ(Stored(L"SpecialShowTransactions"), present ? 1u : 0u);
         EXPECT_EQ(program.CloseAndWait(), 0u);
     }
@@ -123,24 +85,20 @@ TEST_F(Pages, TransactionsNeedTheFinanceProgram) {
 }
 
 TEST_F(Pages, ReturnTimeAndItsSwitch) {
-    struct Case {
+    Program program;
+    struct {
         DWORD stored;
         bool on;
         const wchar_t* shown;
         bool click;
         DWORD saved;
-    };
-    Program program;
-    for (const Case& c : {
-             Case{0, false, L"15 min", false, 0},
-             Case{0, false, L"15 min", true, 900},
-             Case{3600, true, L"1 hr", true, 0},
-             Case{120, true, L"15 min", false, 900},
-         }) {
+    } const cases[] = {{0, false, L"15 min", false, 0},
+                       {0, false, L"15 min", true, 900},
+                       {3600, true, L"1 hr", true, 0},
+                       {120, true, L"15 min", false, 900}};
+    for (const auto& c : cases) {
         Put(L"TimeoutTime", c.stored);
-        program.Open(0, 7);
-        const HWND sheet = program.Sheet(L"General options");
-        const HWND page = Page(sheet, IDC_TIMEOUT_ON);
+        const HWND page = OpenPage(program, 0, 7, IDC_TIMEOUT_ON);
         ASSERT_TRUE(page);
         EXPECT_EQ(IsChecked(page, IDC_TIMEOUT_ON), c.on);
         EXPECT_EQ(Selected(page, IDC_TIMEOUT_TIME), c.shown);
@@ -148,47 +106,37 @@ TEST_F(Pages, ReturnTimeAndItsSwitch) {
         EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_TIME), c.on != c.click);
         EXPECT_EQ(IsEnabled(page, IDC_TIMEOUT_VIEW), c.on != c.click);
         EXPECT_TRUE(IsEnabled(page, IDC_KEYBOARD_SUPPORT));
-        ASSERT_TRUE(Ok(sheet));
+        ASSERT_TRUE(Ok(sheet_));
         EXPECT_EQ(Stored(L"TimeoutTime"), c.saved);
     }
 }
 
 // What is too long for a number counts as missing, under whatever type it is stored.
 TEST_F(Pages, ValuesThatAreNoNumbersBecomeTheirDefaults) {
-    const std::wstring text(600, L'9');
-    for (const bool asText : {true, false}) {
-        SetUp();
-        {
-            CSettingsKey key = OpenProductKey();
-            for (const PageRow& row : kPageRows) {
-                asText ? key.WriteString(row.name, text.c_str())
-                       : key.WriteBinary(row.name, "\2\2\2\2\2", 5);
-            }
-            asText ? key.WriteString(L"CurTaskPattern", text.c_str())
-                   : key.WriteBinary(L"CurTaskPattern", "\2", 1);
-            key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
-        }
-        Program program;
-        for (const std::span<const PageRow> rows : PageTables()) {
-            const HWND sheet = OpenTable(program, rows);
-            ASSERT_TRUE(Page(sheet, rows.front().control))
-                << rows.front().entry << ":" << rows.front().page;
-            ASSERT_TRUE(Ok(sheet));
-        }
-        EXPECT_EQ(program.CloseAndWait(), 0u);
-        for (const PageRow& row : kPageRows) {
-            EXPECT_EQ(Stored(row.name), row.defaultValue)
-                << testing::PrintToString(row.name) << (asText ? " text" : " bytes");
-        }
+    {
+        CSettingsKey key = OpenProductKey();
+        for (const PageRow& row : kPageRows) key.WriteBinary(row.name, "\2\2\2\2\2", 5);
+        key.WriteString(L"CurTaskPattern", std::wstring(600, L'9').c_str());
+        key.WriteBinary(L"ShowTabsSequence", "\xFF\xFF\xFF", 3);
+    }
+    Program program;
+    for (const std::span<const PageRow> rows : PageTables()) {
+        const PageRow& first = rows.front();
+        ASSERT_TRUE(OpenPage(program, first.entry, first.page, first.control))
+            << first.entry << ":" << first.page;
+        ASSERT_TRUE(Ok(sheet_));
+    }
+    EXPECT_EQ(program.CloseAndWait(), 0u);
+    for (const PageRow& row : kPageRows) {
+        EXPECT_EQ(Stored(row.name), row.defaultValue) << testing::PrintToString(row.name);
     }
 }
 
 // All pages of a sheet edit the same title patterns; letters that stand for nothing stay.
 TEST_F(Pages, TitlePatternsAreOneOverASheet) {
     OpenProductKey().WriteString(L"CurTaskPattern", L"px3nq");
-    Program program(L"-P2:1");
-    HWND sheet = program.Sheet(L"Task options");
-    const HWND titles = Page(sheet, IDC_TASK_CHECKBOX);
+    const Program program;
+    const HWND titles = OpenPage(program, 2, 1, IDC_TASK_CHECKBOX), sheet = sheet_;
     const HWND list = GetDlgItem(titles, IDC_TITLE_FIELDS);
     ASSERT_TRUE(list);
     SendMessageW(list, WM_KEYDOWN, VK_RIGHT, 0);  // Importance behind the subject.
@@ -209,18 +157,14 @@ TEST_F(Pages, TitlePatternsAreOneOverASheet) {
     ASSERT_TRUE(Ok(sheet));
     EXPECT_EQ(StoredText(L"CurTaskPattern"), L"px2qs");
 
-    program.Open(2, 1);
-    sheet = program.Sheet(L"Task options");
-    Click(Page(sheet, IDC_TASK_CHECKBOX), IDC_TITLE_DOWN);
-    ASSERT_TRUE(Cancel(sheet));
-    program.Open(1, 3);
-    sheet = program.Sheet(L"Calendar options");
-    const HWND calendar = Page(sheet, IDC_TITLE_LIST);
+    Click(OpenPage(program, 2, 1, IDC_TASK_CHECKBOX), IDC_TITLE_DOWN);
+    ASSERT_TRUE(Cancel(sheet_));
+    const HWND calendar = OpenPage(program, 1, 3, IDC_TITLE_LIST);
     ASSERT_TRUE(calendar);
     Select(calendar, IDC_TITLE_LIST, 2);
     EXPECT_EQ(Selected(calendar, IDC_TITLE_MODE), L"Whole subject for selected");
     Select(calendar, IDC_TITLE_MODE, 2);
-    ASSERT_TRUE(Ok(sheet));
+    ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(StoredText(L"CurTaskPattern"), L"px2qs") << "the cancelled change came back";
     EXPECT_EQ(StoredText(L"CurAppPattern"), L"n3rqsca");
     EXPECT_EQ(StoredText(L"CurContactPattern"), L"c3n");
@@ -254,65 +198,46 @@ TEST_F(Pages, ASheetOverAnotherHasTitlesOfItsOwn) {
     EXPECT_EQ(StoredText(L"CurTaskPattern"), L"2pnqrsc");
 }
 
-TEST_F(Pages, HiddenNoteFolders) {
-    const std::wstring filters = std::wstring(kProductKey) + L"\\Filters";
-    CSettingsKey key(HKEY_LOCAL_MACHINE, filters.c_str(), true, true);
+class HiddenFolders : public Pages {
+  protected:
+    void Open(const Program& program) {
+        list_ = GetDlgItem(OpenPage(program, 4, 1, IDC_NOTES_FOLDERS), IDC_NOTES_FOLDERS);
+        ASSERT_TRUE(list_);
+    }
+    HWND list_ = nullptr;
+};
+
+TEST_F(HiddenFolders, AreKeptByName) {
+    CSettingsKey key = OpenProductKey(L"Filters");
     key.WriteString(L"HiddenFolders", L"gone|PERSONAL|personal");
     const wchar_t* const card[] = {L"\\Storage Card", L"\\Storage Card\\My Documents",
                                    L"\\Storage Card\\My Documents\\BUSINESS"};
     for (const wchar_t* const folder : card) CreateDirectoryW(folder, nullptr);
-    Program program(L"-P4:0");
-    const HWND sheet = program.Sheet(L"Note options");
-    TurnTo(sheet, 1);
-    const HWND list = GetDlgItem(Page(sheet, IDC_NOTES_FOLDERS), IDC_NOTES_FOLDERS);
-    ASSERT_TRUE(list);
-    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Business, of the device or the card
-    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
-    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
-    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Personal
-    ASSERT_TRUE(Ok(sheet));
+    const Program program;
+    Open(program);
+    SendKeys(list_, {VK_SPACE, VK_DOWN, VK_DOWN, VK_SPACE});  // Business of either, and Personal
+    ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(key.ReadString(L"HiddenFolders"), L"gone|business");
     for (const wchar_t* const folder : std::views::reverse(card)) RemoveDirectoryW(folder);
 }
 
-TEST_F(Pages, TooManyHiddenNoteFoldersAreRefused) {
-    const std::wstring filters = std::wstring(kProductKey) + L"\\Filters";
-    CSettingsKey key(HKEY_LOCAL_MACHINE, filters.c_str(), true, true);
+TEST_F(HiddenFolders, TooManyAreRefused) {
+    CSettingsKey key = OpenProductKey(L"Filters");
     const std::wstring stored = std::wstring(2046 - 9, L'x') + L"|personal";
     key.WriteString(L"HiddenFolders", stored.c_str());
-    Program program(L"-P4:0");
-    const HWND sheet = program.Sheet(L"Note options");
-    TurnTo(sheet, 1);
-    const HWND list = GetDlgItem(Page(sheet, IDC_NOTES_FOLDERS), IDC_NOTES_FOLDERS);
-    ASSERT_TRUE(list);
-    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Business
-    PostMessageW(sheet, WM_COMMAND, IDOK, 0);
-    ASSERT_TRUE(program.Dismiss());
+    const Program program;
+    Open(program);
+    SendKeys(list_, {VK_SPACE});  // Business
+    ASSERT_TRUE(IsRefused(program));
     EXPECT_EQ(key.ReadString(L"HiddenFolders"), stored);
-    SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
-    SendMessageW(list, WM_KEYDOWN, VK_SPACE, 0);  // Personal, whose name is as long
-    ASSERT_TRUE(Ok(sheet));
+    SendKeys(list_, {VK_DOWN, VK_SPACE});  // Personal, whose name is as long
+    ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(key.ReadString(L"HiddenFolders").substr(2046 - 9), L"|business");
 }
 
-TEST_F(Pages, UnlistedNumbersShowNothingAndStay) {
-    Put(L"Calendar_FirstYearWeek", 77);
-    Put(L"CalendarPeriod", 0x80000000);
-    Program program(L"-P1:0");
-    const HWND sheet = program.Sheet(L"Calendar options");
-    const HWND page = Page(sheet, IDC_CALENDAR_PERIOD);
-    ASSERT_TRUE(page);
-    EXPECT_EQ(Selected(page, IDC_CALENDAR_PERIOD), L"");
-    EXPECT_EQ(Selected(page, IDC_FIRST_YEAR_WEEK), L"");
-    ASSERT_TRUE(Ok(sheet));
-    EXPECT_EQ(Stored(L"Calendar_FirstYearWeek"), 77u);
-    EXPECT_EQ(Stored(L"CalendarPeriod"), 0x80000000u);
-    EXPECT_EQ(program.CloseAndWait(), 0u);
-}
-
 TEST_F(Pages, FocusScrollsALowPage) {
-    Program program(L"-P4:0");
-    const HWND page = Page(program.Sheet(L"Note options"), IDC_NOTES_LAYOUT);
+    const Program program;
+    const HWND page = OpenPage(program, 4, 0, IDC_NOTES_GROUP_BY);
     ASSERT_TRUE(page);
     const HWND first = GetDlgItem(page, IDC_NOTES_GROUP_BY);
     const HWND last = GetDlgItem(page, IDC_NOTES_LAYOUT);

@@ -10,10 +10,7 @@ class SkinsPage : public DeviceTest {};
 
 TEST_F(SkinsPage, AChoiceIsStoredAtOnceAndTakenBackWhenInvalid) {
     const std::wstring folder = kInstallFolder, skins = folder + L"Skins";
-    const std::wstring language =
-        L"\xFEFF"
-        L"Classic|Klassisch\r\nSkins|H\xFCllen\r\n";
-    ASSERT_TRUE(WriteBytes(kLanguageFile, language.data(), language.size() * 2));
+    ASSERT_TRUE(WriteLanguageFile(L"Classic|Klassisch\r\nSkins|H\xFCllen\r\n"));
     ASSERT_TRUE(CopyFileW((skins + L"\\NewStyle.zip").c_str(), (skins + L"\\Blue.ZIP").c_str(), 0));
     ASSERT_TRUE(CreateDirectoryW((skins + L"\\Empty").c_str(), nullptr));
     OpenProductKey().WriteString(L"SkinName", L"blue");
@@ -23,11 +20,7 @@ TEST_F(SkinsPage, AChoiceIsStoredAtOnceAndTakenBackWhenInvalid) {
     ASSERT_TRUE(page);
     EXPECT_EQ(TabText(sheet, 6), L"H\xFCllen");
     EXPECT_EQ(Selected(page, IDC_SKIN), L"Blue");
-    const auto choose = [page](const wchar_t* name) {
-        Select(page, IDC_SKIN,
-               static_cast<int>(SendDlgItemMessageW(page, IDC_SKIN, CB_FINDSTRINGEXACT, -1,
-                                                    reinterpret_cast<LPARAM>(name))));
-    };
+    const auto choose = [page](const wchar_t* name) { Select(page, IDC_SKIN, name); };
     choose(L"Empty");
     EXPECT_EQ(StoredText(L"SkinName"), L"blue");
     EXPECT_EQ(Selected(page, IDC_SKIN), L"Empty") << "the keys could not go on";

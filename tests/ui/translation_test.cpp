@@ -10,11 +10,6 @@ using namespace ui;
 
 class Translation : public DeviceTest {
   protected:
-    static bool WriteLanguageFile(const std::wstring& text) {
-        const std::wstring content = L"\xFEFF" + text;
-        return WriteBytes(kLanguageFile, content.data(),
-                          static_cast<DWORD>(content.size() * sizeof(wchar_t)));
-    }
     static std::wstring ReadLanguageFile() {
         const std::string bytes = ReadBytes(kLanguageFile);
         const void* const units = bytes.data();
@@ -65,53 +60,37 @@ TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
 TEST_F(Translation, LeavesNamesAndNumbersAlone) {
     ASSERT_TRUE(WriteLanguageFile(
         L"Tahoma|Falsch\r\n14|vierzehn\r\n12|zw\xF6lf\r\n120|hoch\r\nMine|Meine\r\n"
-        L"Latin|Lateinisch\r\nClassic|Klassisch\r\n"
         L"The height goes from %d to %d pixels.|%s bis %n%s\r\n"));
     Put(L"UseSystem", 0);
     Put(L"AutoSizeAdjust", 0);
     Put(L"TotalHeightL", 120);
     Put(L"CalendarPeriod", 14);
-    CSettingsKey(HKEY_LOCAL_MACHINE, (std::wstring(kProductKey) + L"\\Layouts").c_str(), true, true)
-        .WriteString(L"Mine", L"labc(abc)");
+    OpenProductKey(L"Layouts").WriteString(L"Mine", L"labc(abc)");
     OpenProductKey().WriteString(L"Contacts_layouts", L"Mine,Latin");
-    Program program(L"-P0:3");
-    HWND sheet = program.Sheet(L"General options");
-    HWND page = Page(sheet, IDC_FONT_FACE);
+    Program program;
+    HWND page = OpenPage(program, 0, 3, IDC_FONT_FACE);
     ASSERT_TRUE(page);
     EXPECT_EQ(Selected(page, IDC_FONT_FACE), L"Tahoma");
     EXPECT_EQ(Selected(page, IDC_FONT_SIZE), L"zw\xF6lf");
-    TurnTo(sheet, 0);
-    page = Page(sheet, IDC_HEIGHT);
+    TurnTo(sheet_, 0);
+    page = Page(sheet_, IDC_HEIGHT);
     ASSERT_TRUE(page);
     EXPECT_EQ(Text(page, IDC_HEIGHT), L"120");
     SetDlgItemTextW(page, IDC_HEIGHT, L"999");
-    PostMessageW(sheet, WM_COMMAND, IDOK, 0);
+    PostMessageW(sheet_, WM_COMMAND, IDOK, 0);
     const HWND box = program.Sheet(L"Lum Diary Options");
     ASSERT_TRUE(box);
     EXPECT_TRUE(Until([&] { return BoxSays(box, L"%s bis %n%s"); }));
     ASSERT_TRUE(Ok(box));
     SetDlgItemTextW(page, IDC_HEIGHT, L"130");
-    ASSERT_TRUE(Ok(sheet));
+    ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(StoredText(L"FontName"), L"Tahoma");
     EXPECT_EQ(Stored(L"FontHeight"), 12u);
-
-    program.Open(1, 0);
-    sheet = program.Sheet(L"Calendar options");
-    page = Page(sheet, IDC_CALENDAR_PERIOD);
-    ASSERT_TRUE(page);
-    EXPECT_EQ(Selected(page, IDC_CALENDAR_PERIOD), L"vierzehn");
-    ASSERT_TRUE(Ok(sheet));
+    EXPECT_EQ(Selected(OpenPage(program, 1, 0, IDC_CALENDAR_PERIOD), IDC_CALENDAR_PERIOD),
+              L"vierzehn");
+    ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(Stored(L"CalendarPeriod"), 14u);
-
-    program.Open(3, 0);
-    sheet = program.Sheet(L"Contact options");
-    page = Page(sheet, IDC_CONTACT_LAYOUT);
-    ASSERT_TRUE(page);
-    EXPECT_EQ(Selected(page, IDC_CONTACT_LAYOUT), L"Mine");
-    Select(page, IDC_CONTACT_LAYOUT, 1);
-    EXPECT_EQ(Selected(page, IDC_CONTACT_LAYOUT), L"Lateinisch");
-    ASSERT_TRUE(Ok(sheet));
-    EXPECT_EQ(StoredText(L"Contacts_layouts"), L"Mine,Latin");
+    EXPECT_EQ(Selected(OpenPage(program, 3, 0, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Mine");
 }
 
 TEST_F(Translation, MissingFileIsWrittenWithEveryText) {
@@ -161,16 +140,12 @@ TEST_F(Translation, PlaceWhereNoFileCanBe) {
 TEST_F(Translation, OddFilesDoNoHarm) {
     const std::string files[] = {
         "",
-        "\xFF",
-        std::string("\xFF\xFE", 2),
         std::string("\xFF\xFEG\0e\0n", 7),
-        "\\",
-        std::string(100, '\\') + "|" + std::string(10'000, 'x'),
         std::string("Task options|A\0Task options|B", 29),
         std::string(5'000'000, '|'),
     };
     for (const std::string& file : files) {
-        ASSERT_TRUE(WriteBytes(kLanguageFile, file.data(), static_cast<DWORD>(file.size())));
+        ASSERT_TRUE(WriteBytes(kLanguageFile, file.data(), file.size()));
         Program program(L"-P2:0");
         const bool cut = file.find("|A") != std::string::npos;
         EXPECT_TRUE(program.Sheet(cut ? L"A" : L"Task options")) << file.size();
