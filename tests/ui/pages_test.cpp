@@ -42,6 +42,12 @@ TEST_F(Pages, EveryControlIsStored) {
         const HWND page = OpenPage(program, first.entry, first.page, first.control);
         ASSERT_TRUE(page) << first.entry << ":" << first.page;
         for (const PageRow& row : rows) {
+            if (row.select == kClick) {
+                const bool inverted =
+                    row.control == IDC_PHONE_BACKSPACE || row.control == IDC_CONTACT_PHOTO_TEXT;
+                EXPECT_EQ(IsChecked(page, row.control) != inverted, row.stored == 0)
+                    << testing::PrintToString(row.name);
+            }
             EXPECT_TRUE(row.select == kClick ? ClickByKeys(page, row.control)
                                              : SelectByKeys(page, row.control, row.select))
                 << testing::PrintToString(row.name);
