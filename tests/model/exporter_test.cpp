@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "app/registry_exporter.h"
 #include "app/reload_after_import.h"
 #include "appearance/categories/category_list.h"
@@ -15,6 +13,7 @@
 #include "settings/diary_settings.h"
 #include "settings/keyboard_layouts.h"
 #include "settings/settings_key.h"
+#include "tests/registry.h"
 #include "tests/windows.h"
 
 namespace {
@@ -22,35 +21,10 @@ namespace {
 constexpr wchar_t kTree[] = L"\\Software\\Export Test";
 constexpr wchar_t kFile[] = L"\\My Documents\\test.dias";
 
-using Tree = std::map<std::wstring, std::wstring>;
-
-// Every value below a key: its path, and its type and data.
-void Collect(HKEY parent, const std::wstring& name, const std::wstring& path, Tree& tree) {
-    HKEY key = nullptr;
-    ASSERT_EQ(RegOpenKeyExW(parent, name.c_str(), 0, 0, &key), ERROR_SUCCESS);
-    std::vector<wchar_t> data(4096);
-    wchar_t text[256];
-    for (DWORD i = 0;; ++i) {
-        DWORD length = 256, type = 0, size = 8192;
-        if (RegEnumValueW(key, i, text, &length, nullptr, &type,
-                          reinterpret_cast<BYTE*>(data.data()), &size) != ERROR_SUCCESS) {
-            break;
-        }
-        tree[path + L"|" + text] =
-            std::to_wstring(type) + L":" + std::wstring(data.data(), (size + 1) / 2);
-    }
-    for (DWORD i = 0;; ++i) {
-        DWORD length = 256;
-        if (RegEnumKeyExW(key, i, text, &length, nullptr, nullptr, nullptr, nullptr)) break;
-        tree[path + L"\\" + text];
-        Collect(key, text, path + L"\\" + text, tree);
-    }
-    RegCloseKey(key);
-}
-Tree Everything() {
-    Tree tree;
-    Collect(HKEY_LOCAL_MACHINE, kTree, L"", tree);
-    return tree;
+RegistryValues Everything() {
+    RegistryValues values;
+    ReadValues(kTree, values);
+    return values;
 }
 
 class Exporter : public ::testing::Test {
@@ -81,6 +55,7 @@ class Exporter : public ::testing::Test {
 };
 
 TEST_F(Exporter, BringsATreeBack) {
+    using namespace std::string_literals;
     using namespace std::string_view_literals;
     const std::wstring deep = L"\\a\\\x0416\x4E2D\\c\\d\\e";
     Put(L"", L"", REG_SZ, "n\0o\0 \0n\0a\0m\0e\0\0\0"sv);
@@ -88,7 +63,7 @@ TEST_F(Exporter, BringsATreeBack) {
     Put(deep, L"\x0414\xD83D\xDE00", REG_SZ, "\x16\x04\x3D\xD8\0\0"sv);
     Put(deep, L"Number", REG_DWORD, "\xFF\xFF\xFF\xFF"sv);
     Put(L"\\a", L"Bytes", REG_BINARY, std::string(4096, '\xA5'));
-    const Tree before = Everything();
+    const RegistryValues before = Everything();
     Put(L"", L"VERSION", REG_DWORD, "1234"sv);
     Put(deep, L"Build", REG_MULTI_SZ, "\0\0"sv);  // Left out, and so no obstacle.
     // What cannot be read as a number is exported as one that says so.
@@ -102,9 +77,9 @@ TEST_F(Exporter, BringsATreeBack) {
     DeleteKeyTree(HKEY_LOCAL_MACHINE, kTree);
     Put(L"", L"Stays", REG_DWORD, "\1\0\0\0"sv);
     ASSERT_TRUE(RegistryExporter().Import(kFile));
-    Tree expected = before;
-    expected[L"|Stays"] = std::wstring(L"4:\1\0", 4);
-    expected[L"|TooLong"] = std::wstring(L"4:\xDEF0\0", 4);
+    RegistryValues expected = before;
+    expected[kTree + std::wstring(L"\\Stays")] = "\4\1\0\0\0"s;
+    expected[kTree + std::wstring(L"\\TooLong")] = "\4\xF0\xDE\0\0"s;
     EXPECT_EQ(Everything(), expected);
 }
 
@@ -125,7 +100,7 @@ TEST_F(Exporter, BringsBytesThatAreNoneBack) {
     Put(L"\\F", L"Last", REG_BINARY, "");
     Put(L"", L"Number", REG_DWORD, "1234");
     Put(L"", L"None", REG_BINARY, "");
-    const Tree before = Everything();
+    const RegistryValues before = Everything();
     ASSERT_TRUE(Export());
     DeleteKeyTree(HKEY_LOCAL_MACHINE, kTree);
     EXPECT_TRUE(RegistryExporter().Import(kFile));

@@ -1,12 +1,10 @@
-// The second mail program as it is on the furnished device, and the categories' volume.
+// The second mail program as it is on the furnished device.
 #include "pages/stores/mail2.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <set>
 
-#include "pages/stores/database_record.h"
 #include "settings/device.h"
 
 namespace {
@@ -97,34 +95,6 @@ TEST(Mail2, IsAbsentWithoutItsKey) {
     EXPECT_FALSE(mail2.IsInstalled());
     EXPECT_TRUE(mail2.dataFolder().empty());
     EXPECT_TRUE(mail2.accounts().empty());
-}
-
-TEST(PimVolume, HoldsTheCategories) {
-    DatabaseLayer& layer = GetDatabaseLayer();
-    const bool newer = IsNewerPocketPc();
-    EXPECT_EQ(CHECK_SYSTEMGUID(&layer.PimVolume()), !newer);
-    DatabaseRequest request;
-    request.name = newer ? L"CategoryMainDB" : L"\\Categories Database";
-    CEOID oid = 0;
-    const DatabaseHandle database = layer.Open(request, &oid);
-    ASSERT_TRUE(database);
-    std::wstring names;
-    std::set<std::vector<std::uint8_t>> identifiers;
-    const CEPROPID name = newer ? PropertyId(2, CEVT_LPWSTR) : PropertyId(0x4001, CEVT_LPWSTR);
-    const CEPROPID number = newer ? PropertyId(1, CEVT_RECID) : PropertyId(0x4002, CEVT_I2);
-    ForEachRecord(database.get(), {name, number}, [&](CEOID record, const DatabaseRecord& values) {
-        names += values.Text(0) + L";";
-        if (!newer) {
-            EXPECT_EQ(values.Number(1), record - 1);
-            return;
-        }
-        EXPECT_EQ(values.Identifier(1).size(), 16u);
-        EXPECT_TRUE(identifiers.insert(values.Identifier(1)).second);
-    });
-    EXPECT_TRUE(names.starts_with(L"Business;Personal;Holiday;Birthday;Work/Home;50%Kids;a*b;"));
-    DatabaseRequest byIdentifier;
-    byIdentifier.oid = oid;
-    EXPECT_TRUE(layer.Open(byIdentifier));
 }
 
 }  // namespace

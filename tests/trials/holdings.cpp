@@ -5,6 +5,7 @@
 #include "base/find_files.h"
 #include "base/read_file.h"
 #include "settings/settings_key.h"
+#include "tests/registry.h"
 #include "tests/ui/device.h"
 
 namespace {
@@ -18,23 +19,6 @@ constexpr const wchar_t* kKeys[] = {L"Software\\Lum Software House",
 std::string BytesOf(const std::wstring& path) {
     const auto bytes = ReadWholeFile(path);
     return bytes ? std::string(bytes->begin(), bytes->end()) : "unreadable";
-}
-
-void ReadKey(const std::wstring& path, std::map<std::wstring, std::string>& values) {
-    const OwnedKey key = OpenKey(HKEY_LOCAL_MACHINE, path.c_str());
-    wchar_t name[256];
-    BYTE data[4096];
-    for (DWORD i = 0;; ++i) {
-        DWORD length = 256, size = sizeof data, type = 0;
-        if (RegEnumValueW(key.get(), i, name, &length, nullptr, &type, data, &size)) break;
-        values[path + L"\\" + name] =
-            static_cast<char>(type) + std::string(reinterpret_cast<char*>(data), size);
-    }
-    for (DWORD i = 0, length = 256;
-         !RegEnumKeyExW(key.get(), i, name, &length, nullptr, nullptr, nullptr, nullptr);
-         ++i, length = 256) {
-        ReadKey(path + L"\\" + name, values);
-    }
 }
 
 void ReadFiles(const std::wstring& folder, const wchar_t* pattern,
@@ -93,7 +77,7 @@ void Compare(const std::map<std::wstring, std::string>& before,
 
 Holdings Holdings::Read() {
     Holdings stored;
-    for (const wchar_t* const key : kKeys) ReadKey(key, stored.values);
+    for (const wchar_t* const key : kKeys) ReadValues(key, stored.values);
     ReadFiles(std::wstring(kInstallFolder) + L"Icons\\", L"*", stored.files);
     ReadFiles(kInstallFolder, L"LumDiary_en.txt*", stored.files);
     ReadFiles(L"\\My Documents\\", L"*", stored.files);

@@ -1,9 +1,8 @@
 // Settings that come from a file while the program runs.
-#include <set>
-
 #include "app/registry_exporter.h"
 #include "resources/ids.h"
 #include "settings/settings_file.h"
+#include "tests/registry.h"
 #include "tests/ui/device.h"
 
 namespace {
@@ -44,24 +43,10 @@ class Import : public DeviceTest {
         SendMessageW(program.Main(), WM_NULL, 0, 0);  // Is served when all is done.
         return program.OpenSheets().empty();
     }
-    // The names of the product key's values and keys.
-    static std::set<std::wstring> Names() {
-        std::set<std::wstring> names;
-        std::wstring value;
-        CSettingsKey key = OpenProductKey();
-        for (bool more = key.FirstValueName(value); more; more = key.NextValueName(value)) {
-            names.insert(value);
-        }
-        HKEY opened = nullptr;
-        RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &opened);
-        wchar_t name[256];
-        for (DWORD i = 0, length = 256;
-             !RegEnumKeyExW(opened, i, name, &length, nullptr, nullptr, nullptr, nullptr);
-             ++i, length = 256) {
-            names.insert(std::wstring(L"\\") + name);
-        }
-        RegCloseKey(opened);
-        return names;
+    static RegistryValues Values() {
+        RegistryValues values;
+        ReadValues(kProductKey, values);
+        return values;
     }
 };
 
@@ -72,19 +57,19 @@ TEST_F(Import, StoresWhatTheFileHasAndReachesWhatIsLoaded) {
     Program program;
     OpenPage(program, 3, 0, IDC_CONTACT_LAYOUT);  // Loads the layouts.
     ASSERT_TRUE(Cancel(sheet_));
-    std::set<std::wstring> expected = Names();
-    EXPECT_TRUE(expected.insert(L"CalendarPeriod").second);
     Put(L"OneClick", 2);
-    expected.insert(L"OneClick");
+    RegistryValues expected = Values();
+    const std::wstring key = kProductKey;
+    expected[key + L"\\CalendarPeriod"] = std::string("\4\x1E\0\0\0", 5);
     ASSERT_TRUE(RunImport(program));
-    EXPECT_EQ(Stored(L"CalendarPeriod"), 30u);
-    EXPECT_EQ(Names(), expected);
+    EXPECT_TRUE(Values().contains(key + L"\\Layouts\\Mine"));
+    expected[key + L"\\Layouts\\Mine"] = Values()[key + L"\\Layouts\\Mine"];
+    EXPECT_EQ(Values(), expected);
     // The way back: what there was stays in a file, which can itself be imported.
     Put(L"OneClick", 3);
     ASSERT_TRUE(CopyFileW(kBefore, kFile, FALSE));
     ASSERT_TRUE(RunImport(program));
     EXPECT_EQ(Stored(L"OneClick"), 2u);
-    EXPECT_EQ(Names(), expected);
     OpenProductKey().WriteString(L"Contacts_layouts", L"Mine");
     EXPECT_EQ(Selected(OpenPage(program, 3, 0, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Mine");
     EXPECT_EQ(program.CloseAndWait(), 0u);
