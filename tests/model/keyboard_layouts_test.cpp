@@ -12,10 +12,7 @@ class Layouts : public ::testing::Test {
   protected:
     void SetUp() override { DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey); }
 
-    static CSettingsKey Key() {
-        constexpr wchar_t kPath[] = L"\\Software\\Lum Software House\\Lum Diary\\Layouts";
-        return CSettingsKey(HKEY_LOCAL_MACHINE, kPath, true, true);
-    }
+    static CSettingsKey Key() { return OpenProductKey(L"Layouts"); }
     static std::wstring Names(const KeyboardLayouts& layouts) {
         std::wstring names;
         for (int i = 0; i < layouts.Count(); ++i) names += layouts.NameAt(i) + L" ";

@@ -10,6 +10,7 @@
 #include "settings/diary_settings.h"
 #include "settings/install_path.h"
 #include "settings/settings_key.h"
+#include "tests/registry.h"
 
 namespace {
 
@@ -22,69 +23,59 @@ class Settings : public ::testing::Test {
         DeleteKeyTree(HKEY_LOCAL_MACHINE, kInstallKey);
     }
 
-    struct Raw {
-        LSTATUS status;
-        DWORD type = 0;
-        std::vector<BYTE> data = std::vector<BYTE>(256);
-    };
-
-    // What the registry holds, past the class under test.
-    static Raw Stored(const wchar_t* name) {
-        HKEY key = nullptr;
-        Raw raw{RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &key)};
-        if (raw.status != ERROR_SUCCESS) return raw;
-        DWORD size = static_cast<DWORD>(raw.data.size());
-        raw.status = RegQueryValueExW(key, name, nullptr, &raw.type, raw.data.data(), &size);
-        raw.data.resize(raw.status == ERROR_SUCCESS ? size : 0);
-        RegCloseKey(key);
-        return raw;
+    // The type and the bytes that the registry holds, past the class under test; empty when none.
+    static std::string Stored(const wchar_t* name) {
+        RegistryValues values;
+        ReadValues(kProductKey, values);
+        return values[kProductKey + std::wstring(L"\\") + name];
     }
-    static void Store(const wchar_t* name, DWORD type, const std::vector<BYTE>& data) {
+    static void Store(const wchar_t* name, DWORD type, const std::string& data) {
         HKEY key = nullptr;
         OpenProductKey();  // makes it
         ASSERT_EQ(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductKey, 0, 0, &key), ERROR_SUCCESS);
-        RegSetValueExW(key, name, 0, type, data.data(), static_cast<DWORD>(data.size()));
+        RegSetValueExW(key, name, 0, type, reinterpret_cast<const BYTE*>(data.data()),
+                       static_cast<DWORD>(data.size()));
         RegCloseKey(key);
     }
-    static std::vector<BYTE> Bytes(const std::wstring& text) {
-        const auto* begin = reinterpret_cast<const BYTE*>(text.c_str());
+    static std::string Bytes(const std::wstring& text) {
+        const auto* begin = reinterpret_cast<const char*>(text.c_str());
         return {begin, begin + (text.size() + 1) * sizeof(wchar_t)};
+    }
+    // As it is stored.
+    static std::string Number(DWORD number) {
+        return "\4" + std::string(reinterpret_cast<const char*>(&number), sizeof number);
     }
 };
 
 TEST_F(Settings, MissingNumberYieldsItsDefaultAndCreatesIt) {
     CSettingsKey key = OpenProductKey();
     EXPECT_EQ(key.ReadDword(L"Number", 7), 7u);
-    const Raw stored = Stored(L"Number");
-    EXPECT_EQ(stored.type, static_cast<DWORD>(REG_DWORD));
-    EXPECT_EQ(stored.data, (std::vector<BYTE>{7, 0, 0, 0}));
+    EXPECT_EQ(Stored(L"Number"), Number(7));
     EXPECT_EQ(key.ReadDword(L"Number", 8), 7u);
 
     EXPECT_EQ(key.ReadDword(L"None", SETTINGS_NO_DEFAULT), 0xDEF0u);
-    EXPECT_EQ(Stored(L"None").status, ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(Stored(L"None"), "");
 }
 
 TEST_F(Settings, NumbersOfOtherTypes) {
-    Store(L"Short", REG_BINARY, {1, 2});
-    Store(L"Four", REG_BINARY, {4, 3, 2, 1});
+    Store(L"Short", REG_BINARY, "\1\2");
+    Store(L"Four", REG_BINARY, "\4\3\2\1");
     Store(L"Text", REG_SZ, Bytes(L"long"));
     CSettingsKey key = OpenProductKey();
     EXPECT_EQ(key.ReadDword(L"Short", 9), 0x0201u);
     EXPECT_EQ(key.ReadDword(L"Four", 9), 0x01020304u);
     EXPECT_EQ(key.ReadDword(L"Text", 9), 9u);
-    EXPECT_EQ(Stored(L"Text").type, static_cast<DWORD>(REG_DWORD));
+    EXPECT_EQ(Stored(L"Text"), Number(9));
 }
 
 TEST_F(Settings, Texts) {
     CSettingsKey key = OpenProductKey();
     EXPECT_EQ(key.ReadString(L"None"), L"");
-    EXPECT_EQ(Stored(L"None").status, ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(Stored(L"None"), "");
     EXPECT_EQ(key.ReadString(L"Text", L"Ünï"), L"Ünï");
-    const Raw stored = Stored(L"Text");
-    EXPECT_EQ(stored.type, static_cast<DWORD>(REG_SZ));
-    EXPECT_EQ(stored.data, Bytes(L"Ünï"));
+    EXPECT_EQ(Stored(L"Text"), "\1" + Bytes(L"Ünï"));
     EXPECT_TRUE(key.WriteString(L"Empty", L""));
-    EXPECT_EQ(Stored(L"Empty").data.size(), 2u);
+    EXPECT_EQ(Stored(L"Empty"), "\1" + Bytes(L""));
 
     Store(L"Inner", REG_SZ, Bytes(std::wstring(L"a\0b", 3)));
     Store(L"Odd", REG_BINARY, {'x', 0, 'y'});
@@ -175,20 +166,20 @@ TEST_F(Settings, InstallPath) {
 TEST_F(Settings, SaveWritesAllButTheTextOffset) {
     CDiarySettings settings;
     settings.Load();
-    EXPECT_EQ(Stored(L"dbgTextOffset").data, (std::vector<BYTE>{4, 0, 0, 0}));
-    EXPECT_EQ(Stored(L"ContPreview_ShowAddressMode").data, (std::vector<BYTE>{0, 0, 0, 0}));
-    EXPECT_EQ(Stored(L"CurAppPattern").data, Bytes(L"n3rqsca"));
+    EXPECT_EQ(Stored(L"dbgTextOffset"), Number(4));
+    EXPECT_EQ(Stored(L"ContPreview_ShowAddressMode"), Number(0));
+    EXPECT_EQ(Stored(L"CurAppPattern"), "\1" + Bytes(L"n3rqsca"));
     settings.taskPattern.mode = 2;
     settings.textOffset = 99;
     settings.noteType6 = 0;
     settings.taskPlacement = -5;
     DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
     settings.Save();
-    EXPECT_EQ(Stored(L"CurTaskPattern").data, Bytes(L"p2nqrsc"));
-    EXPECT_EQ(Stored(L"NotesType6Enabled").data, (std::vector<BYTE>{0, 0, 0, 0}));
-    EXPECT_EQ(Stored(L"App_TaskShowMultiday").data, (std::vector<BYTE>{0xFB, 0xFF, 0xFF, 0xFF}));
-    EXPECT_EQ(Stored(L"EmailConfirmDeletion").data, (std::vector<BYTE>{1, 0, 0, 0}));
-    EXPECT_EQ(Stored(L"dbgTextOffset").status, ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(Stored(L"CurTaskPattern"), "\1" + Bytes(L"p2nqrsc"));
+    EXPECT_EQ(Stored(L"NotesType6Enabled"), Number(0));
+    EXPECT_EQ(Stored(L"App_TaskShowMultiday"), Number(static_cast<DWORD>(-5)));
+    EXPECT_EQ(Stored(L"EmailConfirmDeletion"), Number(1));
+    EXPECT_EQ(Stored(L"dbgTextOffset"), "");
 }
 
 // Names are the same where a key of the registry has but one value for both.

@@ -29,36 +29,23 @@ Bytes Read(const std::wstring& folder, const std::string& name) {
 
 TEST(SkinSource, ArchivesYieldIntactMembersOnly) {
     constexpr std::uint32_t kNone = ~0u;
-    struct Case {
-        const wchar_t* archive;
-        bool opens;
-        std::uint32_t size;
-        bool isRead;
-    };
-    for (const Case& c : {
-             Case{L"stored", true, 30000, true},
-             Case{L"deflated", true, 30000, true},
-             Case{L"data_descriptor", true, 30000, true},
-             Case{L"zip64", true, 30000, true},
-             Case{L"comment", true, 30000, true},
-             Case{L"folders", true, 30000, true},
-             Case{L"encrypted", true, kNone, false},
-             Case{L"other_names", true, kNone, false},
-             Case{L"bzip2", true, 30000, false},
-             Case{L"largest", true, 16777216, true},
-             Case{L"too_large", true, kNone, false},
-             Case{L"claims_more", true, 1000000, false},
-             Case{L"claims_less", true, 100, false},
-             Case{L"cut", false, kNone, false},
-         }) {
-        SCOPED_TRACE(testing::PrintToString(c.archive));
+    const std::tuple<const wchar_t*, bool, std::uint32_t, bool> cases[] = {
+        {L"stored", true, 30000, true},          {L"deflated", true, 30000, true},
+        {L"data_descriptor", true, 30000, true}, {L"zip64", true, 30000, true},
+        {L"comment", true, 30000, true},         {L"folders", true, 30000, true},
+        {L"encrypted", true, kNone, false},      {L"other_names", true, kNone, false},
+        {L"bzip2", true, 30000, false},          {L"largest", true, 16777216, true},
+        {L"too_large", true, kNone, false},      {L"claims_more", true, 1000000, false},
+        {L"claims_less", true, 100, false},      {L"cut", false, kNone, false}};
+    for (const auto& [name, opens, size, isRead] : cases) {
+        SCOPED_TRACE(testing::PrintToString(name));
         SkinSource source;
-        EXPECT_EQ(source.Open(kArchives + c.archive + L".zip"), c.opens);
-        EXPECT_EQ(source.IsOpen(), c.opens);
-        EXPECT_EQ(source.GetMemberSize("icons.bmp").value_or(kNone), c.size);
+        EXPECT_EQ(source.Open(kArchives + name + L".zip"), opens);
+        EXPECT_EQ(source.IsOpen(), opens);
+        EXPECT_EQ(source.GetMemberSize("icons.bmp").value_or(kNone), size);
         const std::optional<Bytes> bytes = source.ReadMember("icons.bmp");
-        ASSERT_EQ(bytes.has_value(), c.isRead);
-        if (!bytes || c.size != 30000) continue;
+        ASSERT_EQ(bytes.has_value(), isRead);
+        if (!bytes || size != 30000) continue;
         for (std::size_t i = 0; i < bytes->size(); ++i) ASSERT_EQ((*bytes)[i], i * 7 % 251);
     }
 }

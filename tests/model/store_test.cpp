@@ -225,31 +225,26 @@ TEST_F(Databases, SortAndSeek) {
     const DatabaseHandle database = Open(guid_, oid, kText);
     CEPROPVAL b = Text(L"B"), z = Text(L"z"), number = Number(3);
     const auto pointer = [](const CEPROPVAL& value) { return reinterpret_cast<DWORD_PTR>(&value); };
-    struct Case {
-        DWORD type;
-        DWORD_PTR value;
-        int index;  // -1: not found
-    };
-    for (const Case& c : {
-             Case{CEDB_SEEK_BEGINNING, 2, 2},
-             Case{CEDB_SEEK_CURRENT, 2, 4},
-             Case{CEDB_SEEK_CURRENT, static_cast<DWORD_PTR>(-1), 3},
-             Case{CEDB_SEEK_END, 0, 6},
-             Case{CEDB_SEEK_END, 6, 0},
-             Case{CEDB_SEEK_END, 7, -1},
-             Case{CEDB_SEEK_VALUEFIRSTEQUAL, pointer(b), 1},
-             Case{CEDB_SEEK_VALUENEXTEQUAL, pointer(b), 2},
-             Case{CEDB_SEEK_VALUENEXTEQUAL, pointer(b), -1},
-             Case{CEDB_SEEK_VALUESMALLER, pointer(b), 0},
-             Case{CEDB_SEEK_VALUEGREATER, pointer(b), IsNewerPocketPc() ? 3 : 1},
-             Case{CEDB_SEEK_VALUEGREATER, pointer(z), -1},
-             Case{CEDB_SEEK_VALUEFIRSTEQUAL, pointer(number), -1},  // not the order's property
-             Case{CEDB_SEEK_CEOID, oid, -1},
-             Case{CEDB_SEEK_BEGINNING, 7, -1},
-         }) {
+    const std::tuple<DWORD, DWORD_PTR, int> cases[] = {
+        {CEDB_SEEK_BEGINNING, 2, 2},
+        {CEDB_SEEK_CURRENT, 2, 4},
+        {CEDB_SEEK_CURRENT, static_cast<DWORD_PTR>(-1), 3},
+        {CEDB_SEEK_END, 0, 6},
+        {CEDB_SEEK_END, 6, 0},
+        {CEDB_SEEK_END, 7, -1},
+        {CEDB_SEEK_VALUEFIRSTEQUAL, pointer(b), 1},
+        {CEDB_SEEK_VALUENEXTEQUAL, pointer(b), 2},
+        {CEDB_SEEK_VALUENEXTEQUAL, pointer(b), -1},
+        {CEDB_SEEK_VALUESMALLER, pointer(b), 0},
+        {CEDB_SEEK_VALUEGREATER, pointer(b), IsNewerPocketPc() ? 3 : 1},
+        {CEDB_SEEK_VALUEGREATER, pointer(z), -1},
+        {CEDB_SEEK_VALUEFIRSTEQUAL, pointer(number), -1},  // not the order's property
+        {CEDB_SEEK_CEOID, oid, -1},
+        {CEDB_SEEK_BEGINNING, 7, -1}};
+    for (const auto& [type, value, expected] : cases) {  // -1: not found
         DWORD index = 0;
-        const CEOID found = CeSeekDatabase(database.get(), c.type, c.value, &index);
-        EXPECT_EQ(found ? static_cast<int>(index) : -1, c.index) << c.type << ' ' << c.index;
+        const CEOID found = CeSeekDatabase(database.get(), type, value, &index);
+        EXPECT_EQ(found ? static_cast<int>(index) : -1, expected) << type << ' ' << expected;
     }
 }
 
