@@ -196,8 +196,8 @@ TEST(Device, StartsProgramsFromWindowsWithArgumentsAlone) {
     HWND box = nullptr;
     EXPECT_TRUE(Until([&] { return IsWindowVisible(box = FindWindowW(L"#32770", L"Help")); }));
     Sleep(300);  // Focus has settled before a person can answer.
-    PostMessageW(box, WM_COMMAND, IDOK, 0);
     EXPECT_TRUE(Until([&] {
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
         return WaitForSingleObject(process.hProcess, 0) == WAIT_OBJECT_0 &&
                GetForegroundWindow() == asking;
     }));
