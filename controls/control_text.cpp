@@ -76,6 +76,13 @@ int WidestRow(HWND list) {
 
 }  // namespace
 
+RECT RectInDialog(HWND dialog, HWND control) {
+    RECT rect = {};
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 bool IsOfClass(HWND control, const wchar_t* className) {
     wchar_t name[32] = {};
     GetClassNameW(control, name, 32);

@@ -4,7 +4,10 @@
 
 #include "controls/dialog_layout.h"
 
-// What a control needs for its text, measured in its font.
+// Where a control stands, and what it needs for its text, measured in its font.
+
+// As the dialog is scrolled now.
+RECT RectInDialog(HWND dialog, HWND control);
 
 bool IsOfClass(HWND control, const wchar_t* className);
 ControlKind KindOf(HWND control);

@@ -11,6 +11,7 @@
 #include "app/language/module.h"
 #include "appearance/drawing/fonts.h"
 #include "base/scale.h"
+#include "controls/control_text.h"
 #include "controls/launch_help.h"
 #include "controls/title_band.h"
 #include "resources/ids.h"
@@ -35,13 +36,6 @@ int ClientHeight(HWND hwnd) {
     RECT client = {};
     GetClientRect(hwnd, &client);
     return client.bottom;
-}
-
-RECT ControlRect(HWND dialog, HWND control) {
-    RECT rect = {};
-    GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
 }
 
 }  // namespace
@@ -275,7 +269,7 @@ void FullScreenDialog::ScrollTo(int position) {
 }
 
 void FullScreenDialog::ScrollIntoView(HWND control) {
-    const RECT rect = ControlRect(hwnd(), control);
+    const RECT rect = RectInDialog(hwnd(), control);
     const int margin = ScaleY(kFocusMargin);
     const int height = ClientHeight(hwnd());
     const int position = ScrollPosition();

@@ -33,13 +33,6 @@ bool IsCut(const ControlPlace& place) {
     return place.shown && !breaks && place.textWidth > place.right - place.left;
 }
 
-RECT RectInDialog(HWND dialog, HWND control) {
-    RECT rect = {};
-    GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
 }  // namespace
 
 void TemplateLayout::Attach(HWND dialog, unsigned templateId) {
