@@ -68,6 +68,12 @@ class KitTest(unittest.TestCase):
 
     def run_kit(self, *arguments):
         """The exit code and the bytes of the output."""
+        result = self.run_once(*arguments)
+        # Beside other tests Wine has once answered 1 without a word where it should have started the tool. What
+        # the tool itself answers, it answers again.
+        return self.run_once(*arguments) if "wine" in TOOL[0] and result == (1, b"") else result
+
+    def run_once(self, *arguments):
         # Not a pipe, which Wine's services would keep open.
         with tempfile.TemporaryFile() as output:
             code = subprocess.run([*TOOL, *arguments], cwd=self.folder, stdout=output, stderr=subprocess.DEVNULL,
