@@ -72,13 +72,16 @@ std::optional<LRESULT> MainFrame::OnMessage(UINT message, WPARAM wParam, LPARAM 
             return 0;
         case WM_SETFOCUS: SetFocus(listView_); return 0;
         case WM_SIZE:
-            if (!listView_) return 0;
-            // The list arranges its entries before it shows or hides a scroll bar. So first there
-            // is none, then the one that is needed, then they are arranged beside it.
-            for (const int height : {kAnyHeight, HIWORD(lParam) - 1, int{HIWORD(lParam)}}) {
-                MoveWindow(listView_, 0, 0, LOWORD(lParam), height, TRUE);
-            }
+            // Before it is shown it gets its last size.
+            if (IsWindowVisible(hwnd())) LayOut({LOWORD(lParam), HIWORD(lParam)});
             return 0;
+        case WM_SHOWWINDOW:
+            if (wParam) {
+                RECT area;
+                GetClientRect(hwnd(), &area);
+                LayOut({area.right, area.bottom});
+            }
+            return std::nullopt;
     }
     return std::nullopt;
 }
@@ -162,6 +165,18 @@ void MainFrame::FillListView() {
     LVITEMW first = {};
     first.stateMask = first.state = LVIS_FOCUSED;
     SendMessageW(listView_, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&first));
+}
+
+// The list arranges its entries before it shows or hides a scroll bar. So first there is none, then
+// the one that is needed, then they are arranged beside it.
+void MainFrame::LayOut(SIZE client) {
+    if (!listView_) return;
+    const auto size = [&](LONG height) { MoveWindow(listView_, 0, 0, client.cx, height, TRUE); };
+    size(kAnyHeight);
+    RECT entries = {};
+    SendMessageW(listView_, LVM_GETVIEWRECT, 0, reinterpret_cast<LPARAM>(&entries));
+    if (entries.bottom - entries.top > client.cy) size(client.cy - 1);
+    size(client.cy);
 }
 
 bool MainFrame::OnCommand(int id) {

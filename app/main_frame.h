@@ -29,6 +29,7 @@ class MainFrame : public Window {
     void OnClose();
     void CreateListView();
     void FillListView();
+    void LayOut(SIZE client);
     bool OnCommand(int id);
     void OnInitMenuPopup(HMENU menu);
     std::optional<LRESULT> OnNotify(const NMHDR& header);

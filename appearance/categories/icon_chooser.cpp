@@ -73,7 +73,7 @@ bool IconChooser::OnCommand(int id, int code) {
         case IDOK:
             OpenProductKey().Write(settings::IconSetId,
                                    static_cast<std::uint32_t>(sources_->shown().value_or(0)));
-            if (const std::wstring* const selected = list_.SelectedPath()) path_ = *selected;
+            if (const auto selected = list_.SelectedPath()) path_ = *selected;
             break;
     }
     return FullScreenDialog::OnCommand(id, code);

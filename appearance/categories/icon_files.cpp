@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "appearance/categories/icon_picture.h"
 #include "appearance/categories/icon_size.h"
 #include "base/find_files.h"
 #include "base/mapped_file.h"
@@ -55,9 +56,10 @@ OwnedBitmap LoadIconBitmap(const std::wstring& path) {
 bool HasIcons(const std::wstring& folder) {
     const int largest = ScaleY(kLargestIcon);
     for (const std::wstring& name : FindBitmapFiles(folder)) {
-        const std::wstring path = JoinPath(folder, name);
-        const std::optional<BitmapSize> size = ReadBitmapSize(MappedFile(path).bytes());
-        if (size && size->width <= largest && size->height <= largest && LoadIconBitmap(path))
+        const MappedFile file(JoinPath(folder, name));
+        const std::optional<BitmapSize> size = ReadBitmapSize(file.bytes());
+        if (size && size->width <= largest && size->height <= largest &&
+            ReadIconPicture(file.bytes()))
             return true;
     }
     return false;

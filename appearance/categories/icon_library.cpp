@@ -23,27 +23,24 @@ void IconLibrary::LoadFolder(const std::wstring& folder) {
     const auto isSame = [&](const std::wstring& other) { return IsSameName(other, name); };
     if (std::any_of(loadedFolders_.begin(), loadedFolders_.end(), isSame)) return;
 
+    loadedFolders_.push_back(std::move(name));
     const IconDigester digester;
-    for (const std::wstring& file : FindBitmapFiles(folder)) {
-        Icon icon;
-        icon.path = JoinPath(folder, file);
-        std::optional<IconDigest> digest;
-        {
-            const MappedFile mapped(icon.path);
-            const std::optional<BitmapSize> size = ReadBitmapSize(mapped.bytes());
-            if (!size || size->width > ScaleX(kLargestIcon) || size->height > ScaleY(kLargestIcon))
-                continue;
-            icon.width = size->width;
-            icon.height = size->height;
-            digest = digester.Digest(mapped.bytes());
-        }
-        icon.bitmap.Reset(SHLoadDIBitmap(icon.path.c_str()));
-        if (!icon.bitmap) continue;
+    const int largestWidth = ScaleX(kLargestIcon), largestHeight = ScaleY(kLargestIcon);
+    for (std::wstring& file : FindBitmapFiles(folder)) {
+        Icon icon = {&loadedFolders_.back(), std::move(file)};
+        const MappedFile mapped(icon.Path());
+        const std::optional<BitmapSize> size = ReadBitmapSize(mapped.bytes());
+        if (!size || size->width > largestWidth || size->height > largestHeight) continue;
+        std::optional<IconPicture> picture = ReadIconPicture(mapped.bytes());
+        if (!picture) continue;
+        icon.picture = std::move(*picture);
+        const std::optional<IconDigest> digest = digester.Digest(mapped.bytes());
         Group& group = digest ? GroupOf(*digest) : groups_.front();
         group.icons.push_back(std::move(icon));
     }
-    loadedFolders_.push_back(std::move(name));
 }
+
+std::wstring IconLibrary::Icon::Path() const { return JoinPath(*folder, name); }
 
 IconLibrary::Group& IconLibrary::GroupOf(const IconDigest& digest) {
     const std::optional<std::size_t> found = catalogue_.FindGroup(digest);

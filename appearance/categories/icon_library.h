@@ -1,10 +1,11 @@
 #pragma once
 
+#include <deque>
 #include <string>
 #include <vector>
 
 #include "appearance/categories/icon_catalogue.h"
-#include "base/owned_handle.h"
+#include "appearance/categories/icon_picture.h"
 
 // The colour of an icon's bitmap that is not painted.
 inline constexpr COLORREF kIconTransparentColor = 0x00FF00;
@@ -13,15 +14,17 @@ inline constexpr COLORREF kIconTransparentColor = 0x00FF00;
 // does not know is always there, and first.
 class IconLibrary {
   public:
+    // There may be thousands, so none has a bitmap of the system's.
     struct Icon {
-        std::wstring path;
-        OwnedBitmap bitmap;
-        int width = 0;  // pixels
-        int height = 0;
+        const std::wstring* folder = nullptr;  // the library's
+        std::wstring name;
+        IconPicture picture;
+
+        std::wstring Path() const;
     };
     struct Group {
         std::wstring title;  // translated
-        std::vector<Icon> icons;
+        std::deque<Icon> icons;
     };
 
     // With the catalogue of the installation folder, if it has one.
@@ -40,5 +43,5 @@ class IconLibrary {
     IconCatalogue catalogue_;
     std::vector<std::size_t> positions_;  // of the catalogue's groups in groups_; 0 for not there
     std::vector<Group> groups_;
-    std::vector<std::wstring> loadedFolders_;
+    std::deque<std::wstring> loadedFolders_;
 };

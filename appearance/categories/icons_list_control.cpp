@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/language/module.h"
+#include "appearance/categories/icon_size.h"
 #include "appearance/drawing/theme_colors.h"
 #include "base/scale.h"
 
@@ -76,8 +77,8 @@ IconGridMetrics MetricsFor(const IconLibrary* library) {
     if (library) {
         for (const IconLibrary::Group& group : library->groups()) {
             for (const IconLibrary::Icon& icon : group.icons) {
-                width = std::max(width, icon.width);
-                height = std::max(height, icon.height);
+                width = std::max<int>(width, icon.picture.width);
+                height = std::max<int>(height, icon.picture.height);
             }
         }
     }
@@ -114,6 +115,7 @@ bool IconsListControl::Create(HWND parent, int id, const RECT& rect, MarkPainter
 
 void IconsListControl::Show(const IconLibrary* library) {
     library_ = library;
+    metrics_ = MetricsFor(library);
     expanded_.assign(library ? library->groups().size() : 0, true);
     selected_.reset();
     grid_ = IconGrid();  // of the library before
@@ -129,9 +131,9 @@ const IconLibrary::Icon* IconsListControl::SelectedIcon() const {
                 .icons[static_cast<std::size_t>(selected_->icon)];
 }
 
-const std::wstring* IconsListControl::SelectedPath() const {
+std::optional<std::wstring> IconsListControl::SelectedPath() const {
     const IconLibrary::Icon* const icon = SelectedIcon();
-    return icon ? &icon->path : nullptr;
+    return icon ? std::optional(icon->Path()) : std::nullopt;
 }
 
 std::optional<LRESULT> IconsListControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -169,7 +171,7 @@ void IconsListControl::Arrange() {
         const auto& icons = library_->groups()[static_cast<std::size_t>(group)].icons;
         shapes.push_back({static_cast<int>(icons.size()), IsExpanded(group)});
     }
-    grid_ = IconGrid(MetricsFor(library_), client.right, std::move(shapes));
+    grid_ = IconGrid(metrics_, client.right, std::move(shapes));
     ScrollTo(Position());
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
@@ -330,13 +332,20 @@ void IconsListControl::Paint(HDC dc, const RECT& dirty) const {
     SetBkMode(dc, TRANSPARENT);
     const HGDIOBJ font = font_ ? font_ : GetStockObject(SYSTEM_FONT);
     const SelectedObject selectedFont(dc, font);
+    // Where an icon's picture is unfolded before it is painted without its background.
+    const OwnedDc canvas(CreateCompatibleDC(dc));
+    const OwnedBitmap bitmap(
+        CreateCompatibleBitmap(dc, ScaleX(kLargestIcon), ScaleY(kLargestIcon)));
+    if (!canvas || !bitmap) return;
+    const SelectedObject selectedBitmap(canvas.get(), bitmap.get());
     const int top = dirty.top + Position();
     const int bottom = dirty.bottom + Position();
     const IconGrid::Range groups = grid_.GroupsWithin(top, bottom);
     for (int group = groups.begin; group < groups.end; ++group) {
         PaintHeader(dc, group);
         const IconGrid::Range icons = grid_.IconsWithin(group, top, bottom);
-        for (int icon = icons.begin; icon < icons.end; ++icon) PaintIcon(dc, {group, icon});
+        for (int icon = icons.begin; icon < icons.end; ++icon)
+            PaintIcon(dc, canvas.get(), {group, icon});
     }
 }
 
@@ -362,13 +371,18 @@ void IconsListControl::PaintHeader(HDC dc, int group) const {
     PaintTitle(dc, text, shown.title, L" (" + std::to_wstring(shown.icons.size()) + L")");
 }
 
-void IconsListControl::PaintIcon(HDC dc, const IconPlace& place) const {
+void IconsListControl::PaintIcon(HDC dc, HDC canvas, const IconPlace& place) const {
     const RECT cell = OnWindow(grid_.AreaOf(place));
     if (selected_ == place) FillWith(dc, cell, COLOR_HIGHLIGHT);
     const IconLibrary::Icon& icon = library_->groups()[static_cast<std::size_t>(place.group)]
                                         .icons[static_cast<std::size_t>(place.icon)];
-    const int left = (cell.left + cell.right - icon.width) / 2;
-    const int top = (cell.top + cell.bottom - icon.height) / 2;
-    TransparentImage(dc, left, top, icon.width, icon.height, icon.bitmap.get(), 0, 0, icon.width,
-                     icon.height, kIconTransparentColor);
+    const IconPicture& picture = icon.picture;
+    const int width = picture.width, height = picture.height;
+    const void* const bytes = picture.bytes.data();
+    const auto* const info = static_cast<const BITMAPINFO*>(bytes);
+    StretchDIBits(canvas, 0, 0, width, height, 0, 0, width, height,
+                  picture.bytes.data() + picture.pixels, info, DIB_RGB_COLORS, SRCCOPY);
+    TransparentImage(dc, (cell.left + cell.right - width) / 2,
+                     (cell.top + cell.bottom - height) / 2, width, height, canvas, 0, 0, width,
+                     height, kIconTransparentColor);
 }

@@ -32,8 +32,8 @@ class IconsListControl : public Window {
     // is until the next call (null: empty).
     void Show(const IconLibrary* library);
 
-    // The file of the selected icon; null when none is selected.
-    const std::wstring* SelectedPath() const;
+    // The file of the selected icon; none when none is selected.
+    std::optional<std::wstring> SelectedPath() const;
 
   protected:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -62,9 +62,11 @@ class IconsListControl : public Window {
     void OnPaint();
     void Paint(HDC dc, const RECT& dirty) const;
     void PaintHeader(HDC dc, int group) const;
-    void PaintIcon(HDC dc, const IconPlace& place) const;
+    // `canvas` has room for the picture.
+    void PaintIcon(HDC dc, HDC canvas, const IconPlace& place) const;
 
     const IconLibrary* library_ = nullptr;
+    IconGridMetrics metrics_ = {};  // of the library
     MarkPainter paintMark_;
     HFONT font_ = nullptr;  // the parent's
     IconGrid grid_;

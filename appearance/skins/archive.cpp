@@ -55,7 +55,8 @@ int ZCALLBACK NoErrorOfBytes(voidpf, voidpf) { return 0; }
 
 }  // namespace
 
-std::unique_ptr<Archive> Archive::OfBytes(std::span<const std::uint8_t> bytes) {
+std::unique_ptr<Archive> Archive::OfBytes(std::span<const std::uint8_t> bytes,
+                                          std::shared_ptr<const void> owner) {
     zlib_filefunc64_def functions = {};
     functions.zopen64_file = OpenTheBytes;
     functions.zread_file = ReadFromBytes;
@@ -66,7 +67,7 @@ std::unique_ptr<Archive> Archive::OfBytes(std::span<const std::uint8_t> bytes) {
     functions.zerror_file = NoErrorOfBytes;
     functions.opaque = &bytes;
     const unzFile handle = unzOpen2_64("", &functions);
-    return handle ? std::unique_ptr<Archive>(new Archive(handle)) : nullptr;
+    return handle ? std::unique_ptr<Archive>(new Archive(handle, std::move(owner))) : nullptr;
 }
 
 Archive::~Archive() { unzClose(handle_); }

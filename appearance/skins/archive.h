@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 // No member of an archive, and no file of a skin, is read when it is larger than this.
@@ -16,8 +17,9 @@ class Archive {
     // Opens a file whose name passes through the ANSI code page: where that lacks one of its
     // characters, the file is not found. Null when it is no archive.
     static std::unique_ptr<Archive> Open(const std::wstring& path);
-    // The same of an archive's bytes, which its user keeps for as long.
-    static std::unique_ptr<Archive> OfBytes(std::span<const std::uint8_t> bytes);
+    // The same of an archive's bytes. The archive keeps what they belong to, or else its user does.
+    static std::unique_ptr<Archive> OfBytes(std::span<const std::uint8_t> bytes,
+                                            std::shared_ptr<const void> owner = nullptr);
     ~Archive();
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;
@@ -29,7 +31,9 @@ class Archive {
     std::optional<std::vector<std::uint8_t>> ReadMember(const char* name);
 
   private:
-    explicit Archive(void* handle) : handle_(handle) {}
+    Archive(void* handle, std::shared_ptr<const void> owner)
+        : owner_(std::move(owner)), handle_(handle) {}
 
+    std::shared_ptr<const void> owner_;
     void* handle_;  // of unzip.h
 };

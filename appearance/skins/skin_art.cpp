@@ -27,28 +27,29 @@ constexpr ItemIcon kIconPieces[kSkinIconCount] = {
 bool OnHighResolution() { return IsHighResolution(HorizontalDpi()); }
 SkinMembers Members() { return SkinMembersFor(HorizontalDpi()); }
 
-// Cuts a bitmap into squares, row by row from its upper left corner.
+// Cuts a bitmap into squares, row by row from its upper left corner. A row of them is added at
+// once.
 OwnedImageList CutSquares(const BitmapView& view, int size) {
+    const SquareGrid grid(view, size);
     OwnedImageList list(ImageList_Create(size, size, ILC_COLOR | ILC_MASK, kTabIconCount, 1));
-    if (!list) return {};
+    if (!list || grid.Count() == 0) return list;
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size;
+    info.bmiHeader.biWidth = size * grid.columns;
     info.bmiHeader.biHeight = -size;
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 24;
-    const std::size_t stride = (3 * static_cast<std::size_t>(size) + 3) / 4 * 4;
-    const SquareGrid grid(view, size);
-    for (int i = 0; i < grid.Count(); ++i) {
+    const std::size_t used = 3 * static_cast<std::size_t>(info.bmiHeader.biWidth);
+    const std::size_t stride = (used + 3) / 4 * 4;
+    for (int top = 0; top < size * grid.rows; top += size) {
         void* pixels = nullptr;
-        const OwnedBitmap square(
+        const OwnedBitmap squares(
             CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-        if (!square) return {};
-        for (int row = 0; row < size; ++row) {
-            memcpy(static_cast<std::uint8_t*>(pixels) + stride * row,
-                   view.Pixel(grid.Left(i), grid.Top(i) + row), 3 * static_cast<std::size_t>(size));
+        if (!squares) return {};
+        for (int y = 0; y < size; ++y) {
+            memcpy(static_cast<std::uint8_t*>(pixels) + stride * y, view.Pixel(0, top + y), used);
         }
-        if (ImageList_AddMasked(list.get(), square.get(), kTransparent) < 0) return {};
+        if (ImageList_AddMasked(list.get(), squares.get(), kTransparent) < 0) return {};
     }
     return list;
 }

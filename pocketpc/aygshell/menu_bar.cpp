@@ -88,6 +88,7 @@ class MenuBar {
                             GetAncestor(parent_, GA_ROOT), nullptr, windowClass.hInstance, this);
         if (!hwnd_) return false;
         SetPropW(parent_, shell::kMenuBar, hwnd_);
+        FollowWindow(parent_);
         return true;
     }
 

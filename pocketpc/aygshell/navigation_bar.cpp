@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_map>
 
 #include "pocketpc/aygshell/keyboard.h"
 #include "pocketpc/aygshell/menu_bar.h"
@@ -17,6 +18,9 @@ HWND bar = nullptr;
 // Kept beside GetActiveWindow, which says nothing while a menu or another program has the focus.
 HWND activeWindow = nullptr;
 bool pressed = false;
+// The windows that the bars follow, with their own procedures. Kept here, as the desktop's own way
+// of putting a procedure before another asks Wine's server at each message.
+std::unordered_map<HWND, WNDPROC> followed;
 
 RECT OkButton() {
     const int height = shell::BarHeight();
@@ -143,50 +147,58 @@ LRESULT CALLBACK BarProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPa
     return DefWindowProcW(hwnd, message, wParam, lParam);
 }
 
-// Sees what the thread's windows have just been told.
-LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
-    const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && message.hwnd != bar) {
-        switch (message.message) {
-            case WM_ACTIVATE:
-                if (LOWORD(message.wParam) != WA_INACTIVE) {
-                    activeWindow = message.hwnd;
-                    RepaintNavigationBar();
-                    ShowMenuBarsOf(WindowOnScreen());
-                    LeaveBarsFree(activeWindow);
-                    PlaceKeyboard();
-                }
-                break;
-            case WM_SETTEXT:
-                if (message.hwnd == activeWindow) RepaintNavigationBar();
-                break;
-            case WM_WINDOWPOSCHANGED: {
-                constexpr UINT kVisibility = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
-                const auto& position = *reinterpret_cast<const WINDOWPOS*>(message.lParam);
-                const bool hasBars =
-                    message.hwnd == activeWindow || GetPropW(message.hwnd, shell::kMenuBar);
-                if (position.flags & kVisibility && hasBars) {
-                    ShowMenuBarsOf(WindowOnScreen());
-                }
-                constexpr UINT kSamePlace = SWP_NOMOVE | SWP_NOSIZE;
-                if (message.hwnd == activeWindow && (position.flags & kSamePlace) != kSamePlace) {
-                    LeaveBarsFree(activeWindow);
-                }
-                break;
+// What the bars learn from a message that a window has just been sent.
+void Follow(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) == WA_INACTIVE) return;
+            activeWindow = hwnd;
+            RepaintNavigationBar();
+            ShowMenuBarsOf(WindowOnScreen());
+            LeaveBarsFree(activeWindow);
+            PlaceKeyboard();
+            return;
+        case WM_SETTEXT:
+            if (hwnd == activeWindow) RepaintNavigationBar();
+            return;
+        case WM_WINDOWPOSCHANGED: {
+            constexpr UINT kVisibility = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
+            constexpr UINT kSamePlace = SWP_NOMOVE | SWP_NOSIZE;
+            const UINT flags = reinterpret_cast<const WINDOWPOS*>(lParam)->flags;
+            const bool active = hwnd == activeWindow;
+            if (flags & kVisibility && (active || GetPropW(hwnd, shell::kMenuBar))) {
+                ShowMenuBarsOf(WindowOnScreen());
             }
-            case WM_WINDOWPOSCHANGING:
-                KeepDropDownListOnScreen(message.hwnd,
-                                         *reinterpret_cast<WINDOWPOS*>(message.lParam));
-                break;
-            case WM_ENTERMENULOOP: MenuOpened(message.hwnd); break;
-            case WM_EXITMENULOOP: MenuClosed(message.hwnd); break;
-            case WM_DESTROY:
-                if (const auto menuBar =
-                        static_cast<HWND>(GetPropW(message.hwnd, shell::kMenuBar))) {
-                    DestroyWindow(menuBar);
-                }
-                break;
+            if (active && (flags & kSamePlace) != kSamePlace) LeaveBarsFree(hwnd);
+            return;
         }
+        case WM_WINDOWPOSCHANGING:
+            KeepDropDownListOnScreen(hwnd, *reinterpret_cast<WINDOWPOS*>(lParam));
+            return;
+        case WM_ENTERMENULOOP: MenuOpened(hwnd); return;
+        case WM_EXITMENULOOP: MenuClosed(hwnd); return;
+        case WM_DESTROY:
+            if (const auto menuBar = static_cast<HWND>(GetPropW(hwnd, shell::kMenuBar))) {
+                DestroyWindow(menuBar);
+            }
+            return;
+    }
+}
+
+LRESULT CALLBACK FollowedProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC procedure = followed.at(hwnd);
+    if (message == WM_NCDESTROY) followed.erase(hwnd);
+    const LRESULT result = CallWindowProcW(procedure, hwnd, message, wParam, lParam);
+    Follow(hwnd, message, wParam, lParam);
+    return result;
+}
+
+// A hook that saw every message of the thread would cost three such requests for each.
+LRESULT CALLBACK BeforeCreation(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_CREATEWND) {
+        const auto hwnd = reinterpret_cast<HWND>(wParam);
+        const auto& creation = *reinterpret_cast<const CBT_CREATEWNDW*>(lParam);
+        if (!(creation.lpcs->style & WS_CHILD) || IsDropDownList(hwnd)) FollowWindow(hwnd);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -232,11 +244,18 @@ void ShowNavigationBar() {
     bar = CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOPMOST | WS_EX_TOOLWINDOW, L"HHTaskBar", L"",
                           WS_POPUP, 0, 0, shell::Screen().cx, shell::BarHeight(), nullptr, nullptr,
                           windowClass.hInstance, nullptr);
-    SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
+    SetWindowsHookExW(WH_CBT, BeforeCreation, nullptr, GetCurrentThreadId());
     SetWindowsHookExW(WH_KEYBOARD, BeforeKey, nullptr, GetCurrentThreadId());
     activeWindow = GetActiveWindow();
     ShowWindow(bar, SW_SHOWNOACTIVATE);
     PlaceKeyboard();
+}
+
+void FollowWindow(HWND hwnd) {
+    if (followed.contains(hwnd)) return;
+    const auto ours = reinterpret_cast<LONG_PTR>(FollowedProcedure);
+    followed[hwnd] = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(hwnd, GWLP_WNDPROC));
+    SetWindowLongPtrW(hwnd, GWLP_WNDPROC, ours);
 }
 
 void RepaintNavigationBar() {

@@ -7,6 +7,9 @@
 // the window. From then on the menu bars, too, follow the thread's windows.
 void ShowNavigationBar();
 
+// The bars follow a window from now on. Those that are no child windows are followed anyway.
+void FollowWindow(HWND hwnd);
+
 // To be called when a window's Done button came or went.
 void RepaintNavigationBar();
 

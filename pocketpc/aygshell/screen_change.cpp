@@ -65,7 +65,7 @@ std::vector<HWND> ProgramWindows() {
     std::erase_if(windows, [](HWND hwnd) {
         return !IsWindowVisible(hwnd) || IsOfClass(hwnd, L"HHTaskBar") ||
                IsOfClass(hwnd, L"menu_worker") || IsOfClass(hwnd, kKeyboardClass) ||
-               IsOfClass(hwnd, L"ComboLBox");
+               IsDropDownList(hwnd);
     });
     return windows;
 }
@@ -99,10 +99,12 @@ void FollowInputPanel() {
     Tell(ProgramWindows(), shell::kSetSipInfo);
 }
 
+bool IsDropDownList(HWND hwnd) { return IsOfClass(hwnd, L"ComboLBox"); }
+
 void KeepDropDownListOnScreen(HWND list, WINDOWPOS& position) {
     const SIZE screen = shell::Screen();
     const bool moves = !(position.flags & (SWP_NOMOVE | SWP_NOSIZE));
-    if (!moves || position.y + position.cy <= screen.cy || !IsOfClass(list, L"ComboLBox")) return;
+    if (!moves || position.y + position.cy <= screen.cy || !IsDropDownList(list)) return;
     const HWND focus = GetFocus();
     const HWND combo = IsOfClass(focus, WC_COMBOBOXW) ? focus : GetParent(focus);
     RECT area;

@@ -9,5 +9,8 @@ void FollowScreen(HWND navigationBar, SIZE before);
 // Shows or hides the input panel and tells every window.
 void FollowInputPanel();
 
+// A list that drops down from a combo box.
+bool IsDropDownList(HWND hwnd);
+
 // The desktop keeps drop-down lists on the display, which may be larger than the screen.
 void KeepDropDownListOnScreen(HWND list, WINDOWPOS& position);

@@ -1,5 +1,5 @@
-// What the benchmarks share: times in milliseconds, medians of actions that take turns, and a line
-// for them.
+// What the benchmarks share: what an action takes, two that take turns, and rows of the table that
+// tools/bench.py makes of what they print.
 #pragma once
 
 #include <algorithm>
@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
-#include <vector>
 
 inline void Require(bool done, const char* what) {
     if (done) return;
@@ -15,6 +14,7 @@ inline void Require(bool done, const char* what) {
     std::exit(1);
 }
 
+// In milliseconds.
 inline double Time(const std::function<void()>& action) {
     const auto begin = std::chrono::steady_clock::now();
     action();
@@ -22,23 +22,35 @@ inline double Time(const std::function<void()>& action) {
     return time.count();
 }
 
-struct Medians {
-    double one, other;
+struct Pair {
+    double ours, theirs;
 };
 
-// Of two measurements that take turns.
-inline Medians Compare(const std::function<double()>& one, const std::function<double()>& other,
-                       std::size_t rounds = 5) {
-    std::vector<double> times[2];
-    for (std::size_t round = 0; round < rounds; ++round) {
-        times[0].push_back(one());
-        times[1].push_back(other());
+// The best of two measurements that take turns: what disturbs one only ever adds to it.
+inline Pair TakeTurns(const std::function<double()>& ours, const std::function<double()>& theirs,
+                      int rounds = 7) {
+    Pair best = {ours(), theirs()};
+    for (int round = 1; round < rounds; ++round) {
+        best.ours = std::min(best.ours, ours());
+        best.theirs = std::min(best.theirs, theirs());
     }
-    for (std::vector<double>& list : times) std::sort(list.begin(), list.end());
-    return {times[0][rounds / 2], times[1][rounds / 2]};
+    return best;
 }
 
-inline void Print(const char* one, const char* other, Medians times, int in = 1) {
-    std::printf("%s: %.2f ms, %s: %.2f ms; the first takes %.2f times as long\n", one,
-                times.one / in, other, times.other / in, times.one / times.other);
+inline Pair TimeInTurns(const std::function<void()>& ours, const std::function<void()>& theirs,
+                        int rounds = 7) {
+    return TakeTurns([&] { return Time(ours); }, [&] { return Time(theirs); }, rounds);
+}
+
+constexpr double kNoAim = 0;
+
+// A row: what it is, what we take, what a peer takes or the least that anybody could, and the ratio
+// between them that is aimed at. The texts are plain ASCII without quotation marks.
+inline void Report(const char* what, const char* unit, const char* beside, Pair pair,
+                   double aim = kNoAim) {
+    std::printf(
+        "{\"what\": \"%s\", \"unit\": \"%s\", \"beside\": \"%s\", \"ours\": %.4f, \"theirs\": "
+        "%.4f, \"aim\": %.2f}\n",
+        what, unit, beside, pair.ours, pair.theirs, aim);
+    std::fflush(stdout);
 }

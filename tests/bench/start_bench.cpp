@@ -1,6 +1,5 @@
-// What a start of the program costs beside a start of Wine's own settings program, in turns in one
-// run: time to the visible main window. Also the first start, which writes the language file, and
-// the sizes.
+// What a start of the program costs beside one of Wine's own settings program and one of an empty
+// window: time to the visible main window, and memory.
 //
 // usage: start_bench.exe (with the device as current drive, beside DiarySettings.exe)
 #include <windows.h>
@@ -12,6 +11,8 @@
 #include "tests/bench/bench.h"
 
 namespace {
+
+constexpr wchar_t kLanguageFile[] = L"\\Program Files\\Lum Diary\\LumDiary_en.txt";
 
 struct Search {
     DWORD process;
@@ -61,25 +62,50 @@ Start Measure(std::wstring commandLine) {
     return start;
 }
 
+std::wstring Beside(const wchar_t* name) {
+    wchar_t path[MAX_PATH];
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::wstring program = path;
+    return program.substr(0, program.rfind(L'\\') + 1) + name;
+}
+
+double KibiBytes(const std::wstring& program) {
+    WIN32_FILE_ATTRIBUTE_DATA file = {};
+    GetFileAttributesExW(program.c_str(), GetFileExInfoStandard, &file);
+    return file.nFileSizeLow / 1024.0;
+}
+
 }  // namespace
 
 int main() {
-    wchar_t path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    std::wstring program = path;
-    program = program.substr(0, program.rfind(L'\\') + 1) + L"DiarySettings.exe";
-    const std::wstring peer = L"winecfg.exe";
-
-    Measure(peer);
-    const Start first = Measure(program);  // Writes the language file.
-    Start last;
-    const Medians times = Compare([&] { return (last = Measure(program)).milliseconds; },
-                                  [&] { return Measure(peer).milliseconds; }, 7);
-    WIN32_FILE_ATTRIBUTE_DATA file = {};
-    GetFileAttributesExW(program.c_str(), GetFileExInfoStandard, &file);
-    Print("start to window", "winecfg", times);
-    printf("first start, which writes the language file: %.0f ms\n", first.milliseconds);
-    printf("peak memory: %.1f MiB; program: %.0f KiB\n",
-           static_cast<double>(last.peakBytes) / (1 << 20), file.nFileSizeLow / 1024.0);
+    const std::wstring program = Beside(L"DiarySettings.exe");
+    const std::wstring emptyOnDevice = Beside(L"empty_window.exe");
+    const std::wstring emptyOnDesktop = Beside(L"empty_desktop_window.exe");
+    const auto start = [](const std::wstring& path) {
+        return [path] { return Measure(path).milliseconds; };
+    };
+    const auto firstStart = [&] {
+        DeleteFileW(kLanguageFile);
+        return Measure(program).milliseconds;
+    };
+    const auto memory = [](const std::wstring& path) {
+        return [path] { return static_cast<double>(Measure(path).peakBytes) / (1 << 20); };
+    };
+    Measure(L"winecfg.exe");
+    Measure(program);  // Writes the language file.
+    Report("start to window", "ms", "winecfg", TakeTurns(start(program), start(L"winecfg.exe"), 15),
+           1.0);
+    Report("start to window", "ms", "an empty window, linked alike",
+           TakeTurns(start(program), start(emptyOnDevice), 15), 1.5);
+    Report("start to window", "ms", "an empty window of the desktop",
+           TakeTurns(start(program), start(emptyOnDesktop), 15));
+    Report("first start, writes the language file", "ms", "a usual start",
+           TakeTurns(firstStart, start(program)), 3.0);
+    Report("peak memory of a start", "MiB", "an empty window, linked alike",
+           TakeTurns(memory(program), memory(emptyOnDevice)), 1.3);
+    Report("peak memory of a start", "MiB", "an empty window of the desktop",
+           TakeTurns(memory(program), memory(emptyOnDesktop)), 1.3);
+    Report("size of the program", "KiB", "an empty window, linked alike",
+           {KibiBytes(program), KibiBytes(emptyOnDevice)});
     return 0;
 }

@@ -166,7 +166,7 @@ TEST_F(Appearance, IconsAreCollectedByTheCatalogue) {
         for (const IconLibrary::Group& group : library.groups()) {
             text += group.title + L":";
             for (const IconLibrary::Icon& icon : group.icons) {
-                text += L" " + icon.path.substr(icon.path.rfind(L'\\') + 1);
+                text += L" " + icon.name;
             }
             text += L"; ";
         }

@@ -141,7 +141,7 @@ TEST(IconsList, SelectsScrollsAndFolds) {
         UpdateWindow(list.hwnd());
     };
     const auto selected = [&] {
-        const std::wstring* const path = list.SelectedPath();
+        const auto path = list.SelectedPath();
         return path ? path->substr(path->rfind(L'\\') + 1) : L"";
     };
     const auto scroll = [&] {
