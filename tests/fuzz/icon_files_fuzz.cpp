@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "appearance/categories/icon_catalogue.h"
+#include "appearance/categories/icon_picture.h"
 #include "appearance/categories/icon_size.h"
 #include "tests/fuzz/fuzz.h"
 
@@ -49,6 +50,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         // One bit a pixel at least, in rows of whole double words.
         const std::size_t row = (static_cast<std::size_t>(bitmap->width) + 31) / 32 * 4;
         REQUIRE(row * static_cast<std::size_t>(bitmap->height) < size);
+        if (const auto picture = ReadIconPicture({data, size})) {
+            REQUIRE(picture->width == bitmap->width && picture->height == bitmap->height);
+            REQUIRE(picture->pixels + row * bitmap->height <= picture->bytes.size());
+        }
     }
     return 0;
 }

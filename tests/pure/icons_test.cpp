@@ -5,6 +5,7 @@
 
 #include "appearance/categories/icon_catalogue.h"
 #include "appearance/categories/icon_grid.h"
+#include "appearance/categories/icon_picture.h"
 #include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_sources.h"
 #include "appearance/categories/short_path.h"
@@ -95,6 +96,62 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
         EXPECT_EQ(size, c.good ? std::optional(BitmapSize{3, 2}) : std::nullopt) << c.what;
     }
     EXPECT_EQ(ReadBitmapSize({}), std::nullopt);
+}
+
+// Of files with one pixel, FF, behind everything: what the picture says from its depth on, without
+// zeros.
+TEST(IconPicture, HasOneHeaderWhicheverTheFileHad) {
+    using Numbers = std::vector<std::uint32_t>;
+    struct Case {
+        const char* what;
+        Numbers header;  // the file's
+        Bytes rest;      // masks and colours
+        Bytes after;     // of the picture, behind the pixel's depth
+    };
+    const Numbers masked = {40, 1, 1, 1 | 16 << 16, 3, 0, 0, 0, 0, 0};
+    const Bytes masks = {0, 0xF8, 0, 0, 0xE0, 7, 0, 0, 0x1F, 0, 0, 0};
+    const auto with = [&](std::size_t at, std::uint8_t byte) {
+        Bytes changed = masks;
+        changed[at] = byte;
+        return changed;
+    };
+    const Bytes maskedPicture = {16, 3, 0xF8, 0xE0, 7, 0x1F, 0xFF};
+    for (const Case& c : {
+             Case{"24 bits", {40, 1, 1, 1 | 24 << 16, 0, 0, 5, 5, 0, 0}, {}, {24, 0xFF}},
+             Case{"colours",
+                  {40, 1, 1, 1 | 4 << 16, 0, 0, 5, 5, 2, 0},
+                  {1, 2, 3, 9, 4, 5, 6, 9},
+                  {4, 2, 1, 2, 3, 4, 5, 6, 0xFF}},
+             Case{"a hint", {40, 1, 1, 1 | 24 << 16, 0, 0, 0, 0, 1, 0}, {1, 2, 3, 0}, {24, 0xFF}},
+             Case{"the oldest header",
+                  {12, 1 | 1 << 16, 1 | 1 << 16},
+                  {1, 2, 3, 4, 5, 6},
+                  {1, 2, 1, 2, 3, 4, 5, 6, 0xFF}},
+             Case{"masks", masked, masks, maskedPicture},
+             Case{"masks in the header",
+                  {52, 1, 1, 1 | 16 << 16, 3, 0, 0, 0, 0, 0},
+                  masks,
+                  maskedPicture},
+             Case{"a gap", masked, with(1, 0xE8), {}},
+             Case{"no blue", masked, with(8, 0), {}},
+             Case{"twice", masked, with(8, 0x3F), {}},
+         }) {
+        Bytes file = {'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+        for (const std::uint32_t field : c.header) Append(file, field);
+        file.insert(file.end(), c.rest.begin(), c.rest.end());
+        file[10] = static_cast<std::uint8_t>(file.size());
+        file.insert(file.end(), {0xFF, 0, 0, 0});
+        const std::optional<IconPicture> picture = ReadIconPicture(file);
+        ASSERT_EQ(picture.has_value(), !c.after.empty()) << c.what;
+        if (!picture) continue;
+        Bytes bytes = picture->bytes;
+        EXPECT_EQ(bytes.size(), picture->pixels + 4u) << c.what;
+        EXPECT_EQ(bytes[0], 40) << c.what;
+        EXPECT_EQ(picture->width * 100 + picture->height, 101) << c.what;
+        bytes.erase(bytes.begin(), bytes.begin() + 14);
+        std::erase(bytes, 0);
+        EXPECT_EQ(bytes, c.after) << c.what;
+    }
 }
 
 TEST(IconGrid, LiesGroupBelowGroup) {
