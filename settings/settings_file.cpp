@@ -112,15 +112,17 @@ void SettingsFileWriter::BeginValue(std::wstring_view name, SettingsType type) {
 }
 
 void SettingsFileWriter::PutNumber(std::uint32_t number) {
-    for (int shift = 0; shift < 32; shift += 8) {
-        bytes.push_back(static_cast<std::uint8_t>(number >> shift));
-    }
+    const auto byte = [number](int i) { return static_cast<std::uint8_t>(number >> 8 * i); };
+    bytes.insert(bytes.end(), {byte(0), byte(1), byte(2), byte(3)});
 }
 
 void SettingsFileWriter::PutText(std::wstring_view text) {
     PutNumber(static_cast<std::uint32_t>(text.size() * 2));
+    const std::size_t begin = bytes.size();
+    bytes.resize(begin + text.size() * 2);
+    std::uint8_t* byte = bytes.data() + begin;
     for (const wchar_t c : text) {
-        bytes.push_back(static_cast<std::uint8_t>(c));
-        bytes.push_back(static_cast<std::uint8_t>(c >> 8));
+        *byte++ = static_cast<std::uint8_t>(c);
+        *byte++ = static_cast<std::uint8_t>(c >> 8);
     }
 }

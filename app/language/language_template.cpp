@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <unordered_set>
 #include <utility>
 
 #include "app/language/dialog_init.h"
+#include "base/dialog_template.h"
 #include "base/owned_handle.h"
 
 namespace {
@@ -20,6 +22,11 @@ constexpr unsigned kStringsInBlock = 16;
 constexpr int kTextLength = 4000;
 constexpr int kMenuItems = 256;
 
+// A static control whose text is a picture's number.
+bool IsPicture(const DialogTemplate::Control& control) {
+    return control.className == L"#0082" && control.text.starts_with(L'#');
+}
+
 class TextCollector {
   public:
     explicit TextCollector(HMODULE library) : library_(library) {}
@@ -29,7 +36,9 @@ class TextCollector {
                                             nullptr, library_, nullptr);
         for (unsigned id = 1; id <= kLastDialog; ++id) {
             if (!Exists(id, RT_DIALOG)) continue;
-            if (const HWND dialog = createDialog(id, parent)) {
+            if (const auto described = ParseDialogTemplate(Bytes(id, RT_DIALOG))) {
+                AddDialog(*described);
+            } else if (const HWND dialog = createDialog(id, parent)) {
                 AddDialog(dialog);
                 DestroyWindow(dialog);
             }
@@ -72,6 +81,16 @@ class TextCollector {
         Add({buffer_, static_cast<std::size_t>(length)});
     }
 
+    // Every text stands in the template; to make a window of each for it takes most of a first
+    // start.
+    void AddDialog(const DialogTemplate& dialog) {
+        Add(dialog.caption);
+        for (const DialogTemplate::Control& control : dialog.controls) {
+            if (!IsPicture(control)) Add(control.text);
+        }
+    }
+
+    // Of one in another form than the usual.
     void AddDialog(HWND dialog) {
         AddWindowText(dialog);
         for (HWND child = GetWindow(dialog, GW_CHILD); child;
@@ -98,15 +117,18 @@ class TextCollector {
 
     void AddDialogLists(unsigned id) {
         constexpr unsigned kDialogInit = 240;
-        const HRSRC resource =
-            FindResourceW(library_, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(kDialogInit));
-        if (!resource) return;
-        const auto* bytes =
-            static_cast<const std::uint8_t*>(LockResource(LoadResource(library_, resource)));
         for (const DialogInitRecord& record :
-             ParseDialogInit({bytes, SizeofResource(library_, resource)})) {
+             ParseDialogInit(Bytes(id, MAKEINTRESOURCEW(kDialogInit)))) {
             Add(record.text);
         }
+    }
+
+    // None of a resource that is not there.
+    std::span<const std::uint8_t> Bytes(unsigned id, const wchar_t* type) const {
+        const HRSRC resource = FindResourceW(library_, MAKEINTRESOURCEW(id), type);
+        if (!resource) return {};
+        const void* const bytes = LockResource(LoadResource(library_, resource));
+        return {static_cast<const std::uint8_t*>(bytes), SizeofResource(library_, resource)};
     }
 
     void AddMenu(HMENU menu) {

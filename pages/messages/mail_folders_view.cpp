@@ -1,5 +1,6 @@
 #include "pages/messages/mail_folders_view.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "base/scale.h"
@@ -52,7 +53,8 @@ MailFoldersView::MailFoldersView(HWND tree, std::vector<MailFolderNode> folders,
     SendMessageW(tree_, WM_SETREDRAW, FALSE, 0);
     TreeView_SetImageList(tree_, pictures_.get(), TVSIL_NORMAL);
     TreeView_SetImageList(tree_, boxes_.get(), TVSIL_STATE);
-    Insert(TVI_ROOT, folders_);
+    Insert(TVI_ROOT, nullptr, folders_);
+    Number(TreeView_GetRoot(tree_), 0);
     const HTREEITEM first = TreeView_GetRoot(tree_);
     if (CountFolders(folders_) <= kFewFolders) {
         for (HTREEITEM item = first; item; item = Next(item, TVGN_NEXT)) {
@@ -66,54 +68,72 @@ MailFoldersView::MailFoldersView(HWND tree, std::vector<MailFolderNode> folders,
     SendMessageW(tree_, WM_SETREDRAW, TRUE, 0);
 }
 
-void MailFoldersView::Insert(HTREEITEM parent, const std::vector<MailFolderNode>& folders) {
+void MailFoldersView::Insert(HTREEITEM parent, const MailFolderNode* account,
+                             const std::vector<MailFolderNode>& folders) {
     for (const MailFolderNode& folder : folders) {
+        Place& place = places_.emplace_back(account ? account : &folder, &folder);
         TVINSERTSTRUCTW insert = {};
         insert.hParent = parent;
         insert.hInsertAfter = TVI_LAST;
         insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_STATE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
         insert.item.pszText = const_cast<LPWSTR>(folder.name.c_str());
-        insert.item.lParam = reinterpret_cast<LPARAM>(&folder);
+        insert.item.lParam = reinterpret_cast<LPARAM>(&place);
         insert.item.state = INDEXTOSTATEIMAGEMASK(kNotTicked);
         insert.item.stateMask = TVIS_STATEIMAGEMASK;
         insert.item.iImage = insert.item.iSelectedImage = static_cast<int>(folder.kind);
-        const HTREEITEM item = TreeView_InsertItem(tree_, &insert);
-        if (item) Insert(item, folder.children);
+        place.item = TreeView_InsertItem(tree_, &insert);
+        if (!place.item) continue;
+        byFolder_.emplace(folder.folder, &place);
+        Insert(place.item, place.account, folder.children);
     }
     if (!folders.empty()) TreeView_SortChildren(tree_, parent, FALSE);
 }
 
-void MailFoldersView::ShowTicks(const Ticked& ticked) {
+std::size_t MailFoldersView::Number(HTREEITEM first, std::size_t row) {
+    for (HTREEITEM item = first; item; item = Next(item, TVGN_NEXT)) {
+        PlaceOf(item).row = row;
+        row = Number(Next(item, TVGN_CHILD), row + 1);
+    }
+    return row;
+}
+
+const MailFoldersView::Place* MailFoldersView::Find(const MailFolderRef& folder) const {
+    const auto found = byFolder_.find(folder);
+    return found == byFolder_.end() ? nullptr : found->second;
+}
+
+void MailFoldersView::ShowTicks(const std::vector<MailFilter::Entry>& filter) {
+    std::set<const Place*> wanted;
+    for (const MailFilter::Entry& entry : filter) {
+        const auto [begin, end] = byFolder_.equal_range(entry.folder);
+        for (auto place = begin; place != end; ++place) wanted.insert(place->second);
+    }
     SendMessageW(tree_, WM_SETREDRAW, FALSE, 0);
-    HTREEITEM firstTicked = nullptr;
-    ShowTicks(TreeView_GetRoot(tree_), ticked, firstTicked);
-    if (firstTicked) {
-        TreeView_SelectItem(tree_, firstTicked);
-        // With what it lies in, as far as there is room for both.
-        if (const HTREEITEM parent = Next(firstTicked, TVGN_PARENT)) {
-            TreeView_EnsureVisible(tree_, parent);
+    for (const Place* place : std::set(ticked_)) {
+        if (!wanted.contains(place)) SetTick(*place, false);
+    }
+    std::set<HTREEITEM> opened;
+    for (const Place* place : wanted) {
+        if (!ticked_.contains(place)) SetTick(*place, true);
+        HTREEITEM above = Next(place->item, TVGN_PARENT);
+        for (; above && opened.insert(above).second; above = Next(above, TVGN_PARENT)) {
+            TreeView_Expand(tree_, above, TVE_EXPAND);
         }
-        TreeView_EnsureVisible(tree_, firstTicked);
+    }
+    const auto first = std::ranges::min_element(wanted, {}, &Place::row);
+    if (first != wanted.end()) {
+        const HTREEITEM item = (*first)->item;
+        TreeView_SelectItem(tree_, item);
+        // With what it lies in, as far as there is room for both.
+        if (const HTREEITEM parent = Next(item, TVGN_PARENT)) TreeView_EnsureVisible(tree_, parent);
+        TreeView_EnsureVisible(tree_, item);
     }
     SendMessageW(tree_, WM_SETREDRAW, TRUE, 0);
 }
 
-bool MailFoldersView::ShowTicks(HTREEITEM first, const Ticked& ticked, HTREEITEM& firstTicked) {
-    bool any = false;
-    for (HTREEITEM item = first; item; item = Next(item, TVGN_NEXT)) {
-        const bool has = ticked(*NodeOf(item));
-        if (has != HasTick(item)) SetTick(item, has);
-        if (has && !firstTicked) firstTicked = item;
-        const bool below = ShowTicks(Next(item, TVGN_CHILD), ticked, firstTicked);
-        if (below) TreeView_Expand(tree_, item, TVE_EXPAND);
-        any = any || has || below;
-    }
-    return any;
-}
-
 const MailFolderNode* MailFoldersView::Selected() const {
     const HTREEITEM item = TreeView_GetSelection(tree_);
-    return item ? NodeOf(item) : nullptr;
+    return item ? PlaceOf(item).folder : nullptr;
 }
 
 std::optional<LRESULT> MailFoldersView::OnNotification(const NMHDR& header, HWND page) {
@@ -158,36 +178,33 @@ std::optional<LRESULT> MailFoldersView::OnNotification(const NMHDR& header, HWND
 }
 
 void MailFoldersView::ToggleItem(HTREEITEM item) {
-    SetTick(item, !HasTick(item));
-    toggled_(*NodeOf(item));
+    const Place& place = PlaceOf(item);
+    SetTick(place, !ticked_.contains(&place));
+    toggled_(*place.folder);
 }
 
-void MailFoldersView::SetTick(HTREEITEM item, bool ticked) {
+void MailFoldersView::SetTick(const Place& place, bool ticked) {
+    if (ticked) {
+        ticked_.insert(&place);
+    } else {
+        ticked_.erase(&place);
+    }
     TVITEMW change = {};
     change.mask = TVIF_STATE;
-    change.hItem = item;
+    change.hItem = place.item;
     change.state = INDEXTOSTATEIMAGEMASK(ticked ? kTicked : kNotTicked);
     change.stateMask = TVIS_STATEIMAGEMASK;
     TreeView_SetItem(tree_, &change);
-}
-
-bool MailFoldersView::HasTick(HTREEITEM item) const {
-    TVITEMW asked = {};
-    asked.mask = TVIF_STATE;
-    asked.hItem = item;
-    asked.stateMask = TVIS_STATEIMAGEMASK;
-    TreeView_GetItem(tree_, &asked);
-    return (asked.state & TVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(kTicked);
 }
 
 HTREEITEM MailFoldersView::Next(HTREEITEM item, UINT relation) const {
     return TreeView_GetNextItem(tree_, item, relation);
 }
 
-const MailFolderNode* MailFoldersView::NodeOf(HTREEITEM item) const {
+MailFoldersView::Place& MailFoldersView::PlaceOf(HTREEITEM item) const {
     TVITEMW asked = {};
     asked.mask = TVIF_PARAM;
     asked.hItem = item;
     TreeView_GetItem(tree_, &asked);
-    return reinterpret_cast<const MailFolderNode*>(asked.lParam);
+    return *reinterpret_cast<Place*>(asked.lParam);
 }

@@ -4,26 +4,39 @@
 
 #include <commctrl.h>
 
+#include <deque>
 #include <functional>
+#include <map>
+#include <set>
 #include <vector>
 
 #include "base/owned_handle.h"
+#include "pages/stores/mail_filter.h"
 #include "pages/stores/mail_folder_tree.h"
 
 // A tree control that shows mail folders, each with a check box and a picture.
 class MailFoldersView {
   public:
-    using Ticked = std::function<bool(const MailFolderNode&)>;
     using Toggle = std::function<void(const MailFolderNode&)>;
 
     // `toggled` is called when the user has ticked or cleared a folder, by a tap on its box or with
     // space.
     MailFoldersView(HWND tree, std::vector<MailFolderNode> folders, Toggle toggled);
 
-    const std::vector<MailFolderNode>& folders() const { return folders_; }
+    // A folder that is shown.
+    struct Place {
+        const MailFolderNode* account = nullptr;
+        const MailFolderNode* folder = nullptr;
+        HTREEITEM item = nullptr;
+        std::size_t row = 0;  // from the top, were all open
+    };
 
-    // Ticks what `ticked` says, and opens what hides a ticked folder.
-    void ShowTicks(const Ticked& ticked);
+    // Null when there is no such folder.
+    const Place* Find(const MailFolderRef& folder) const;
+
+    // Ticks the folders of a filter and no other, and opens what hides one. The effort is that for
+    // what changes, however many folders there are.
+    void ShowTicks(const std::vector<MailFilter::Entry>& filter);
     // The selected folder; null when none is.
     const MailFolderNode* Selected() const;
 
@@ -31,17 +44,20 @@ class MailFoldersView {
     std::optional<LRESULT> OnNotification(const NMHDR& header, HWND page);
 
   private:
-    void Insert(HTREEITEM parent, const std::vector<MailFolderNode>& folders);
-    // True when something below is ticked.
-    bool ShowTicks(HTREEITEM first, const Ticked& ticked, HTREEITEM& firstTicked);
+    void Insert(HTREEITEM parent, const MailFolderNode* account,
+                const std::vector<MailFolderNode>& folders);
+    // From an item and its neighbours below it on; the next number.
+    std::size_t Number(HTREEITEM first, std::size_t row);
     void ToggleItem(HTREEITEM item);
-    void SetTick(HTREEITEM item, bool ticked);
-    bool HasTick(HTREEITEM item) const;
+    void SetTick(const Place& place, bool ticked);
     HTREEITEM Next(HTREEITEM item, UINT relation) const;
-    const MailFolderNode* NodeOf(HTREEITEM item) const;
+    Place& PlaceOf(HTREEITEM item) const;
 
     HWND tree_;
-    std::vector<MailFolderNode> folders_;  // the items point to these
+    std::vector<MailFolderNode> folders_;
+    std::deque<Place> places_;  // the items point to these
+    std::multimap<MailFolderRef, const Place*> byFolder_;
+    std::set<const Place*> ticked_;
     Toggle toggled_;
     OwnedImageList pictures_;
     OwnedImageList boxes_;

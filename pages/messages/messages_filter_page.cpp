@@ -50,14 +50,6 @@ std::vector<std::wstring> FilterNames() {
     return names;
 }
 
-const MailFolderNode* Find(const std::vector<MailFolderNode>& folders, const MailFolderRef& ref) {
-    for (const MailFolderNode& folder : folders) {
-        if (folder.folder == ref) return &folder;
-        if (const MailFolderNode* within = Find(folder.children, ref)) return within;
-    }
-    return nullptr;
-}
-
 // The filters of mail folders: which one the messages tab shows, and the folders of each. What is
 // ticked holds until the sheet is cancelled, also while another filter is shown.
 class MessagesFilterPage : public OptionsPage {
@@ -165,8 +157,7 @@ void MessagesFilterPage::Choose(int filter) {
     chosen_ = filter;
     nameTyped_ = false;
     ListFilters();
-    const MailFilter& edited = Edited();
-    view_->ShowTicks([&](const MailFolderNode& node) { return edited.Contains(node.folder); });
+    view_->ShowTicks(Edited().entries);
     ShowAutomaticName();
     OnUpdate();
 }
@@ -316,13 +307,8 @@ void MessagesFilterPage::ListSuggestedNames() {
 }
 
 MailFolderNames MessagesFilterPage::NamesOf(const MailFolderRef& folder) const {
-    for (const MailFolderNode& account : view_->folders()) {
-        if (account.folder == folder) return {account.name, account.name};
-        if (const MailFolderNode* found = Find(account.children, folder)) {
-            return {account.name, found->name};
-        }
-    }
-    return {};
+    const MailFoldersView::Place* const place = view_->Find(folder);
+    return place ? MailFolderNames{place->account->name, place->folder->name} : MailFolderNames();
 }
 
 bool MessagesFilterPage::OnCheck() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -18,7 +19,7 @@ struct MailFolderRef {
     bool inSecondStore = false;
 
     bool CanBeStored() const { return identifier.size() <= kLongestMailIdentifier; }
-    bool operator==(const MailFolderRef&) const = default;
+    auto operator<=>(const MailFolderRef&) const = default;
 };
 
 // A named set of mail folders, in the order in which they were added.

@@ -120,8 +120,8 @@ class Folder : public Properties<IMAPIFolder> {
         if (const HRESULT failure = trials::NextCall()) return failure;
         if (!table) return MAPI_E_INVALID_PARAMETER;
         std::vector<DWORD> children;
-        for (const MailNode& other : mail()->nodes()) {
-            if (other.parent == node().number) children.push_back(other.number);
+        for (const MailNode* child : mail()->ChildrenOf(node().number)) {
+            children.push_back(child->number);
         }
         if (children.empty()) return MAPI_E_NO_SUPPORT;
         *table = MakeTable(mail(), std::move(children));

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -9,8 +10,22 @@
 #include "pocketpc/common/mail_store.h"
 #include "pocketpc/include/cemapi.h"
 
-// The store as it was when the session began; every object of the session holds it.
-using MailSnapshot = std::shared_ptr<const MailStore>;
+// The store as it was when the session began, so that what its objects look for is found at once.
+class SessionMail : public MailStore {
+  public:
+    explicit SessionMail(MailStore store);
+
+    // In the order of the store.
+    const std::vector<const MailNode*>& ChildrenOf(DWORD number) const;
+    const std::vector<const MailNode*>& WithIdentifier(const std::vector<BYTE>& identifier) const;
+
+  private:
+    std::map<DWORD, std::vector<const MailNode*>> children_;
+    std::map<std::vector<BYTE>, std::vector<const MailNode*>> identifiers_;
+};
+
+// Every object of the session holds it.
+using MailSnapshot = std::shared_ptr<const SessionMail>;
 
 // A value of a node for a property; one that the node lacks gets the type PT_ERROR. What it points
 // to is a part of `buffer`. Texts and identifiers of tables are cut after 255 units.

@@ -5,16 +5,14 @@ namespace {
 
 class Session : public MapiObject<ICEMAPISession> {
   public:
-    Session() : mail_(std::make_shared<const MailStore>(MailStore::Load())) { trials::Begin(); }
+    Session() : mail_(std::make_shared<const SessionMail>(MailStore::Load())) { trials::Begin(); }
     ~Session() override { trials::End(); }
 
     HRESULT STDMETHODCALLTYPE GetMsgStoresTable(ULONG, LPMAPITABLE* table) override {
         if (const HRESULT failure = NextCall()) return failure;
         if (!table) return MAPI_E_INVALID_PARAMETER;
         std::vector<DWORD> accounts;
-        for (const MailNode& node : mail_->nodes()) {
-            if (!node.parent) accounts.push_back(node.number);
-        }
+        for (const MailNode* account : mail_->ChildrenOf(0)) accounts.push_back(account->number);
         *table = MakeTable(mail_, std::move(accounts));
         return S_OK;
     }

@@ -36,11 +36,6 @@ const MailNode* SpecialFolder(const MailSnapshot& mail, const MailNode& account,
     return nullptr;
 }
 
-bool HasChildren(const MailSnapshot& mail, const MailNode& node) {
-    return std::any_of(mail->nodes().begin(), mail->nodes().end(),
-                       [&](const MailNode& other) { return other.parent == node.number; });
-}
-
 void* Part(void* buffer, const void* bytes, std::size_t size) {
     void* part = nullptr;
     MAPIAllocateMore(static_cast<ULONG>(size), buffer, &part);
@@ -64,7 +59,31 @@ void SetBytes(const std::vector<BYTE>& bytes, bool inTable, void* buffer, SPropV
                        static_cast<LPBYTE>(Part(buffer, bytes.data(), size))};
 }
 
+const std::vector<const MailNode*> kNone;
+
+template <typename Map>
+const std::vector<const MailNode*>& NodesOf(const Map& map, const typename Map::key_type& key) {
+    const auto found = map.find(key);
+    return found == map.end() ? kNone : found->second;
+}
+
 }  // namespace
+
+SessionMail::SessionMail(MailStore store) : MailStore(std::move(store)) {
+    for (const MailNode& node : nodes()) {
+        children_[node.parent].push_back(&node);
+        identifiers_[node.identifier].push_back(&node);
+    }
+}
+
+const std::vector<const MailNode*>& SessionMail::ChildrenOf(DWORD number) const {
+    return NodesOf(children_, number);
+}
+
+const std::vector<const MailNode*>& SessionMail::WithIdentifier(
+    const std::vector<BYTE>& identifier) const {
+    return NodesOf(identifiers_, identifier);
+}
 
 void FillValue(const MailSnapshot& mail, const MailNode& node, ULONG tag, bool inTable,
                void* buffer, SPropValue& value) {
@@ -79,7 +98,7 @@ void FillValue(const MailSnapshot& mail, const MailNode& node, ULONG tag, bool i
         SetText(node.service, inTable, buffer, value);
     } else if (tag == PR_SUBFOLDERS) {
         value.ulPropTag = tag;
-        value.Value.b = HasChildren(mail, node);
+        value.Value.b = !mail->ChildrenOf(node.number).empty();
     } else if (tag == PR_OBJECT_TYPE) {
         value.ulPropTag = tag;
         value.Value.l = node.kind == MailKind::kAccount   ? MAPI_STORE
@@ -101,14 +120,12 @@ std::vector<BYTE> RootIdentifier(const MailNode& account) {
 
 const MailNode* FindEntry(const MailSnapshot& mail, ULONG size, LPENTRYID entry,
                           const std::function<bool(const MailNode&)>& wanted) {
+    if (!entry || !size) return nullptr;
     const auto bytes = reinterpret_cast<const BYTE*>(entry);
-    for (const MailNode& node : mail->nodes()) {
-        if (entry && size && node.identifier.size() == size &&
-            std::equal(node.identifier.begin(), node.identifier.end(), bytes) && wanted(node)) {
-            return &node;
-        }
-    }
-    return nullptr;
+    const auto& nodes = mail->WithIdentifier({bytes, bytes + size});
+    const auto found =
+        std::ranges::find_if(nodes, [&](const MailNode* node) { return wanted(*node); });
+    return found == nodes.end() ? nullptr : *found;
 }
 
 bool IsOneOf(LPCIID id, std::initializer_list<const IID*> ids) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "pocketpc/common/text.h"
 
@@ -79,8 +80,8 @@ MailStore MailStore::Load() {
         if (words.size() == 2 && words[0] == L"next") {
             store.next_ = std::max(store.next_, wcstoul(words[1].c_str(), nullptr, 10));
         } else if (const auto node = ParseNode(words)) {
-            store.nodes_.push_back(*node);
             store.next_ = std::max(store.next_, node->number + 1);
+            store.Append(*node);
         }
     }
     return store;
@@ -106,9 +107,14 @@ bool MailStore::Save() const {
 }
 
 const MailNode* MailStore::Find(DWORD number) const {
-    const auto found = std::find_if(nodes_.begin(), nodes_.end(),
-                                    [&](const MailNode& node) { return node.number == number; });
-    return found == nodes_.end() ? nullptr : &*found;
+    const auto found = places_.find(number);
+    return found == places_.end() ? nullptr : &nodes_[found->second];
+}
+
+// Of a number that comes again the first counts.
+void MailStore::Append(MailNode node) {
+    places_.try_emplace(node.number, nodes_.size());
+    nodes_.push_back(std::move(node));
 }
 
 const MailNode* MailStore::AccountOf(const MailNode& node) const {
@@ -133,8 +139,9 @@ DWORD MailStore::Add(DWORD parent, MailKind kind, const std::wstring& name,
             node.identifier.push_back(static_cast<BYTE>(part >> shift));
         }
     }
-    nodes_.push_back(node);
-    return node.number;
+    const DWORD number = node.number;
+    Append(std::move(node));
+    return number;
 }
 
 bool MailStore::Remove(DWORD number) {
@@ -146,8 +153,9 @@ bool MailStore::Remove(DWORD number) {
             if (node.parent == gone[i] && !known) gone.push_back(node.number);
         }
     }
-    std::erase_if(nodes_, [&](const MailNode& node) {
-        return std::find(gone.begin(), gone.end(), node.number) != gone.end();
-    });
+    places_.clear();
+    for (MailNode& node : std::exchange(nodes_, {})) {
+        if (std::find(gone.begin(), gone.end(), node.number) == gone.end()) Append(std::move(node));
+    }
     return true;
 }

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 // What a mail account or a folder is for.
@@ -48,6 +49,9 @@ class MailStore {
     bool Remove(DWORD number);
 
   private:
+    void Append(MailNode node);
+
     DWORD next_ = 1;
     std::vector<MailNode> nodes_;
+    std::unordered_map<DWORD, std::size_t> places_;  // of the numbers among them
 };

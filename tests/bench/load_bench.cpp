@@ -21,19 +21,12 @@
 #include "pocketpc/common/mail_store.h"
 #include "settings/settings_key.h"
 #include "tests/bench/bench.h"
+#include "tests/bench/beside.h"
 
 namespace {
 
-std::wstring Beside(const wchar_t* name) {
-    wchar_t program[MAX_PATH];
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
-    const std::wstring path = program;
-    return path.substr(0, path.rfind(L'\\') + 1) + name;
-}
-
 void BenchSkin() {
     constexpr int kTimes = 20;
-    CreateDirectoryW(L"\\Bench", nullptr);
     CreateDirectoryW(L"\\Bench\\Skins", nullptr);
     Require(
         CopyFileW(Beside(L"Skins\\NewStyle.zip").c_str(), L"\\Bench\\Skins\\NewStyle.zip", FALSE),
@@ -80,7 +73,10 @@ std::vector<std::wstring> MakeIconFolders(int icons) {
     std::vector<std::wstring> folders;
     for (int first = 0; first < icons; first += kInFolder) {
         folders.push_back(L"\\Bench\\" + std::to_wstring(first));
-        if (!CreateDirectoryW(folders.back().c_str(), nullptr)) continue;  // of a smaller number
+        if (!CreateDirectoryW(folders.back().c_str(), nullptr)) {
+            Require(GetLastError() == ERROR_ALREADY_EXISTS, "making a folder");
+            continue;  // From a smaller number.
+        }
         for (int i = 0; i < kInFolder; ++i) {
             const std::wstring path = folders.back() + L"\\" + std::to_wstring(i) + L".bmp";
             Require(CopyFileW(Beside(L"iconset\\96\\apple.bmp").c_str(), path.c_str(), FALSE),
@@ -142,6 +138,7 @@ void BenchIconMemory() {
     library.LoadFolder(folders[0]);
     const double before = PrivateMebibytes();
     for (const std::wstring& folder : folders) library.LoadFolder(folder);
+    Require(library.groups()[0].icons.size() == kIcons, "loading the icons");
     const double allowed = (kIcons - 250) * (kPictureBytes + kMore) / (1 << 20);
     Report("memory of 7750 more icons", "MiB", "their pixels and 200 bytes each",
            {PrivateMebibytes() - before, allowed}, 1.0);
@@ -183,6 +180,7 @@ void BenchMail() {
 int main() {
     CSettingsKey(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Apps\\Lum Diary", true, false)
         .WriteString(L"InstallDir", L"\\Bench");
+    CreateDirectoryW(L"\\Bench", nullptr);
     BenchIconMemory();
     BenchSkin();
     BenchIcons();

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "tests/bench/bench.h"
+#include "tests/bench/beside.h"
 
 namespace {
 
@@ -60,13 +61,6 @@ Start Measure(std::wstring commandLine) {
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
     return start;
-}
-
-std::wstring Beside(const wchar_t* name) {
-    wchar_t path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring program = path;
-    return program.substr(0, program.rfind(L'\\') + 1) + name;
 }
 
 double KibiBytes(const std::wstring& program) {
