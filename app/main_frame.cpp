@@ -111,9 +111,13 @@ bool MainFrame::OnCreate() {
     return true;
 }
 
+// At once as wide as it is going to be, and so high that nothing is scrolled.
 void MainFrame::CreateListView() {
-    listView_ = CreateWindowExW(kListExtendedStyle, WC_LISTVIEWW, L"", kListStyle, 0, 0, 0, 0,
-                                hwnd(), nullptr, ModuleInstance(), nullptr);
+    RECT client = {};
+    GetClientRect(hwnd(), &client);
+    listView_ =
+        CreateWindowExW(kListExtendedStyle, WC_LISTVIEWW, L"", kListStyle, 0, 0, client.right,
+                        kAnyHeight, hwnd(), nullptr, ModuleInstance(), nullptr);
     SendMessageW(listView_, CCM_SETVERSION, kCommonControlsVersion, 0);
     SendMessageW(listView_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_ONECLICKACTIVATE);
     SendMessageW(listView_, LVM_SETICONSPACING, 0,
@@ -172,7 +176,10 @@ void MainFrame::FillListView() {
 void MainFrame::LayOut(SIZE client) {
     if (!listView_) return;
     const auto size = [&](LONG height) { MoveWindow(listView_, 0, 0, client.cx, height, TRUE); };
-    size(kAnyHeight);
+    RECT list = {};
+    GetWindowRect(listView_, &list);
+    if (list.right - list.left != client.cx || list.bottom - list.top != kAnyHeight)
+        size(kAnyHeight);
     RECT entries = {};
     SendMessageW(listView_, LVM_GETVIEWRECT, 0, reinterpret_cast<LPARAM>(&entries));
     if (entries.bottom - entries.top > client.cy) size(client.cy - 1);

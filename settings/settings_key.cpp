@@ -113,9 +113,12 @@ bool CSettingsKey::WriteDword(const wchar_t* name, std::uint32_t value) {
 
 std::wstring CSettingsKey::ReadString(const wchar_t* name, const wchar_t* defaultText) {
     if (!IsReadableText(name)) return {};
-    DWORD size = 0;
-    LSTATUS status = Query(name, nullptr, &size);
-    if (status == ERROR_SUCCESS) {
+    // Most texts are short, so that one question is enough. A stored one need not be terminated.
+    wchar_t few[128] = {};
+    DWORD size = sizeof few - sizeof(wchar_t);
+    LSTATUS status = Query(name, few, &size);
+    if (status == ERROR_SUCCESS) return few;
+    if (status == ERROR_MORE_DATA) {
         std::vector<wchar_t> text(size + 1);
         status = Query(name, text.data(), &size);
         if (status == ERROR_SUCCESS) return text.data();

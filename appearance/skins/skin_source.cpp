@@ -14,15 +14,14 @@ constexpr std::size_t kLongestPath = 260;
 bool SkinSource::Open(const std::wstring& path) {
     Close();
     if (path.empty() || path.size() > kLongestPath) return false;
+    archive_ = Archive::Open(path);
+    if (archive_) return true;
     const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) return false;
-    if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
-        folder_ = path;
-        if (folder_.back() != L'\\') folder_ += L'\\';
-    } else {
-        archive_ = Archive::Open(path);
-    }
-    return IsOpen();
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+        return false;
+    folder_ = path;
+    if (folder_.back() != L'\\') folder_ += L'\\';
+    return true;
 }
 
 void SkinSource::Close() {
