@@ -39,7 +39,7 @@ BUILD_PACKAGES=(
 RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
 SCREEN_PACKAGES=(xvfb imagemagick)
 TEST_PACKAGES=(
-    xvfb g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
+    "${SCREEN_PACKAGES[@]}" g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
     g++-mingw-w64-i686-posix mingw-w64-i686-dev
 )
 # What the 32-bit Debian is made with.
@@ -98,7 +98,7 @@ fetch_source() { # PACKAGE FOLDER-IN-IT TARGET FILES...
 # What the programs are built on besides Debian's libraries. SQLite's sources come as one file with Fossil's; its
 # own package would have them made from parts, which takes a compiler for this machine, make and Tcl.
 fetch_sources() {
-    fetch_source minizip . minizip crypt.h ioapi.h ioapi.c unzip.h unzip.c
+    fetch_source minizip . minizip ioapi.h ioapi.c unzip.h unzip.c
     fetch_source fossil extsrc sqlite3/amalgamation sqlite3.h sqlite3.c
 }
 
