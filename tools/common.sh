@@ -112,8 +112,8 @@ configure_preset() { # NAME CMAKE-OPTIONS...
     fi
 }
 
-# Builds a target of a configured preset; Ninja shows the progress.
-build_target() { # NAME WHAT TARGET
+# Builds targets of a configured preset; Ninja shows the progress.
+build_target() { # NAME WHAT TARGETS...
     say "Building $2"
-    ninja -C "$ROOT/build/$1" "$3" || fail "Building $2 failed"
+    ninja -C "$ROOT/build/$1" "${@:3}" || fail "Building $2 failed"
 }
