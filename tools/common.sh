@@ -42,6 +42,8 @@ TEST_PACKAGES=(
     "${SCREEN_PACKAGES[@]}" g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
     g++-mingw-w64-i686-posix mingw-w64-i686-dev
 )
+# What diarykit needs to be built for this machine.
+KIT_PACKAGES=(cmake ninja-build g++ zlib1g-dev libcli11-dev nlohmann-json3-dev)
 # What the 32-bit Debian is made with.
 I386_PACKAGES=(debootstrap)
 
