@@ -2,11 +2,11 @@
 
 namespace shell {
 
-// These two functions a device does not have, so that they always are the desktop's.
 namespace {
 constexpr wchar_t kKey[] = L"Software\\PocketPC Devices";
 }
 
+// A device lacks both functions called here, so they are the desktop's wherever this is linked.
 DWORD SharedNumber(const wchar_t* name) {
     DWORD number = 0, size = sizeof number;
     const LSTATUS error =
