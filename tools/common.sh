@@ -39,9 +39,11 @@ BUILD_PACKAGES=(
 RUN_PACKAGES=(wine wine64 fonts-wine fonts-dejavu-core xdotool)
 SCREEN_PACKAGES=(xvfb imagemagick)
 TEST_PACKAGES=(
-    xvfb g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
+    "${SCREEN_PACKAGES[@]}" g++ googletest clang clang-format libclang-rt-14-dev zip zlib1g-dev
     g++-mingw-w64-i686-posix mingw-w64-i686-dev
 )
+# What diarykit needs to be built for this machine.
+KIT_PACKAGES=(cmake ninja-build g++ zlib1g-dev libcli11-dev nlohmann-json3-dev)
 # What the 32-bit Debian is made with.
 I386_PACKAGES=(debootstrap)
 
@@ -98,7 +100,7 @@ fetch_source() { # PACKAGE FOLDER-IN-IT TARGET FILES...
 # What the programs are built on besides Debian's libraries. SQLite's sources come as one file with Fossil's; its
 # own package would have them made from parts, which takes a compiler for this machine, make and Tcl.
 fetch_sources() {
-    fetch_source minizip . minizip crypt.h ioapi.h ioapi.c unzip.h unzip.c
+    fetch_source minizip . minizip ioapi.h ioapi.c unzip.h unzip.c
     fetch_source fossil extsrc sqlite3/amalgamation sqlite3.h sqlite3.c
 }
 
@@ -112,8 +114,8 @@ configure_preset() { # NAME CMAKE-OPTIONS...
     fi
 }
 
-# Builds a target of a configured preset; Ninja shows the progress.
-build_target() { # NAME WHAT TARGET
+# Builds targets of a configured preset; Ninja shows the progress.
+build_target() { # NAME WHAT TARGETS...
     say "Building $2"
-    ninja -C "$ROOT/build/$1" "$3" || fail "Building $2 failed"
+    ninja -C "$ROOT/build/$1" "${@:3}" || fail "Building $2 failed"
 }

@@ -34,16 +34,26 @@ def icon_names():
     return [re.sub(r"(?<=.)([A-Z])", r"_\1", name).lower() for name in names]
 
 
+def read_drawings(path):
+    try:
+        return xml.parse(path).getroot()
+    except xml.ParseError as error:
+        sys.exit(f"{path}: {error}")
+
+
 class Sheet:
     """The drawings of an SVG file, by name."""
 
     def __init__(self, skin, name):
         path = skin / name if (skin / name).exists() else ROOT / "shipped/skins/shapes" / name
-        root = xml.parse(path).getroot()
+        root = read_drawings(path)
         self.path = path
-        self.width, self.height = int(root.get("data-width")), int(root.get("data-height"))
+        try:
+            self.width, self.height = int(root.get("data-width")), int(root.get("data-height"))
+        except (TypeError, ValueError):
+            sys.exit(f"{path}: data-width and data-height of the <svg> must say how large a drawing is")
         self.drawings = {group.get("id"): group for group in root.findall(f"{SVG}g")}
-        self.style = [child for child in xml.parse(skin / "style.svg").getroot()]
+        self.style = list(read_drawings(skin / "style.svg"))
 
     def render(self, names, scale, gap):
         """The drawings one above the other, `gap` rows apart: rows of (red, green, blue, opacity), and
@@ -113,4 +123,7 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main()
+    except OSError as error:
+        sys.exit(f"{error.filename}: {error.strerror}")

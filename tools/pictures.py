@@ -6,10 +6,9 @@ usage: pictures.py icon DRAWING OUTPUT SIZE...
        pictures.py icon_set FOLDER OUTPUT ZOOM
 
 An icon holds the drawing at each size. An icon set is a bitmap of each drawing in the folder, with hard edges
-on the green that is not painted.
+on the green that is not painted; the folder OUTPUT then has no other bitmaps.
 """
 import pathlib
-import shutil
 import struct
 import subprocess
 import sys
@@ -100,9 +99,13 @@ def main():
             rows = render(pathlib.Path(drawing).read_bytes(), "-z", zoom)
             pathlib.Path(output).write_bytes(bitmap([[pixel[:3] for pixel in row] for row in rows]))
         case ["icon_set", folder, output, zoom]:
-            shutil.rmtree(output, ignore_errors=True)
-            pathlib.Path(output).mkdir(parents=True)
-            for drawing in sorted(pathlib.Path(folder).glob("*.svg")):
+            drawings = sorted(pathlib.Path(folder).glob("*.svg"))
+            if not drawings:
+                sys.exit(f"{folder} has no drawings, which end in .svg")
+            pathlib.Path(output).mkdir(parents=True, exist_ok=True)
+            for old in pathlib.Path(output).glob("*.bmp"):
+                old.unlink()
+            for drawing in drawings:
                 rows = hard_edged(render(drawing.read_bytes(), "-z", zoom))
                 (pathlib.Path(output) / f"{drawing.stem}.bmp").write_bytes(bitmap(rows))
         case _:
@@ -110,4 +113,7 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main()
+    except OSError as error:
+        sys.exit(f"{error.filename}: {error.strerror}")

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
+#include "pocketpc/common/shared_number.h"
 #include "pocketpc/common/shell_windows.h"
 
 namespace shell {
 
 namespace {
 
-// A property of the desktop's window, so that every process of the device sees it.
-constexpr wchar_t kProperty[] = L"PocketPC.InputPanel";
+constexpr wchar_t kUp[] = L"InputPanelIsUp";
 constexpr UINT kLongestAnswer = 2000;  // milliseconds
 constexpr int kHeight = 80;            // at 96 dots per inch; unconfirmed
 
@@ -20,16 +20,11 @@ UINT InputPanelMessage() {
     return message;
 }
 
-bool InputPanelIsUp() { return GetPropW(GetDesktopWindow(), kProperty) != nullptr; }
+bool InputPanelIsUp() { return SharedNumber(kUp) != 0; }
 
 void SetInputPanel(bool up) {
-    const HWND desktop = GetDesktopWindow();
     if (up == InputPanelIsUp()) return;
-    if (up) {
-        SetPropW(desktop, kProperty, desktop);
-    } else {
-        RemovePropW(desktop, kProperty);
-    }
+    SetSharedNumber(kUp, up);
     for (HWND bar = nullptr; (bar = FindWindowExW(nullptr, bar, L"HHTaskBar", nullptr));) {
         SendMessageTimeoutW(bar, InputPanelMessage(), 0, 0, SMTO_ABORTIFHUNG, kLongestAnswer,
                             nullptr);

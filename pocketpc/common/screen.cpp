@@ -1,11 +1,12 @@
 #include "pocketpc/common/screen.h"
 
+#include "pocketpc/common/shared_number.h"
+
 namespace shell {
 
 namespace {
 
-// A property of the desktop's window, so that every process of the device sees it.
-constexpr wchar_t kProperty[] = L"PocketPC.Screen";
+constexpr wchar_t kSize[] = L"Screen";
 constexpr UINT kLongestAnswer = 2000;  // milliseconds
 
 void Tell(const wchar_t* className, SIZE before) {
@@ -23,16 +24,14 @@ UINT ScreenChangeMessage() {
 }
 
 SIZE Screen() {
-    const auto size =
-        static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(GetPropW(GetDesktopWindow(), kProperty)));
+    const DWORD size = SharedNumber(kSize);
     if (size) return {LOWORD(size), HIWORD(size)};
     return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
 void SetScreen(SIZE screen) {
     const SIZE before = Screen();
-    const auto size = static_cast<DWORD>(MAKELONG(screen.cx, screen.cy));
-    SetPropW(GetDesktopWindow(), kProperty, reinterpret_cast<HANDLE>(ULONG_PTR{size}));
+    SetSharedNumber(kSize, static_cast<DWORD>(MAKELONG(screen.cx, screen.cy)));
     // The Today screen lies below, so that it is there when programs uncover it.
     Tell(L"DesktopExplorerWindow", before);
     Tell(L"HHTaskBar", before);

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "pocketpc/common/input_panel.h"
 #include "pocketpc/common/shell_windows.h"
 #include "pocketpc/include/todaycmn.h"
 #include "pocketpc/today/picture.h"
@@ -237,6 +238,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
     updateMessage = RegisterWindowMessageW(L"LumDiary_UpdateSettings");
     TodayPicture ownersPicture;
     picture = &ownersPicture;
+    shell::SetInputPanel(false);  // As the device has just been started.
     const SIZE size = shell::Screen();
     const RECT screen = {0, 0, size.cx, size.cy};
     const HWND today =

@@ -17,6 +17,12 @@ std::string NameOf(const std::filesystem::path& path) {
     return {name.begin(), name.end()};
 }
 
+UseError Unreadable(const std::string& path) {
+    std::error_code error;
+    const bool isThere = std::filesystem::exists(PathOf(path), error);
+    return UseError(path + (isThere ? ": cannot be read" : ": is not there"));
+}
+
 }  // namespace
 
 bool IsFile(const std::string& path) {
@@ -45,7 +51,7 @@ std::vector<std::string> BitmapsIn(const std::string& folder) {
             paths.push_back(NameOf(entry.path()));
         }
     }
-    if (error) throw UseError(folder + ": cannot be read");
+    if (error) throw Unreadable(folder);
     std::sort(paths.begin(), paths.end());
     return paths;
 }
@@ -57,7 +63,7 @@ std::string BesideFile(const std::string& path, const std::string& name) {
 std::vector<std::uint8_t> ReadInput(const std::string& path) {
     std::ifstream file(PathOf(path), std::ios::binary);
     // A folder opens, too, on some systems.
-    if (!IsFile(path) || !file) throw UseError(path + ": cannot be read");
+    if (!IsFile(path) || !file) throw Unreadable(path);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 

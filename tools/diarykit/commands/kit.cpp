@@ -10,6 +10,7 @@
 int RunKit(const std::vector<std::string>& arguments) {
     int exitCode = kFine;
     CLI::App kit("Looks into the files of Lum Diary Settings, checks and makes them.", "diarykit");
+    kit.set_version_flag("--version", DIARY_VERSION);
     kit.footer("Exit codes: 0 fine, 1 found something, 2 wrong use.");
     kit.allow_windows_style_options(false);  // Paths may begin with a slash.
     kit.require_subcommand(1);
