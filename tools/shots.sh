@@ -16,18 +16,22 @@ start_program() { # DEVICE ARGUMENTS...
 }
 
 await_window() { # TITLE
-    await_shown "The window \"$1\"" --name "^$1\$"
+    await_success "The window \"$1\"" xdotool search --onlyvisible --name "^$1\$"
 }
 
-# In whatever language.
+# Of the program, in whatever language. The lists that it drops down to write down its texts have no title.
+program_titles() {
+    xdotool search --onlyvisible --class '^diarysettings.exe$' getwindowname %@ | grep .
+}
+
 await_program() {
-    await_shown "The program" --class '^diarysettings.exe$'
+    await_success "The program" program_titles
 }
 
-await_shown() { # WHAT CONDITION...
+await_success() { # WHAT COMMAND...
     local what=$1 tries=0
     shift
-    until xdotool search --onlyvisible "$@" >/dev/null 2>&1; do
+    until "$@" >/dev/null 2>&1; do
         sleep 0.05
         tries=$((tries + 1))
         [ $tries -lt 400 ] || fail "$what did not appear"
