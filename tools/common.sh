@@ -30,6 +30,36 @@ room_for() { # WIDTHxHEIGHT...
     echo "${longest}x$longest"
 }
 
+# English and the languages there is a translation for.
+languages() {
+    local file
+    echo en
+    for file in "$ROOT"/shipped/translations/LumDiary_*.txt; do
+        file=$(basename "$file" .txt)
+        echo "${file#LumDiary_}"
+    done
+}
+
+# A language as the user says it: one there is, or a file, of which this is the whole path.
+language_named() { # LANGUAGE-OR-FILE
+    if languages | grep -xF -e "$1" >/dev/null; then
+        echo "$1"
+    elif [ -f "$1" ]; then
+        realpath "$1"
+    else
+        fail "There is neither a language nor a file $1; there are $(languages | paste -sd ' ')"
+    fi
+}
+
+# The translation's file; none for English.
+translation_of() { # LANGUAGE
+    case $1 in
+        en) ;;
+        /*) echo "$1" ;;
+        *) echo "$ROOT/shipped/translations/LumDiary_$1.txt" ;;
+    esac
+}
+
 # Of Debian: what building needs, what running needs besides, what a display of our own and pictures of it need,
 # and what testing needs.
 BUILD_PACKAGES=(

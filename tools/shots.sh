@@ -16,11 +16,25 @@ start_program() { # DEVICE ARGUMENTS...
 }
 
 await_window() { # TITLE
-    local tries=0
-    until xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1; do
+    await_success "The window \"$1\"" xdotool search --onlyvisible --name "^$1\$"
+}
+
+# Of the program, in whatever language. The lists that it drops down to write down its texts have no title.
+program_titles() {
+    xdotool search --onlyvisible --class '^diarysettings.exe$' getwindowname %@ | grep .
+}
+
+await_program() {
+    await_success "The program" program_titles
+}
+
+await_success() { # WHAT COMMAND...
+    local what=$1 tries=0
+    shift
+    until "$@" >/dev/null 2>&1; do
         sleep 0.05
         tries=$((tries + 1))
-        [ $tries -lt 400 ] || fail "The window \"$1\" did not appear"
+        [ $tries -lt 400 ] || fail "$what did not appear"
     done
 }
 
@@ -128,32 +142,36 @@ run_demo() { # OUTPUT
 }
 
 # Pictures of every page and dialog, of one started device for each density and language: in English on every
-# screen, in each language there is a translation for on some, or with ALL=1 on every one.
+# screen, in each language there is a translation for on some, or with ALL=1 on every one. DEVICE_LANGUAGE leaves the
+# other languages out.
 run_gallery() { # OUTPUT
     rm -rf "$1"
-    take_gallery "$1" en '' "${SCREENS[@]}"
-    local file language some=(240x320@96)
+    local language languages=("${DEVICE_LANGUAGE:-}") some=(240x320@96)
+    [ -n "${languages[0]}" ] || mapfile -t languages < <(languages)
     [ -z "${ALL:-}" ] || some=("${SCREENS[@]}")
-    for file in "$ROOT"/shipped/translations/LumDiary_*.txt; do
-        language=$(basename "$file" .txt)
-        take_gallery "$1" "${language#LumDiary_}" "$file" "${some[@]}"
+    for language in "${languages[@]}"; do
+        if [ "$language" = en ]; then
+            take_gallery "$1" en "${SCREENS[@]}"
+        else
+            take_gallery "$1" "$language" "${some[@]}"
+        fi
     done
     say "Making the pictures' files smaller"
     python3 "$ROOT/tools/gallery.py" "$1"
     say "The pictures are in ${1#"$ROOT"/}; index.html shows them side by side"
 }
 
-take_gallery() { # OUTPUT LANGUAGE FILE SCREENS...
-    local output=$1 language=$2 file=$3 dpi sizes
-    shift 3
+take_gallery() { # OUTPUT LANGUAGE SCREENS...
+    local DEVICE_LANGUAGE=$2 output dpi sizes
+    output=$1/$(basename "$2" .txt)
+    shift 2
     for dpi in 96 128 192; do
         read -ra sizes <<<"$(sizes_at "$dpi" "$@")"
         [ ${#sizes[@]} -gt 0 ] || continue
-        say "Taking pictures in the language $language at $dpi dots per inch: ${sizes[*]}"
+        say "Taking pictures in the language $DEVICE_LANGUAGE at $dpi dots per inch: ${sizes[*]}"
         open_stage gallery "$dpi" "$(room_for "${sizes[@]}")"
-        [ -z "$file" ] || cp "$file" "$STAGE/Program Files/Lum Diary/LumDiary_en.txt"
-        mkdir -p "$output/$language"
-        (cd "$STAGE" && wine "$BIN/walk.exe" "Z:$(realpath "$output/$language")" "${sizes[@]}" </dev/null) ||
+        mkdir -p "$output"
+        (cd "$STAGE" && wine "$BIN/walk.exe" "Z:$(realpath "$output")" "${sizes[@]}" </dev/null) ||
             fail "Not every page could be opened"
         close_stage
     done

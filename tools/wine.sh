@@ -115,12 +115,32 @@ end_display() {
     XVFB_PID=
 }
 
+# Whatever the language, the program reads LumDiary_en.txt. The help comes along: LumDiary_fr.htm for LumDiary_fr.txt,
+# or in English where there is none. DEVICE_LANGUAGE chooses, and the device keeps it; what was in the file before,
+# perhaps written by hand, lies beside it then.
+install_language() { # DEVICE INSTALLATION
+    local kept=$1/.language translation=$2/LumDiary_en.txt language file help
+    language=$(cat "$kept" 2>/dev/null || true)
+    if [ "${DEVICE_LANGUAGE:-$language}" != "$language" ]; then
+        language=$DEVICE_LANGUAGE
+        echo "$language" >"$kept"
+        [ ! -f "$translation" ] || mv -f "$translation" "$translation.before"
+        rm -f "$2/LumDiary.htm"
+    fi
+    file=$(translation_of "${language:-en}")
+    [ -z "$file" ] || cp -u "$file" "$translation" || fail "The language of this device is gone; see ./run --help"
+    help=$ROOT/shipped/help/$(basename "$file" .txt).htm
+    [ -f "$help" ] || help=$ROOT/shipped/help/LumDiary.htm
+    cp -u "$help" "$2/LumDiary.htm"
+}
+
 # A device: the folders and files that any device has. What the build makes is brought up to date.
 # DEVICE_VERSION chooses another version of the system for a new one.
 furnish_device() { # DEVICE BIN DPI
     local install="$1/Program Files/Lum Diary"
     mkdir -p "$install" "$1/Windows" "$1/My Documents"
-    cp -u "$2/DiaryRes.Dll" "$ROOT/shipped/help/LumDiary.htm" "$install/"
+    cp -u "$2/DiaryRes.Dll" "$install/"
+    install_language "$1" "$install"
     cp -ru "$ROOT/shipped/help/pictures" "$install/"
     cp -ru "$2/Skins" "$install/"
     # The icons are bitmaps, of the screen's density.

@@ -1,12 +1,10 @@
 // DIARY_SCREENS names the screens, as in "240x320 320x240", all of the density of the device.
-// DIARY_LANGUAGE_FILE is the language file, none for English; DIARY_LANGUAGE is "pseudo" when each
-// of its texts stands in brackets.
+// The language is the device's; DIARY_PSEUDO asks for one with each of its texts in brackets.
 #include <gtest/gtest.h>
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <cwctype>
 #include <set>
 #include <sstream>
@@ -37,10 +35,7 @@ int Dpi() {
 
 constexpr wchar_t kLanguageFile[] = L"\\Program Files\\Lum Diary\\LumDiary_en.txt";
 
-bool IsPseudoLanguage() {
-    const char* const language = std::getenv("DIARY_LANGUAGE");
-    return language && std::string(language) == "pseudo";
-}
+bool IsPseudoLanguage() { return std::getenv("DIARY_PSEUDO"); }
 
 std::string Utf8(const std::wstring& text) {
     char bytes[1024] = {};
@@ -88,10 +83,6 @@ bool NeedsTranslation(const std::wstring& text) {
 }
 
 TEST(Layout, NothingIsCutCoveredOrOutOfLine) {
-    if (const char* const file = std::getenv("DIARY_LANGUAGE_FILE"); file && *file) {
-        const std::wstring path = L"Z:" + std::wstring(file, file + std::strlen(file));
-        ASSERT_TRUE(CopyFileW(path.c_str(), kLanguageFile, FALSE)) << file;
-    }
     ASSERT_TRUE(!IsPseudoLanguage() || WritePseudoLanguage());
     Walker walker(Screens());
     std::set<std::string> untranslated;
