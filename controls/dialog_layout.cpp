@@ -188,7 +188,7 @@ class Fitting {
             place.bottom = place.top + height;
         }
         places_[label].right = std::max(places_[label].right, RightLimit(label));
-        MakeRoom(before);
+        MakeRoom(before, field);
     }
 
     int RightOfColumn(std::size_t index) const {
@@ -234,8 +234,9 @@ class Fitting {
         return limit;
     }
 
-    // Keeps the distance to the lowest that stands above in the same column.
-    void MakeRoom(const Places& before) {
+    // Keeps the distance to the lowest that stands above in the same column. A field that went
+    // below its label does not push one beside it that had gone below its own.
+    void MakeRoom(const Places& before, std::size_t lowered = static_cast<std::size_t>(-1)) {
         std::vector<std::size_t> order(places_.size());
         std::iota(order.begin(), order.end(), std::size_t{0});
         std::stable_sort(order.begin(), order.end(), [&before](std::size_t a, std::size_t b) {
@@ -246,6 +247,10 @@ class Fitting {
             for (const std::size_t above : order) {
                 if (columns_[above] != columns_[own] || !before[above].shown) continue;
                 if (before[above].bottom > before[own].top) continue;
+                if (above == lowered && places_[above].top == before[own].top &&
+                    !ShareColumn(places_[above], before[own])) {
+                    continue;
+                }
                 lowestBefore = std::max(lowestBefore, before[above].bottom);
                 lowest = std::max(lowest, places_[above].bottom);
             }

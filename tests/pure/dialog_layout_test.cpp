@@ -88,6 +88,17 @@ TEST(DialogLayout, LongTextsFindRoom) {
     EXPECT_EQ(above.At(kField), "10 26 146 40") << "stands below its label";
     EXPECT_EQ(above.At(kListed).substr(0, 5), "10 46");
 
+    // Two of them in a row stay in it.
+    places = Designed();
+    places[0].textWidth = 60;
+    places[1].right = 96;
+    places[2] = {2, 100, 12, 140, 24, ControlKind::kLabel, 45};
+    places[3] = {3, 144, 10, 190, 24, ControlKind::kField, 46};
+    const Laid row(places, 200, 100, {});
+    EXPECT_EQ(row.At(1), "10 26 52 40");
+    EXPECT_EQ(row.At(3), "100 26 146 40");
+    EXPECT_EQ(row.At(kBox), "10 92 120 108");
+
     places = Designed();
     places[kField].textWidth = 142;
     EXPECT_EQ(Laid(places, 200, 100).At(kField), "48 10 190 24") << "takes what the label has not";
