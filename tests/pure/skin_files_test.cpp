@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "appearance/skins/skin_list.h"
+#include "appearance/skins/skin_members.h"
 #include "appearance/skins/strip.h"
 
 namespace {
@@ -66,12 +67,42 @@ TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
     Bytes bytes = Strip("..M");
     const std::span<const std::uint8_t> resource = std::span(bytes).subspan(14);
     EXPECT_TRUE(ParseBitmapResource(resource));
+    Put(bytes, 46, 1);  // a listed colour, which pushes the last pixels out
+    EXPECT_FALSE(ParseBitmapResource(resource));
+    bytes.resize(bytes.size() + 4);
+    EXPECT_TRUE(ParseBitmapResource(std::span(bytes).subspan(14)));
+    bytes = Strip("..M");
     Put(bytes, 46, 0x40000000);  // Listed colours, which the pixels of a resource follow.
     EXPECT_TRUE(ParseBitmapFile(bytes));
     EXPECT_FALSE(ParseBitmapResource(resource));
     for (std::size_t size = 0; size < bytes.size(); ++size) {
         EXPECT_FALSE(ParseBitmapFile({bytes.data(), size})) << size;
     }
+}
+
+TEST(SkinMembers, FollowTheDensity) {
+    constexpr std::tuple<int, const char*, const char*, int> kDensities[] = {
+        {96, "icons.bmp", "tab_icons_16.bmp", 16},
+        {128, "icons.bmp", "tab_icons_21.bmp", 21},
+        {143, "icons.bmp", "tab_icons_24.bmp", 24},
+        {144, "icons_vga.bmp", "tab_icons_24.bmp", 24},
+        {192, "icons_vga.bmp", "tab_icons_32.bmp", 32}};
+    for (const auto& [dpi, icons, tabs, size] : kDensities) {
+        const SkinMembers members = SkinMembersFor(dpi);
+        EXPECT_EQ(members.icons, icons) << dpi;
+        EXPECT_EQ(members.scrollBar, "scrollbar" + members.icons.substr(5));
+        EXPECT_EQ(members.tabIcons, tabs) << dpi;
+        EXPECT_EQ(members.tabIconSize, size) << dpi;
+    }
+    constexpr std::uint8_t kPixels[][3] = {
+        {255, 0, 255}, {255, 1, 255}, {254, 0, 255}, {255, 0, 254}};
+    for (const auto& pixel : kPixels) {
+        EXPECT_EQ(IsTransparentInTabIcons(pixel), &pixel == &kPixels[0]);
+    }
+    BitmapView view;
+    view.width = 50, view.height = 33;
+    const SquareGrid squares(view, 16);
+    EXPECT_TRUE(squares.Count() == 6 && squares.Left(4) == 16 && squares.Top(4) == 16);
 }
 
 TEST(SkinList, OffersFoldersAndArchives) {
