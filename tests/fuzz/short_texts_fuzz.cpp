@@ -1,7 +1,8 @@
-// Short texts that the registry, the disk and translations hold: any text is as good as another to
-// each of their readers.
+// Short texts that the registry, the disk, translations and command lines hold: any text is as good
+// as another to each of their readers.
 #include <algorithm>
 
+#include "app/command_line.h"
 #include "appearance/categories/file_name_escape.h"
 #include "appearance/categories/icon_sources.h"
 #include "appearance/categories/short_path.h"
@@ -49,8 +50,13 @@ void ReadPatterns(const std::wstring& text, std::uint32_t bits) {
     std::ranges::sort(sequence);
     REQUIRE(sequence == L"123456" && SmallestHeight(tabs.shown, bits & 1) >= 60);
 
-    DisplayPattern pattern;
+    DisplayPattern pattern{L"before", 7, L"after"}, again;
     pattern.Parse(text);
+    const bool hasMode = text.find_first_of(L"0123456789") != text.npos;
+    REQUIRE(hasMode ? text.ends_with(pattern.Format())  // the normal form of its end
+                    : pattern == (DisplayPattern{L"", 7, text}));
+    again.Parse(pattern.Format());
+    REQUIRE(again == pattern);
     const DisplayPattern ordered = TitleRows(pattern).Pattern(pattern.mode);
     REQUIRE(TitleRows(ordered).Pattern(pattern.mode) == ordered);
 
@@ -62,6 +68,16 @@ void ReadPatterns(const std::wstring& text, std::uint32_t bits) {
     REQUIRE(PlaceholdersOf(text) == L"sd" ? filled.find(L'3') != text.npos : filled == text);
 }
 
+// The sheets a command line names, written as options, are the same sheets.
+void ReadCommandLine(const std::wstring& text) {
+    const std::vector<OpenRequest> requests = ParseCommandLine(text);
+    std::wstring written;
+    for (const OpenRequest& request : requests) {
+        written += L" -P" + std::to_wstring(request.entry) + L":" + std::to_wstring(request.page);
+    }
+    REQUIRE(ParseCommandLine(written) == requests);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -69,5 +85,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::wstring text = TextOf({data + 1, size - 1});
     ReadNames(text, data[0] / 4);
     ReadPatterns(text, data[0]);
+    ReadCommandLine(text);
     return 0;
 }

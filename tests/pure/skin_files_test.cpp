@@ -67,11 +67,11 @@ TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
     Bytes bytes = Strip("..M");
     const std::span<const std::uint8_t> resource = std::span(bytes).subspan(14);
     EXPECT_TRUE(ParseBitmapResource(resource));
-    Put(bytes, 46, 1);  // a listed colour, which pushes the last pixels out
-    EXPECT_FALSE(ParseBitmapResource(resource));
-    bytes.resize(bytes.size() + 4);
-    EXPECT_TRUE(ParseBitmapResource(std::span(bytes).subspan(14)));
-    bytes = Strip("..M");
+    Bytes listed = bytes;
+    Put(listed, 46, 1);  // a listed colour, which pushes the last pixels out
+    EXPECT_FALSE(ParseBitmapResource(std::span(listed).subspan(14)));
+    listed.resize(listed.size() + 4);
+    EXPECT_TRUE(ParseBitmapResource(std::span(listed).subspan(14)));
     Put(bytes, 46, 0x40000000);  // Listed colours, which the pixels of a resource follow.
     EXPECT_TRUE(ParseBitmapFile(bytes));
     EXPECT_FALSE(ParseBitmapResource(resource));
@@ -81,18 +81,17 @@ TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
 }
 
 TEST(SkinMembers, FollowTheDensity) {
-    constexpr std::tuple<int, const char*, const char*, int> kDensities[] = {
-        {96, "icons.bmp", "tab_icons_16.bmp", 16},
-        {128, "icons.bmp", "tab_icons_21.bmp", 21},
-        {143, "icons.bmp", "tab_icons_24.bmp", 24},
-        {144, "icons_vga.bmp", "tab_icons_24.bmp", 24},
-        {192, "icons_vga.bmp", "tab_icons_32.bmp", 32}};
-    for (const auto& [dpi, icons, tabs, size] : kDensities) {
+    for (const auto& [dpi, size, suffix] : {std::tuple(96, 16, ".bmp"),
+                                            {128, 21, ".bmp"},
+                                            {143, 24, ".bmp"},
+                                            {144, 24, "_vga.bmp"},
+                                            {192, 32, "_vga.bmp"}}) {
         const SkinMembers members = SkinMembersFor(dpi);
-        EXPECT_EQ(members.icons, icons) << dpi;
-        EXPECT_EQ(members.scrollBar, "scrollbar" + members.icons.substr(5));
-        EXPECT_EQ(members.tabIcons, tabs) << dpi;
-        EXPECT_EQ(members.tabIconSize, size) << dpi;
+        EXPECT_EQ(members.icons + members.scrollBar,
+                  std::string("icons") + suffix + "scrollbar" + suffix)
+            << dpi;
+        EXPECT_EQ(members.tabIcons, "tab_icons_" + std::to_string(size) + ".bmp");
+        EXPECT_EQ(members.tabIconSize, size);
     }
     constexpr std::uint8_t kPixels[][3] = {
         {255, 0, 255}, {255, 1, 255}, {254, 0, 255}, {255, 0, 254}};

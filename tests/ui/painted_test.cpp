@@ -97,9 +97,10 @@ class Painted : public DeviceTest {
 TEST_F(Painted, EachPictureIsTheRightOneAndStandsAtItsPlace) {
     std::string all = "0";
     for (int i = 1; i < 40; ++i) all += " " + std::to_string(i);
-    constexpr int kPicture = FLAG_PICTURE, kNothing = 0, kPreview = IDC_TITLE_PREVIEW;
+    constexpr int kNothing = 0, kPage = 0, kPreview = IDC_TITLE_PREVIEW;
     struct Case {
-        int entry, page, control, click;  // what is looked at, and what is clicked before
+        int entry, page;
+        int control, click;  // what is looked at, and what is clicked before
         std::string pictures;
         Kind kind = kIcons;
     };
@@ -107,27 +108,17 @@ TEST_F(Painted, EachPictureIsTheRightOneAndStandsAtItsPlace) {
         {0, 4, IDC_STRIPE_PREVIEW, kNothing, "38 0"},
         {0, 4, IDC_STRIPE_PREVIEW, IDC_STRIPE_HIDE_EMPTY, "38 0 38"},
         {0, 4, IDC_STRIPE_PREVIEW, IDC_STRIPE_COLLAPSE_ICON, "0"},
-        {0, 6, IDC_SKIN_ICONS, kNothing, all},
-        {0, 6, IDC_SKIN_SCROLL_BAR, kNothing, "0 2 3 1", kScrollBar},
-        {0, 6, IDC_SKIN_SAMPLE, kNothing, "0 2 3 1", kScrollBar},
-        {0, 6, IDC_SKIN_SAMPLE, kNothing, "0 1 2 3 4 5", kTabs},
-        {0, 6, IDC_SKIN_SAMPLE, kNothing, "38 0 3 2 10 8 18 4 25"},
+        {0, 6, kPage, kNothing, all + " 38 0 3 2 10 8 18 4 25"},
+        {0, 6, kPage, kNothing, "0 2 3 1 0 2 3 1", kScrollBar},
+        {0, 6, kPage, kNothing, "0 1 2 3 4 5", kTabs},
         {1, 3, kPreview, kNothing, "0 8 2 3 4 0 8"},
         {2, 1, kPreview, kNothing, "38 10 6 8 4 3 11 6 8 4 3"},
         {2, 1, kPreview, IDC_TASK_CHECKBOX, "38 6 8 4 3 6 8 4 3"},
-        {2, 2, IDC_FLAG_PRIVATE + kPicture, kNothing, "4"},
-        {2, 2, IDC_FLAG_REMINDER + kPicture, kNothing, "2"},
-        {2, 2, IDC_FLAG_RECURRENCE + kPicture, kNothing, "3"},
-        {2, 2, IDC_FLAG_IMPORTANCE + kPicture, kNothing, "6"},
-        {2, 2, IDC_FLAG_LOW_PRIORITY + kPicture, kNothing, "7"},
-        {2, 2, IDC_FLAG_NOTE + kPicture, kNothing, "8"},
-        {2, 2, kPreview, kNothing, "10 6 8 4 3"},
-        {2, 2, kPreview, IDC_FLAG_NOTE, "10 6 4 3"},
-        {2, 2, kPreview, IDC_FLAG_REMINDER, "10 6 8 4 3 2"},
+        {2, 2, kPage, kNothing, "4 2 3 6 7 8 10 6 8 4 3"},
+        {2, 2, kPage, IDC_FLAG_NOTE, "4 2 3 6 7 8 10 6 4 3"},
+        {2, 2, kPage, IDC_FLAG_REMINDER, "4 2 3 6 7 8 10 6 8 4 3 2"},
         {3, 1, kPreview, kNothing, "38 13 9 13 9 14 9"},
-        {3, 2, IDC_FLAG_PRIVATE + kPicture, kNothing, "4"},
-        {3, 2, IDC_FLAG_NOTE + kPicture, kNothing, "8"},
-        {3, 2, kPreview, kNothing, "13 9"},
+        {3, 2, kPage, kNothing, "4 8 13 9"},
         {4, 0, IDC_NOTES_PREVIEW, kNothing, "38 22 8"},
     };
     {
@@ -145,7 +136,7 @@ TEST_F(Painted, EachPictureIsTheRightOneAndStandsAtItsPlace) {
         if (c.click) Click(page, c.click);
         std::string pictures;
         Until([&] {
-            pictures = PicturesIn(Reach(page, c.control), c.kind);
+            pictures = PicturesIn(c.control ? Reach(page, c.control) : page, c.kind);
             return pictures == c.pictures;
         });
         EXPECT_EQ(pictures, c.pictures);
@@ -154,64 +145,45 @@ TEST_F(Painted, EachPictureIsTheRightOneAndStandsAtItsPlace) {
 }
 
 TEST_F(Painted, PreviewsFollowWhatIsSet) {
-    using Steps = std::vector<std::pair<int, int>>;  // a control, and what is selected or kClick
     struct Case {
         int entry, page, preview;
-        Steps steps;
+        std::vector<int> steps;  // each a control, and what is selected or kClick
     };
     const Case cases[] = {
-        {0, 3, IDC_FONT_PREVIEW, {{IDC_FONT_SIZE, 8}, {IDC_FONT_FACE, 0}}},
+        {0, 3, IDC_FONT_PREVIEW, {IDC_FONT_SIZE, 8, IDC_FONT_FACE, 0}},
         {0,
          4,
          IDC_STRIPE_PREVIEW,
-         {{IDC_STRIPE_STYLE, 0},
-          {IDC_STRIPE_STYLE, 1},
-          {IDC_STRIPE_STYLE, 3},
-          {IDC_STRIPE_COUNTER, kClick},
-          {IDC_STRIPE_COLLAPSE_ICON, kClick},
-          {IDC_STRIPE_HIDE_EMPTY, kClick}}},
-        {0, 6, IDC_SKIN_ICONS, {{IDC_SKIN, 0}}},
-        {0, 6, IDC_SKIN_SCROLL_BAR, {{IDC_SKIN, 1}}},
-        {0, 6, IDC_SKIN_SAMPLE, {{IDC_SKIN, 0}}},
-        {1,
-         3,
-         IDC_TITLE_PREVIEW,
-         {{IDC_TIME_SPAN_NEW_STYLE, kClick},
-          {IDC_APP_START_ONLY, kClick},
-          {IDC_APP_LOCATION, kClick},
-          {IDC_APP_STATUS_BAR, kClick},
-          {IDC_APP_INDENT, kClick},
-          {IDC_APP_SUBJECT_STYLE, 0},
-          {IDC_APP_SUBJECT_STYLE, 1},
-          {IDC_APP_SUBJECT_STYLE, 2},
-          {IDC_TITLE_MODE, 0},
-          {IDC_TITLE_LIST, 1},
-          {IDC_TITLE_LIST, 2}}},
-        {2, 1, IDC_TITLE_PREVIEW, {{IDC_TASK_INDENT, kClick}, {IDC_TASK_CHECKBOX, kClick}}},
+         {IDC_STRIPE_STYLE, 0, IDC_STRIPE_STYLE, 1, IDC_STRIPE_STYLE, 3, IDC_STRIPE_COUNTER, kClick,
+          IDC_STRIPE_COLLAPSE_ICON, kClick, IDC_STRIPE_HIDE_EMPTY, kClick}},
+        {0, 6, IDC_SKIN_ICONS, {IDC_SKIN, 0}},
+        {0, 6, IDC_SKIN_SCROLL_BAR, {IDC_SKIN, 1}},
+        {0, 6, IDC_SKIN_SAMPLE, {IDC_SKIN, 0}},
+        {1, 3, IDC_TITLE_PREVIEW, {IDC_TIME_SPAN_NEW_STYLE, kClick, IDC_APP_START_ONLY,    kClick,
+                                   IDC_APP_LOCATION,        kClick, IDC_APP_STATUS_BAR,    kClick,
+                                   IDC_APP_INDENT,          kClick, IDC_APP_SUBJECT_STYLE, 0,
+                                   IDC_APP_SUBJECT_STYLE,   1,      IDC_APP_SUBJECT_STYLE, 2,
+                                   IDC_TITLE_MODE,          0,      IDC_TITLE_LIST,        1,
+                                   IDC_TITLE_LIST,          2}},
+        {2, 1, IDC_TITLE_PREVIEW, {IDC_TASK_INDENT, kClick, IDC_TASK_CHECKBOX, kClick}},
         {3,
          1,
          IDC_TITLE_PREVIEW,
-         {{IDC_CONTACT_DISPLAY, 0},
-          {IDC_CONTACT_DISPLAY, 2},
-          {IDC_CONTACT_DISPLAY, 3},
-          {IDC_CONTACT_INDENT, kClick},
-          {IDC_CONTACT_ADDRESS, 1},
-          {IDC_CONTACT_ADDRESS, 2}}},
+         {IDC_CONTACT_DISPLAY, 0, IDC_CONTACT_DISPLAY, 2, IDC_CONTACT_DISPLAY, 3,
+          IDC_CONTACT_INDENT, kClick, IDC_CONTACT_ADDRESS, 1, IDC_CONTACT_ADDRESS, 2}},
         {4,
          0,
          IDC_NOTES_PREVIEW,
-         {{IDC_NOTES_SIZE, kClick},
-          {IDC_NOTES_TIME, kClick},
-          {IDC_NOTES_INDENT, kClick},
-          {IDC_NOTES_GROUP_BY, 0},
-          {IDC_NOTES_GROUP_BY, 2}}},
+         {IDC_NOTES_SIZE, kClick, IDC_NOTES_TIME, kClick, IDC_NOTES_INDENT, kClick,
+          IDC_NOTES_GROUP_BY, 0, IDC_NOTES_GROUP_BY, 2}},
     };
     Put(L"UseSystem", 0);
     const Program program;
     for (const Case& c : cases) {
         const HWND page = OpenPage(program, c.entry, c.page, c.preview);
         ASSERT_TRUE(page);
-        for (const auto& [control, select] : c.steps) {
+        for (std::size_t i = 0; i < c.steps.size(); i += 2) {
+            const int control = c.steps[i], select = c.steps[i + 1];
             const Picture before = Picture::Settled(Reach(page, c.preview));
             if (select == kClick)
                 Click(page, control);

@@ -1,4 +1,6 @@
 // The program as a whole: its start, its instances, its end, and what it tells the plug-in.
+#include <sstream>
+
 #include "resources/ids.h"
 #include "tests/ui/device.h"
 #include "tests/ui/picture.h"
@@ -127,32 +129,16 @@ TEST_F(Whole, StartsBesideAnInstanceThatNeverShows) {
     CloseHandle(mutex);
 }
 
-// Every page, in its order: a control that it has, and where the help tells of it.
-constexpr std::tuple<int, int, const wchar_t*> kPages[] = {
-    {0, IDC_HEADER_STATE, L"general_common"},
-    {0, IDC_SHORT_NOT_YEAR, L"general_short_date"},
-    {0, IDC_LONG_REGIONAL, L"general_long_date"},
-    {0, IDC_FONT_FACE, L"general_font"},
-    {0, IDC_STRIPE_STYLE, L"general_group_style"},
-    {0, IDC_TABS_LIST, L"general_tabs"},
-    {0, IDC_SKIN, L"general_skins"},
-    {0, IDC_TIMEOUT_ON, L"general_auto_return"},
-    {1, IDC_CALENDAR_PERIOD, L"calendar_common"},
-    {1, IDC_SHOW_PAST, L"calendar_show"},
-    {1, IDC_SHOW_TASKS, L"calendar_tasks"},
-    {1, IDC_APP_LOCATION, L"calendar_titles"},
-    {2, IDC_TASK_SUBJECT, L"tasks_common"},
-    {2, IDC_TASK_CHECKBOX, L"tasks_view_style"},
-    {2, IDC_FLAG_IMPORTANCE, L"tasks_icons"},
-    {3, IDC_CONTACT_LAYOUT, L"contacts_common"},
-    {3, IDC_CONTACT_DISPLAY, L"contacts_view_style"},
-    {3, IDC_FLAG_PRIVATE, L"contacts_icons"},
-    {4, IDC_NOTES_SORT, L"notes_common"},
-    {4, IDC_NOTES_FOLDERS, L"notes_filter"},
-    {5, IDC_MESSAGES_SIZE, L"messages_common"},
-    {5, IDC_MAIL_FOLDERS, L"messages_filter"},
-    {6, IDC_SPECIAL_PERIOD, L"special_events_common"},
-};
+// Where the help tells of each page, by the sheets.
+constexpr const wchar_t* kAnchors[] = {
+    L"general_common general_short_date general_long_date general_font general_group_style "
+    L"general_tabs general_skins general_auto_return",
+    L"calendar_common calendar_show calendar_tasks calendar_titles",
+    L"tasks_common tasks_view_style tasks_icons",
+    L"contacts_common contacts_view_style contacts_icons",
+    L"notes_common notes_filter",
+    L"messages_common messages_filter",
+    L"special_events_common"};
 
 TEST_F(Whole, EveryPageHasItsTitleAndItsHelp) {
     constexpr wchar_t kLog[] = L"\\peghelp.log";
@@ -170,20 +156,21 @@ TEST_F(Whole, EveryPageHasItsTitleAndItsHelp) {
         EXPECT_GT(shown.Count(RGB(0, 0, 0), kBand, kBand + 1), 300) << place;
     };
     Program program;
-    int number = 0, last = 0;
-    for (const auto& [entry, control, anchor] : kPages) {
-        number = entry == last ? number : 0;
-        last = entry;
-        const HWND page = OpenPage(program, entry, number++, control);
-        ASSERT_TRUE(page) << anchor;
-        look(page, anchor, true);
-        if (control == IDC_CONTACT_LAYOUT) {
-            Select(page, control, 2);  // after the layout in use and none
-            const HWND layouts = program.Sheet(L"Keyboard layouts");
-            look(layouts, L"layouts_select", true);
-            ASSERT_TRUE(Cancel(layouts));
+    for (int entry = 0; entry < 7; ++entry) {
+        std::wistringstream anchors(kAnchors[entry]);
+        int number = 0;
+        for (std::wstring anchor; anchors >> anchor; ++number) {
+            const HWND page = OpenPage(program, entry, number, 0);
+            ASSERT_TRUE(page) << entry << ":" << number;
+            look(page, anchor, true);
+            if (anchor == L"contacts_common") {
+                Select(page, IDC_CONTACT_LAYOUT, 2);  // after the layout in use and none
+                const HWND layouts = program.Sheet(L"Keyboard layouts");
+                look(layouts, L"layouts_select", true);
+                ASSERT_TRUE(Cancel(layouts));
+            }
+            ASSERT_TRUE(Cancel(sheet_));
         }
-        ASSERT_TRUE(Cancel(sheet_));
     }
     program.Open(7, 0);
     const HWND categories = program.Sheet(L"Category Icons");

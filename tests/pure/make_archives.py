@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the archives that skin_test.cpp opens: make_archives.py FOLDER"""
+"""Makes the archives that tests open: make_archives.py FOLDER"""
 import io
 import os
 import pathlib
