@@ -83,6 +83,7 @@ TEST_F(Pages, ControlsNeedTheirPrograms) {
             DeleteKeyTree(HKEY_LOCAL_MACHINE, key);
         }
         DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\PhatWare");
+        DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\WebIS\\PocketInformant");
     };
     struct Case {
         int entry, page, control;
