@@ -103,6 +103,24 @@ TEST(DialogLayout, LabelsStayInLineAndFieldsKeepWhatTouchesThem) {
     EXPECT_EQ(arrows.At(1) + "; " + arrows.At(2), "10 26 106 40; 106 26 122 40");
 }
 
+TEST(DialogLayout, LongTextsPushWhatStandsInTheirRowAndBelow) {
+    const ControlPlace foot = {9, 10, 60, 190, 72};
+    const Laid lines({{1, 10, 10, 190, 26, ControlKind::kText, 200}, {2, 10, 30, 190, 44}}, 200,
+                     100, {});
+    EXPECT_EQ(lines.At(0) + "; " + lines.At(1), "10 10 190 38; 10 42 190 56");
+    const Laid pushed({{1, 10, 10, 60, 24, ControlKind::kText, 80},
+                       {2, 64, 10, 90, 24, ControlKind::kField, 20},
+                       foot},
+                      200, 100, {});
+    EXPECT_EQ(pushed.At(0) + "; " + pushed.At(1), "10 10 90 24; 94 10 120 24");
+    // What only touches its row is in nobody's way.
+    const Laid touched({{1, 10, 10, 60, 24, ControlKind::kText, 100},
+                        {2, 70, 24, 190, 38, ControlKind::kField, 20},
+                        foot},
+                       200, 100, {});
+    EXPECT_EQ(touched.At(0) + "; " + touched.At(1), "10 10 190 24; 70 24 190 38");
+}
+
 TEST(DialogLayout, LongTextsFindRoom) {
     auto places = Designed();
     places[kLabel].textWidth = 60;

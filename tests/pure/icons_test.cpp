@@ -89,6 +89,7 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
              Case{"no height", 40, 3, 0, 24, 0, 0, 500, false},
              Case{"widest", 40, 0x7FFF, 2, 1, 0, 2, 8192, true},
              Case{"wider", 40, 0x8000, 2, 1, 0, 2, 8192, false},
+             Case{"highest", 40, 1, 0x7FFF, 1, 0, 2, 4 * 0x7FFF, true},
              Case{"higher", 40, 1, 0x8000, 1, 0, 2, 4 * 0x8000, false},
              Case{"deepest", 40, 3, 0x80000000, 24, 0, 0, 500, false},
              Case{"no such header", 41 + 84, 3, 2, 24, 0, 0, 500, false},
@@ -102,7 +103,8 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
         }
         file.resize(pixels + c.early + c.pixels);
         const std::optional<BitmapSize> size = ReadBitmapSize(file);
-        const BitmapSize expected = {static_cast<int>(c.width), 2};
+        const BitmapSize expected = {static_cast<int>(c.width),
+                                     static_cast<int>(c.height > 0x8000 ? 2 : c.height)};
         EXPECT_EQ(size, c.good ? std::optional(expected) : std::nullopt) << c.what;
     }
     EXPECT_EQ(ReadBitmapSize({}), std::nullopt);
@@ -141,7 +143,7 @@ TEST(IconGrid, LiesGroupBelowGroup) {
           Case{IconMove::kDown,
                {{{0, 1}, {0, 4}}, {{0, 2}, {0, 4}}, {{0, 3}, {1}}, {{3, 0}, {3, 0}}}},
           Case{IconMove::kRight, {{{0, 4}, {1}}, {{3}, {3, 0}}}},
-          Case{IconMove::kLeft, {{{3}, {2}}, {{1}, {0, 4}}}},
+          Case{IconMove::kLeft, {{{3}, {2}}, {{1}, {0, 4}}, {{0, 4}, {0, 3}}}},
           Case{IconMove::kLast, {{{0}, {3, 0}}}}, Case{IconMove::kFirst, {{{3, 0}, {0}}}},
           Case{IconMove::kPageDown, {{{0}, {0, 3}}, {{3}, {3, 0}}}},
           Case{IconMove::kPageUp, {{{3, 0}, {2}}}}}) {

@@ -29,10 +29,14 @@ def info_zip(*options):
     return data
 
 
-def claiming(size):  # in the directory, of its member
-    data = bytearray(plain)
-    struct.pack_into("<I", data, data.index(b"PK\1\2") + 24, size)
+def in_directory(data, place, form, number):
+    data = bytearray(data)
+    struct.pack_into(form, data, data.index(b"PK\1\2") + place, number)
     return bytes(data)
+
+
+def claiming(size):  # of its member
+    return in_directory(plain, 24, "<I", size)
 
 
 os.makedirs(sys.argv[1], exist_ok=True)
@@ -52,6 +56,7 @@ for name, data in {
     "too_large": archive(("icons.bmp", bytes(LARGEST + 1))),
     "claims_more": claiming(1000000),
     "claims_less": claiming(100),
+    "wrong_extra": in_directory(info_zip(), 46 + len("icons.bmp") + 2, "<H", 0xFFF0),
     "cut": plain[:len(plain) // 2],
 }.items():
     pathlib.Path(f"{name}.zip").write_bytes(data)

@@ -50,12 +50,14 @@ class FakeValues : public PageValues {
   public:
     std::map<std::wstring, std::uint32_t> stored;
     std::vector<std::wstring> readOrder;
+    bool unread = false;  // whether what is read could not be
 
     std::uint32_t Read(const NumberSetting& setting) override {
         readOrder.push_back(setting.name);
         return stored.emplace(setting.name, setting.defaultValue).first->second;
     }
     std::wstring Read(const TextSetting&) override { return {}; }
+    bool TakeUnread() override { return unread; }
     void Write(const NumberSetting& setting, std::uint32_t value) override {
         stored[setting.name] = value;
     }
@@ -100,6 +102,25 @@ TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
     page.controls.SetChecked(3, false);
     rows.Save(page.controls, page.values, page.shared);
     EXPECT_EQ(page.shared.keypadNoBackspace, 1);
+}
+
+TEST(PageRows, WhatCouldNotBeReadIsStoredOnceItCouldOrWasChanged) {
+    Page page;
+    HeldRows rows({rows::Check(1, kFirst), rows::Check(2, kSecond)});
+    page.values.unread = true;
+    rows.Load(page.controls, page.values, page.shared);
+    rows.Refresh(page.controls, page.values, page.shared);
+    page.values.stored.clear();
+    page.controls.SetChecked(2, true);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.stored, (std::map<std::wstring, std::uint32_t>{{L"Second", 1}}));
+    page.values = {};
+    page.values.stored[L"First"] = 0;
+    rows.Refresh(page.controls, page.values, page.shared);
+    EXPECT_TRUE(!page.controls.IsChecked(1) && page.controls.IsChecked(2));
+    page.values.stored.clear();
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_TRUE(page.values.stored.contains(L"First"));
 }
 
 TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {

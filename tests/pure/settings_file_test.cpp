@@ -128,6 +128,9 @@ TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
     full.refuseAfter = 30;
     EXPECT_FALSE(ReadSettingsFile(kGolden, full));
     EXPECT_EQ(full.text, "root 2147483650 \\S;{;On=#258;=h\\8230;");
+    Notes noKey;
+    noKey.refuseAfter = 11;
+    EXPECT_FALSE(ReadSettingsFile(File({0, 1, 0, 2, 0, 2, 0, 1, 3, 1}), noKey));
 }
 
 TEST(SettingsFile, ValuesWithoutBytes) {

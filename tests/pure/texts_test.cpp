@@ -94,8 +94,9 @@ TEST(FillIn, ReplacesWhatIsThereAndLeavesWrongTextsAlone) {
         EXPECT_EQ(FillIn(text, {7, L"%d%n"}), filled) << std::string(text.begin(), text.end());
     }
     // A translation with other placeholders shows as it is.
-    for (const wchar_t* const other : {L"%s to %d", L"%s to %s", L"only %d", L"%d to %s and %s",
-                                       L"%d %n %s", L"%5d to %ls", L""}) {
+    for (const wchar_t* const other :
+         {L"%s to %d", L"%s to %s", L"only %d", L"%d to %s and %s", L"%d %n %s", L"%5d to %ls",
+          L"%d%a%s", L"%d%z%s", L"%d%A%s", L"%d%Z%s", L""}) {
         EXPECT_EQ(FillIn(other, {7, L"%d%n"}), other);
     }
 }

@@ -139,7 +139,7 @@ TEST_F(Painted, EachPictureIsTheRightOneAndStandsAtItsPlace) {
             pictures = PicturesIn(c.control ? Reach(page, c.control) : page, c.kind);
             return pictures == c.pictures;
         });
-        EXPECT_EQ(pictures, c.pictures);
+        ASSERT_EQ(pictures, c.pictures);
         ASSERT_TRUE(Cancel(sheet_));
     }
 }
@@ -189,7 +189,7 @@ TEST_F(Painted, PreviewsFollowWhatIsSet) {
                 Click(page, control);
             else
                 Select(page, control, select);
-            EXPECT_TRUE(Until([&] { return !(Picture(Reach(page, c.preview)) == before); }))
+            ASSERT_TRUE(Until([&] { return !(Picture(Reach(page, c.preview)) == before); }))
                 << c.entry << ":" << c.page << " " << control << "=" << select;
         }
         ASSERT_TRUE(Cancel(sheet_));

@@ -147,7 +147,7 @@ TEST_F(Whole, EveryPageHasItsTitleAndItsHelp) {
         DeleteFileW(kLog);
         AskForHelp(window);
         const std::string asked = "LumDiary.htm#options_" + place + "\n";
-        EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == asked; })) << place << ReadBytes(kLog);
+        ASSERT_TRUE(Until([&] { return ReadBytes(kLog) == asked; })) << place << ReadBytes(kLog);
         if (!hasBand) return;
         constexpr int kBand = 23;
         const Picture shown = Picture::Settled(window);
