@@ -1,5 +1,6 @@
 #include "appearance/drawing/today_background.h"
 
+#include <algorithm>
 #include <string>
 
 #include "appearance/drawing/theme_colors.h"
@@ -38,7 +39,9 @@ void PaintTodayBackground(HDC dc, const RECT& area) {
     const SelectedObject selected(memory.get(), picture);
     // Over the screen's width, as the Today screen shows it; the preview is a piece of that.
     const int width = GetSystemMetrics(SM_CXSCREEN);
-    StretchBlt(dc, area.left, area.top, width, size.bmHeight * width / size.bmWidth, memory.get(),
-               0, 0, size.bmWidth, size.bmHeight, SRCCOPY);
+    const int across = area.right - area.left;
+    const int down = std::min<int>(area.bottom - area.top, size.bmHeight * width / size.bmWidth);
+    StretchBlt(dc, area.left, area.top, across, down, memory.get(), 0, 0,
+               size.bmWidth * across / width, size.bmWidth * down / width, SRCCOPY);
     SetTextColor(dc, GetThemeColors().GetColor(ThemeColor::kText));
 }

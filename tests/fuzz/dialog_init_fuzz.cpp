@@ -1,11 +1,34 @@
 // Any bytes are a dialog-initialisation resource; cutting it off loses records at its end alone.
+// Any bytes are a dialog template or none; each of its controls takes its place in them.
 #include "app/language/dialog_init.h"
 
 #include <algorithm>
 
+#include "base/dialog_template.h"
 #include "tests/fuzz/fuzz.h"
 
+namespace {
+
+void ReadTemplate(std::span<const std::uint8_t> bytes) {
+    const std::optional<DialogTemplate> dialog = ParseDialogTemplate(bytes);
+    if (!dialog) return;
+    constexpr std::size_t kSmallestDialog = 32, kSmallestControl = 30, kNumber = 5;
+    std::size_t taken = kSmallestDialog;
+    for (const DialogTemplate::Control& control : dialog->controls) {
+        taken += kSmallestControl;
+        for (const std::wstring& name : {control.className, control.text}) {
+            REQUIRE(name.find(L'\0') == name.npos);
+            // A number takes two units.
+            taken += 2 * (name.size() == kNumber && name[0] == L'#' ? 1 : name.size());
+        }
+    }
+    REQUIRE(taken <= bytes.size());
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    ReadTemplate({data, size});
     constexpr std::size_t kSmallestRecord = 8;
     const std::vector<DialogInitRecord> records = ParseDialogInit({data, size});
     REQUIRE(records.size() <= size / kSmallestRecord);

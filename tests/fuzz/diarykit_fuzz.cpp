@@ -69,13 +69,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) return 0;
     const Bytes rest(data + 1, size - 1);
     std::vector<std::string> shown;
-    switch (data[0] % 8) {
+    switch (data[0] % 5) {
         case 0: CarryToReg(rest); break;
         case 1: CarryFromReg(rest); break;
         case 2: Translate(rest); break;
         case 3: PlacesOfTexts(rest); break;
-        case 4: CheckLayouts("x", TextOfFile(rest), shown); break;
-        default: break;
+        default: CheckLayouts("x", TextOfFile(rest), shown); break;
     }
     return 0;
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "settings/settings_file_facts.h"
 #include "settings/settings_file_search.h"
 #include "tests/fuzz/fuzz.h"
 
@@ -63,7 +64,7 @@ void ReadAndWrite(std::span<const std::uint8_t> file) {
     Copier first;
     first.writesEmpty = false;
     const bool whole = ReadSettingsFile(file, first);
-    REQUIRE(whole == Search(file).whole);
+    REQUIRE(whole == Search(file).whole && whole == LookThroughSettingsFile(file).whole);
     if (!whole) return;
     REQUIRE(first.depth == 0);
     first.writer.End();

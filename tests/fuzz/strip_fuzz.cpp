@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "appearance/skins/skin_members.h"
 #include "tests/fuzz/fuzz.h"
 
 namespace {
@@ -19,6 +20,10 @@ void Check(const std::optional<BitmapView>& view, const std::vector<std::uint8_t
     for (const StripPiece& piece : pieces) {
         REQUIRE(piece.top == next && piece.bottom >= piece.top && piece.bottom <= view->height);
         next = piece.bottom + 1;
+    }
+    const SquareGrid squares(*view, 16);
+    if (const int last = squares.Count() - 1; last >= 0) {
+        REQUIRE(squares.Left(last) + 16 <= view->width && squares.Top(last) + 16 <= view->height);
     }
 }
 

@@ -43,6 +43,8 @@ TEST(ColorGrid, LiesOnTheScreenAsDesigned) {
     EXPECT_EQ(usual.CellArea({7, 4}), (GridArea{130, 76, 142, 88}));
     EXPECT_EQ(fine.CellArea({1, 2}), (GridArea{44, 80, 68, 104}));
     EXPECT_EQ(usual.FrameArea({0, 0}), (GridArea{1, 1, 19, 19}));
+    EXPECT_EQ(uneven.SelectionArea({0, 1}), (GridArea{2, 19, 38, 37}));
+    EXPECT_EQ(uneven.FrameArea({0, 1}), (GridArea{2, 19, 38, 37}));
 
     const std::tuple<const ColorGrid&, GridPoint, GridCell> cells[] = {
         {usual, {4, 4}, {0, 0}},       {usual, {21, 21}, {0, 0}},
@@ -55,10 +57,17 @@ TEST(ColorGrid, LiesOnTheScreenAsDesigned) {
     }
     EXPECT_EQ(ClampToGrid({8, 5}), (GridCell{7, 4}));
 
-    EXPECT_EQ(PlaceColorGrid({10, 20, 50, 40}, 148, 94, 240, 320, 1), (GridPoint{10, 39}));
-    EXPECT_EQ(PlaceColorGrid({92, 206, 132, 227}, 148, 94, 240, 320, 1), (GridPoint{92, 226}));
-    EXPECT_EQ(PlaceColorGrid({190, 290, 230, 310}, 148, 94, 240, 320, 1), (GridPoint{82, 196}));
-    EXPECT_EQ(PlaceColorGrid({100, 50, 140, 70}, 148, 94, 140, 100, 1), (GridPoint{100, 69}));
+    const std::tuple<GridArea, int, int, GridPoint> places[] = {
+        {{10, 20, 50, 40}, 240, 320, {10, 39}},
+        {{92, 206, 132, 227}, 240, 320, {92, 226}},  // fits exactly; there is no room left of it
+        {{92, 20, 160, 40}, 240, 320, {92, 39}},     // nor need for it
+        {{190, 290, 230, 310}, 240, 320, {82, 196}},
+        {{100, 20, 148, 40}, 240, 320, {0, 39}},  // exactly as far as there is screen
+        {{10, 94, 50, 114}, 240, 180, {10, 0}},
+        {{100, 50, 140, 70}, 140, 100, {100, 69}}};
+    for (const auto& [button, width, height, place] : places) {
+        EXPECT_EQ(PlaceColorGrid(button, 148, 94, width, height, 1), place) << button.left;
+    }
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "app/language/dialog_init.h"
+#include "base/dialog_template.h"
 
 #include <gtest/gtest.h>
 
@@ -53,6 +54,41 @@ TEST(DialogInit, TextEndsAtItsTerminatorOrItsData) {
         EXPECT_EQ(records[0].text, text);
         EXPECT_EQ(records[1].text, L"Hi");
     }
+}
+
+TEST(DialogTemplate, HasItsControls) {
+    // In units of 16 bits, a line each: the dialog, its font, two controls, the second padded.
+    const std::vector<std::uint16_t> units = {
+        1,      0xFFFF, 0,   0,   0, 0,      0x40, 0x8000, 2,      0,      0, 160,
+        0xFFFF, 0,      0,   'T', 0,  //
+        8,      400,    1,   'A', 0,  //
+        0,      0,      2,   0,   3, 0x5000, 4,    0xFFFC, 100,    12,     7, 1,
+        0xFFFF, 0x80,   'H', 0,   2, 9,      0,    0,      0,      0,      0, 0,
+        0,      0,      0,   0,   8, 0,      'B',  0,      0xFFFF, 0xBEEF, 0};
+    const auto bytesOf = [](std::vector<std::uint16_t> of) {
+        const auto* const first = reinterpret_cast<const std::uint8_t*>(of.data());
+        return Bytes(first, first + 2 * of.size());
+    };
+    const Bytes bytes = bytesOf(units);
+    const std::optional<DialogTemplate> dialog = ParseDialogTemplate(bytes);
+    ASSERT_TRUE(dialog && dialog->controls.size() == 2);
+    EXPECT_TRUE(dialog->width == 160 && dialog->height == -1 && dialog->caption == L"T");
+    const DialogTemplate::Control &first = dialog->controls[0], &second = dialog->controls[1];
+    EXPECT_TRUE(first.extendedStyle == 2 && first.style == 0x50000003 && first.id == 0x10007);
+    EXPECT_TRUE(first.x == 4 && first.y == -4 && first.width == 100 && first.height == 12);
+    EXPECT_TRUE(first.className == L"#0080" && first.text == L"H");
+    EXPECT_TRUE(second.id == 8 && second.className == L"B" && second.text == L"#BEEF");
+    for (std::size_t size = 0; size < bytes.size(); ++size) {
+        EXPECT_FALSE(ParseDialogTemplate(Bytes(bytes.begin(), bytes.begin() + size))) << size;
+    }
+    std::vector<std::uint16_t> other = units;
+    other[0] = 2;
+    EXPECT_FALSE(ParseDialogTemplate(bytesOf(other))) << "of another form";
+    other = units;
+    other[6] = 0;
+    other.erase(other.begin() + 17, other.begin() + 22);
+    other.insert(other.begin() + 17, 0);
+    EXPECT_EQ(ParseDialogTemplate(bytesOf(other))->controls[1].text, L"#BEEF") << "without a font";
 }
 
 TEST(DialogInit, ControlZeroOrACutRecordEndsTheList) {

@@ -78,6 +78,49 @@ TEST(DialogLayout, FillingControlsAboveEachOtherShareAndHiddenOnesTakeNothing) {
     EXPECT_EQ(Laid(Designed(), 260, 150, widthOnly).At(kListed), "10 30 210 70");
 }
 
+TEST(DialogLayout, ColumnsMakeRoomForThemselvesAlone) {
+    // A list, what touches it below, and two beside them.
+    const Laid laid({{1, 10, 10, 90, 60},
+                     {2, 10, 60, 90, 72, ControlKind::kText, 20},
+                     {3, 110, 10, 190, 40},
+                     {4, 110, 74, 190, 92}},
+                    200, 120, {{1, 20}});
+    EXPECT_EQ(laid.At(0) + "; " + laid.At(1), "10 10 90 100; 10 100 90 112");
+    EXPECT_EQ(laid.At(2) + "; " + laid.At(3), "110 10 190 40; 110 74 190 92");
+}
+
+TEST(DialogLayout, LabelsStayInLineAndFieldsKeepWhatTouchesThem) {
+    const ControlPlace wide = {2, 10, 32, 50, 44, ControlKind::kLabel, 60};
+    const ControlPlace below = {3, 54, 30, 190, 44, ControlKind::kField, 80};
+    const std::vector<ControlPlace> all = Designed();
+    const Laid line({all[kLabel], all[kField], wide, below}, 200, 100, {});
+    EXPECT_EQ(line.At(0) + "; " + line.At(1), "10 12 70 24; 74 10 190 24");
+    EXPECT_EQ(line.At(3), "74 30 190 44");
+    const Laid arrows({{0, 10, 12, 50, 24, ControlKind::kLabel, 110},
+                       {1, 54, 10, 150, 24, ControlKind::kField, 80},
+                       {2, 150, 10, 166, 24}},
+                      200, 100, {});
+    EXPECT_EQ(arrows.At(1) + "; " + arrows.At(2), "10 26 106 40; 106 26 122 40");
+}
+
+TEST(DialogLayout, LongTextsPushWhatStandsInTheirRowAndBelow) {
+    const ControlPlace foot = {9, 10, 60, 190, 72};
+    const Laid lines({{1, 10, 10, 190, 26, ControlKind::kText, 200}, {2, 10, 30, 190, 44}}, 200,
+                     100, {});
+    EXPECT_EQ(lines.At(0) + "; " + lines.At(1), "10 10 190 38; 10 42 190 56");
+    const Laid pushed({{1, 10, 10, 60, 24, ControlKind::kText, 80},
+                       {2, 64, 10, 90, 24, ControlKind::kField, 20},
+                       foot},
+                      200, 100, {});
+    EXPECT_EQ(pushed.At(0) + "; " + pushed.At(1), "10 10 90 24; 94 10 120 24");
+    // What only touches its row is in nobody's way.
+    const Laid touched({{1, 10, 10, 60, 24, ControlKind::kText, 100},
+                        {2, 70, 24, 190, 38, ControlKind::kField, 20},
+                        foot},
+                       200, 100, {});
+    EXPECT_EQ(touched.At(0) + "; " + touched.At(1), "10 10 190 24; 70 24 190 38");
+}
+
 TEST(DialogLayout, LongTextsFindRoom) {
     auto places = Designed();
     places[kLabel].textWidth = 60;

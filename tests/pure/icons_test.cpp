@@ -24,11 +24,11 @@ IconDigest Digest(std::uint8_t fill) {
     return digest;
 }
 
-// Two groups, "AB" (padded) and "C" (not), which share a digest.
+// Two groups, "AB" (padded) and a letter (not), which share a digest.
 Bytes Catalogue() {
     Bytes file;
     Append(file, 2);
-    for (const std::uint32_t unit : {65, 66, 0, 0, 67, 0}) Append(file, unit, 2);
+    for (const std::uint32_t unit : {65, 66, 0, 0, 0x416, 0}) Append(file, unit, 2);
     Append(file, 1);
     file.insert(file.end(), 16, 1);
     Append(file, 2);
@@ -41,7 +41,8 @@ TEST(IconCatalogue, FindsTheFirstGroupAndRefusesWhatIsCut) {
     const Bytes file = Catalogue();
     IconCatalogue catalogue;
     ASSERT_TRUE(catalogue.Read(file));
-    EXPECT_EQ(catalogue.titles(), (std::vector<std::wstring>{L"AB", L"C"}));
+    EXPECT_EQ(catalogue.titles(), (std::vector<std::wstring>{L"AB", L"\x416"}));
+    EXPECT_TRUE(catalogue.CountOf(0) == 1 && catalogue.CountOf(1) == 1);
     EXPECT_EQ(catalogue.FindGroup(Digest(1)), 0u);
     EXPECT_EQ(catalogue.FindGroup(Digest(2)), 1u);
     EXPECT_EQ(catalogue.FindGroup(Digest(3)), std::nullopt);
@@ -58,7 +59,8 @@ TEST(IconCatalogue, FindsTheFirstGroupAndRefusesWhatIsCut) {
             EXPECT_FALSE(catalogue.Read(wrong)) << place << ": " << count;
         }
     }
-    EXPECT_TRUE(catalogue.Read(Bytes(4)));
+    EXPECT_TRUE(catalogue.Read(file) && catalogue.Read(Bytes(4)) &&
+                !catalogue.FindGroup(Digest(1)));
     EXPECT_FALSE(catalogue.Read(Bytes{1, 0, 0, 0, 'A', 0, 'A', 0}));
 }
 
@@ -67,6 +69,7 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
         const char* what;
         std::uint32_t header, width, height, bits, compression, colors, pixels;
         bool good;
+        std::uint32_t early = 0;  // bytes by which the pixels begin within what is before them
     };
     for (const Case& c : {
              Case{"24 bits", 40, 3, 2, 24, 0, 0, 24, true},
@@ -80,20 +83,30 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
              Case{"masks", 40, 3, 2, 16, 3, 0, 16, true},
              Case{"a mask's byte short", 40, 3, 2, 16, 3, 0, 15, false},
              Case{"no such compression", 40, 3, 2, 16, 2, 0, 500, false},
+             Case{"pixels in the table", 40, 3, 2, 8, 0, 2, 8, false, 1},
+             Case{"pixels in the masks", 40, 3, 2, 16, 3, 0, 16, false, 1},
+             Case{"pixels in the header", 40, 3, 2, 24, 0, 0, 24, false, 1},
              Case{"no width", 40, 0, 2, 24, 0, 0, 500, false},
-             Case{"widest", 40, 0x7FFFFFFF, 2, 24, 0, 0, 500, false},
+             Case{"no height", 40, 3, 0, 24, 0, 0, 500, false},
+             Case{"widest", 40, 0x7FFF, 2, 1, 0, 2, 8192, true},
+             Case{"wider", 40, 0x8000, 2, 1, 0, 2, 8192, false},
+             Case{"highest", 40, 1, 0x7FFF, 1, 0, 2, 4 * 0x7FFF, true},
+             Case{"higher", 40, 1, 0x8000, 1, 0, 2, 4 * 0x8000, false},
              Case{"deepest", 40, 3, 0x80000000, 24, 0, 0, 500, false},
              Case{"no such header", 41 + 84, 3, 2, 24, 0, 0, 500, false},
          }) {
         Bytes file = {'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0};
-        const std::uint32_t pixels = 14 + c.header + 4 * c.colors + (c.compression == 3 ? 12 : 0);
+        const std::uint32_t masks = c.compression == 3 ? 12 : 0;
+        const std::uint32_t pixels = 14 + c.header + 4 * c.colors + masks - c.early;
         for (const std::uint32_t field : {pixels, c.header, c.width, c.height, 1 | c.bits << 16,
                                           c.compression, 0u, 0u, 0u, c.colors}) {
             Append(file, field);
         }
-        file.resize(pixels + c.pixels);
+        file.resize(pixels + c.early + c.pixels);
         const std::optional<BitmapSize> size = ReadBitmapSize(file);
-        EXPECT_EQ(size, c.good ? std::optional(BitmapSize{3, 2}) : std::nullopt) << c.what;
+        const BitmapSize expected = {static_cast<int>(c.width),
+                                     static_cast<int>(c.height > 0x8000 ? 2 : c.height)};
+        EXPECT_EQ(size, c.good ? std::optional(expected) : std::nullopt) << c.what;
     }
     EXPECT_EQ(ReadBitmapSize({}), std::nullopt);
 }
@@ -163,6 +176,7 @@ TEST(IconGrid, LiesGroupBelowGroup) {
     EXPECT_EQ(grid.AreaOf({0, 4}), (GridArea{40, 39, 60, 63}));
     EXPECT_EQ(grid.AreaOf({3}), (GridArea{0, 93, 85, 108}));
     EXPECT_EQ(grid.At({40, 39}), (IconPlace{0, 4}));
+    EXPECT_EQ(grid.At({0, 0}), (IconPlace{0}));
     EXPECT_EQ(grid.At({0, 92}), (IconPlace{2}));
     EXPECT_EQ(grid.At({60, 39}), std::nullopt);  // behind the last icon
     EXPECT_EQ(grid.At({80, 20}), std::nullopt);  // behind the last column
@@ -186,7 +200,7 @@ TEST(IconGrid, LiesGroupBelowGroup) {
           Case{IconMove::kDown,
                {{{0, 1}, {0, 4}}, {{0, 2}, {0, 4}}, {{0, 3}, {1}}, {{3, 0}, {3, 0}}}},
           Case{IconMove::kRight, {{{0, 4}, {1}}, {{3}, {3, 0}}}},
-          Case{IconMove::kLeft, {{{3}, {2}}, {{1}, {0, 4}}}},
+          Case{IconMove::kLeft, {{{3}, {2}}, {{1}, {0, 4}}, {{0, 4}, {0, 3}}}},
           Case{IconMove::kLast, {{{0}, {3, 0}}}}, Case{IconMove::kFirst, {{{3, 0}, {0}}}},
           Case{IconMove::kPageDown, {{{0}, {0, 3}}, {{3}, {3, 0}}}},
           Case{IconMove::kPageUp, {{{3, 0}, {2}}}}}) {
@@ -224,6 +238,7 @@ TEST(IconSources, ShowsAnyOfThem) {
     EXPECT_EQ(sources.Show(5), std::nullopt);
     EXPECT_EQ(sources.shown(), 0);
     EXPECT_EQ(sources.Show(2), Folders{L"2"});
+    EXPECT_EQ(sources.Show(0), (Folders{L"1", L"2", L"a", L"b"}));
     EXPECT_EQ(sources.Show(4), Folders{L"b"});
     EXPECT_EQ(sources.shown(), 3);
     EXPECT_EQ(sources.remembered().folders(), (Folders{L"b", L"a"}));
@@ -235,6 +250,7 @@ TEST(IconSources, AreShownAsShortPaths) {
     const std::tuple<std::wstring, std::size_t, std::wstring> cases[] = {
         {L"\\My Documents\\Icons\\", 20, L"\\My Documents\\Icons\\"},
         {L"\\My Documents\\Icons\\", 19, L"...\\Icons\\"},
+        {L"\\My Documents\\Icons\\", 5, L"...s\\"},
         {L"\\My Documents\\Icons", 8, L"...Icons"},
         {L"\\My Documents\\Icons", 0, L"..."},
         {std::wstring(260, L'a'), 6, L"...aaa"},

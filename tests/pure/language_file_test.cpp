@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "app/language/language_index.h"
+
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -144,6 +146,39 @@ TEST(LanguageFile, TemplateListsTextsWithoutTranslations) {
     EXPECT_EQ(file, L"$$$$$$$$ NEW FILE $$$$$$$\r\nCancel|\r\nTwo\\nlines|\r\na\\|b\\\\|\r\n");
     EXPECT_EQ(Shown(ParseLanguageFile(Utf16(file))),
               "$$$$$$$$ NEW FILE $$$$$$$=;Cancel=;Two{10}lines=;a|b\\=;");
+}
+
+TEST(LanguageIndex, FindsWhatASearchFromTheFrontFinds) {
+    const LanguageIndex index({
+        {L"Cancel", L"Abbrechen"},
+        {L"Cancel", L"Verwerfen"},
+        {L"Calendar", L""},
+        {L"Calendar", L"Kalender"},  // hidden by the pair before it
+        {L"", L"nothing"},
+        {L"Name", L"Name"},
+        {L"Two\nlines", L"Zwei\nZeilen"},
+    });
+    const auto found = [&index](const wchar_t* source) {
+        const std::wstring* translation = index.Find(source);
+        return translation ? *translation : L"(none)";
+    };
+    EXPECT_EQ(found(L"Cancel"), L"Abbrechen");
+    EXPECT_EQ(found(L"Calendar"), L"(none)");
+    EXPECT_EQ(found(L"Two\nlines"), L"Zwei\nZeilen");
+    for (const wchar_t* source : {L"", L"Name", L"cancel", L"Cance", L"Cancel ", L"Abbrechen"}) {
+        EXPECT_EQ(found(source), L"(none)") << source;
+    }
+    EXPECT_EQ(LanguageIndex().Find(L"Cancel"), nullptr);
+}
+
+TEST(LanguageIndex, KeepsItsTextsWhenMoved) {
+    LanguageIndex first({{L"a", L"b"}, {L"c", L"d"}});
+    LanguageIndex second;
+    second = std::move(first);
+    first = LanguageIndex(std::vector<LanguageEntry>{{L"a", L"x"}});
+    ASSERT_NE(second.Find(L"a"), nullptr);
+    EXPECT_EQ(*second.Find(L"a"), L"b");
+    EXPECT_EQ(*first.Find(L"a"), L"x");
 }
 
 }  // namespace

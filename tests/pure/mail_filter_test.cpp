@@ -82,6 +82,9 @@ TEST(MailFilter, SuggestsNames) {
     EXPECT_EQ(
         SuggestedFilterNames({L"home", L"Inbox"}, {L"Inbox", L"All"}, Before),
         (std::vector<std::wstring>{L"All", L"home", L"home - Inbox", L"Inbox", L"Inbox - home"}));
+    EXPECT_EQ(SuggestedFilterNames({L"", L"b"}, {L""}, [](auto, auto) { return false; }),
+              (std::vector<std::wstring>{L" - b", L"b", L"b - "}))
+        << "no empty one";
 }
 
 TEST(MailFilter, TakesTheFirstFreeName) {

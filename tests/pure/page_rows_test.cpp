@@ -50,12 +50,14 @@ class FakeValues : public PageValues {
   public:
     std::map<std::wstring, std::uint32_t> stored;
     std::vector<std::wstring> readOrder;
+    bool unread = false;  // whether what is read could not be
 
     std::uint32_t Read(const NumberSetting& setting) override {
         readOrder.push_back(setting.name);
         return stored.emplace(setting.name, setting.defaultValue).first->second;
     }
     std::wstring Read(const TextSetting&) override { return {}; }
+    bool TakeUnread() override { return unread; }
     void Write(const NumberSetting& setting, std::uint32_t value) override {
         stored[setting.name] = value;
     }
@@ -97,6 +99,28 @@ TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
     EXPECT_EQ(page.values.stored[L"Second"], 1u);  // A check box stores exactly 0 or 1.
     EXPECT_EQ(page.values.stored[L"First"], 0u);
     EXPECT_EQ(page.shared.keypadNoBackspace, 0);
+    page.controls.SetChecked(3, false);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.shared.keypadNoBackspace, 1);
+}
+
+TEST(PageRows, WhatCouldNotBeReadIsStoredOnceItCouldOrWasChanged) {
+    Page page;
+    HeldRows rows({rows::Check(1, kFirst), rows::Check(2, kSecond)});
+    page.values.unread = true;
+    rows.Load(page.controls, page.values, page.shared);
+    rows.Refresh(page.controls, page.values, page.shared);
+    page.values.stored.clear();
+    page.controls.SetChecked(2, true);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.stored, (std::map<std::wstring, std::uint32_t>{{L"Second", 1}}));
+    page.values = {};
+    page.values.stored[L"First"] = 0;
+    rows.Refresh(page.controls, page.values, page.shared);
+    EXPECT_TRUE(!page.controls.IsChecked(1) && page.controls.IsChecked(2));
+    page.values.stored.clear();
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_TRUE(page.values.stored.contains(L"First"));
 }
 
 TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
@@ -109,11 +133,11 @@ TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
         std::uint32_t saved;  // untouched
     } const cases[] = {{kIndex, 0, 0, 0},  {kIndex, 3, 3, 3},
                        {kIndex, 4, -1, 4}, {kIndex, 0xFFFFFFFF, -1, 0xFFFFFFFF},
-                       {kText, 7, 1, 7},   {kText, 14, 2, 14},
+                       {kText, 7, 1, 7},   {kText, 10, 2, 10},
                        {kText, 8, -1, 8},  {kText, 0xFFFFFFF9, -1, 0xFFFFFFF9},
                        {kChoice, 0, 0, 0}, {kChoice, 3, 3, 3},
                        {kChoice, 99, 0, 0}};  // Falls back to the first entry.
-    const std::vector<FakeControls::Item> fixed = {{L"1"}, {L"7"}, {L"14"}, {L"x"}};
+    const std::vector<FakeControls::Item> fixed = {{L"1"}, {L"7"}, {L"10"}, {L"x"}};
     for (const auto& c : cases) {
         Page page;
         if (c.kind != Row::Kind::kChoice) page.controls.controls[1].items = fixed;
@@ -129,15 +153,19 @@ TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
 TEST(PageRows, SelectedEntriesAreStored) {
     Page page;
     page.controls.controls[1].items = {{L"1"}, {L"7"}, {L"123456789012"}};
+    page.controls.controls[3].items = {{L"a"}, {L"b"}};
     HeldRows rows({rows::NumberText(1, &CDiarySettings::groupSpan),
-                   rows::Choice(2, &CDiarySettings::specialPeriod, kSpecialPeriods)});
+                   rows::Choice(2, &CDiarySettings::specialPeriod, kSpecialPeriods),
+                   rows::Index(3, kFirst)});
     rows.Load(page.controls, page.values, page.shared);
     EXPECT_EQ(page.controls.Selection(2), 3);  // 0 stands fourth.
     page.controls.SetSelection(1, 1);
     page.controls.SetSelection(2, 4);
+    page.controls.SetSelection(3, 0);
     rows.Save(page.controls, page.values, page.shared);
     EXPECT_EQ(page.shared.groupSpan, 7);
     EXPECT_EQ(page.shared.specialPeriod, 4);
+    EXPECT_EQ(page.values.stored[L"First"], 0u);
     page.controls.SetSelection(1, 2);  // No number that fits.
     rows.Save(page.controls, page.values, page.shared);
     EXPECT_EQ(page.shared.groupSpan, 0);
@@ -190,6 +218,23 @@ TEST_F(KeptRows, LoadedOffShowsEmptyAndKeeps) {
     EXPECT_EQ(SavedKept(), 1u);
     Click(1, true);
     EXPECT_TRUE(page.controls.IsChecked(2));
+}
+
+TEST(PageRows, KeptWhileOnIsNotStored) {
+    Page page;
+    page.values.stored = {{L"First", 1}, {L"Second", 1}};
+    HeldRows rows({rows::Check(1, kFirst), rows::Check(2, kSecond).KeptWhileOn(1)});
+    rows.Load(page.controls, page.values, page.shared);
+    rows.UpdateEnabled(page.controls);
+    EXPECT_FALSE(page.controls.IsChecked(2) || page.controls.controls[2].enabled);
+    page.values.stored[L"Second"] = 7;
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.stored[L"Second"], 7u);
+    page.controls.SetChecked(1, false);
+    rows.UpdateEnabled(page.controls);
+    EXPECT_TRUE(page.controls.IsChecked(2) && page.controls.controls[2].enabled);
+    rows.Save(page.controls, page.values, page.shared);
+    EXPECT_EQ(page.values.stored[L"Second"], 1u);
 }
 
 TEST(PageRows, WhatTheDeviceLacksIsGreyedOrRemoved) {

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "settings/catalogue.h"
+#include "settings/settings_file_facts.h"
 #include "settings/settings_file_search.h"
 
 namespace {
@@ -58,37 +60,13 @@ Bytes File(std::initializer_list<std::uint32_t> numbers) {
 constexpr std::uint32_t Two(char16_t first, char16_t second) {
     return first | std::uint32_t{second} << 16;
 }
-constexpr std::uint32_t kLocalMachine = 0x80000002;
 
 // The key "\S" of a root: "On" is 258, the value without a name a text, "Bn" in "Sb" four bytes.
-const Bytes kGolden = File({0,
-                            kLocalMachine,
-                            4,
-                            Two('\\', 'S'),
-                            2,
-                            0,
-                            4,
-                            4,
-                            Two('O', 'n'),
-                            4,
-                            258,
-                            4,
-                            0,
-                            1,
-                            4,
-                            Two('h', 0x2026),
-                            2,
-                            4,
-                            Two('S', 'b'),
-                            4,
-                            4,
-                            Two('B', 'n'),
-                            3,
-                            4,
-                            0xFFFFFFFF,
-                            3,
-                            3,
-                            1});
+constexpr std::uint32_t kS = Two('\\', 'S'), kOn = Two('O', 'n'), kH = Two('h', 0x2026),
+                        kSb = Two('S', 'b'), kBn = Two('B', 'n');
+const Bytes kGolden =
+    File({0, kLocalMachine, 4, kS, 2,   0, 4, 4,          kOn, 4, 258, 4, 0, 1, 4, kH, 2,
+          4, kSb,           4, 4,  kBn, 3, 4, 0xFFFFFFFF, 3,   3, 1});
 
 TEST(SettingsFile, WritesAndReadsTheSameBytes) {
     SettingsFileWriter writer;
@@ -150,6 +128,9 @@ TEST(SettingsFile, KeepsWhatStandsBeforeAFault) {
     full.refuseAfter = 30;
     EXPECT_FALSE(ReadSettingsFile(kGolden, full));
     EXPECT_EQ(full.text, "root 2147483650 \\S;{;On=#258;=h\\8230;");
+    Notes noKey;
+    noKey.refuseAfter = 11;
+    EXPECT_FALSE(ReadSettingsFile(File({0, 1, 0, 2, 0, 2, 0, 1, 3, 1}), noKey));
 }
 
 TEST(SettingsFile, ValuesWithoutBytes) {
@@ -168,6 +149,8 @@ TEST(SettingsFile, ValuesWithoutBytes) {
         {"in a key that seems to end earlier",
          File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 0, 3, 4, 4, kAb, 4, 7, 3, 3, 1}), true,
          "root 1 ;{;{;=0 bytes;=0 bytes;ab=#7;};};"},
+        {"before an end tag inside", File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 4, kAb, 4, 7, 1, 3, 1}),
+         true, "root 1 ;{;{;=0 bytes;ab=#7;};};"},
         {"behind an unknown tag", File({0, 1, 0, 2, 0, 9, 4, 0, 3, 3, 1}), true,
          "root 1 ;{;=0 bytes;};"},
         {"before what seems to be the file's end",
@@ -177,6 +160,32 @@ TEST(SettingsFile, ValuesWithoutBytes) {
          File({0, 1, 0, 2, 0, 9, 4, 0, 3, 4, 0, 3, 1, 0x300, 0x100, 0}), true,
          "root 1 ;{;=4 bytes;};"},
     });
+}
+
+TEST(SettingsFile, TellsWhatItWouldDo) {
+    const std::wstring product = kProductKey;
+    const std::wstring above = product.substr(0, product.rfind(L'\\'));
+    // A key, whether it has a value, and whether that or itself is not the diary's.
+    const std::tuple<std::uint32_t, std::wstring, bool, bool> cases[] = {
+        {kLocalMachine, product, true, false},
+        {kLocalMachine, L"\\" + product + L"\\Filters", true, false},
+        {kLocalMachine, above, false, false},
+        {kLocalMachine, above, true, true},
+        {kLocalMachine, above + L"\\Other", false, true},
+        {0x80000001, product, false, true}};
+    for (const auto& [root, path, hasValue, outside] : cases) {
+        SettingsFileWriter file;
+        file.Begin(root, path);
+        file.BeginKey(L"");
+        file.BeginKey(L"LUM Diary");
+        file.EndKey();
+        if (hasValue) file.Text(L"a", L"b");
+        file.EndKey();
+        file.End();
+        const SettingsFileFacts facts = LookThroughSettingsFile(file.bytes);
+        EXPECT_TRUE(facts.whole && facts.writesOutside == outside) << testing::PrintToString(path);
+    }
+    EXPECT_TRUE(IsSameAsciiName(L"LUM diAryZ", L"lum DiaRyz") && !IsSameAsciiName(L"[", L"{"));
 }
 
 // Each round is two values of which either may be empty, at any of the depths before it.
@@ -192,7 +201,7 @@ TEST(SettingsFile, SearchHasAnEnd) {
 }
 
 TEST(SettingsFile, DeepNestingTakesNoStack) {
-    constexpr std::size_t kLevels = 1000000;
+    constexpr std::size_t kLevels = 200000;
     Bytes file = File({0, 1, 0});
     for (std::size_t i = 0; i < kLevels; ++i) file.insert(file.end(), {2, 0, 0, 0, 0, 0, 0, 0});
     struct Counter : Notes {

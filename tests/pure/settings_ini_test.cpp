@@ -26,7 +26,7 @@ TEST(SettingsIni, ReadsLinesAsPairsOrSkipsThem) {
         {"key=value", {{L"key", L"value"}}},
         {"  key = value \t\r\n", {{L"key ", L" value"}}},
         {"ab=c\nab=d\n", {{L"ab", L"c"}, {L"ab", L"d"}}},
-        {"key=a=b", {{L"key", L"a=b"}}},
+        {"key=a=b\rc", {{L"key", L"a=b\rc"}}},
         {"key=", {{L"key", L""}}},
         // Too short, nothing before the sign, no sign, a comment.
         {"a=b\n[a]\nabc\n=value\nvalue\n;key=value\n", {}},

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "appearance/skins/skin_list.h"
+#include "appearance/skins/skin_members.h"
 #include "appearance/skins/strip.h"
 
 namespace {
@@ -66,12 +67,41 @@ TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
     Bytes bytes = Strip("..M");
     const std::span<const std::uint8_t> resource = std::span(bytes).subspan(14);
     EXPECT_TRUE(ParseBitmapResource(resource));
+    Bytes listed = bytes;
+    Put(listed, 46, 1);  // a listed colour, which pushes the last pixels out
+    EXPECT_FALSE(ParseBitmapResource(std::span(listed).subspan(14)));
+    listed.resize(listed.size() + 4);
+    EXPECT_TRUE(ParseBitmapResource(std::span(listed).subspan(14)));
     Put(bytes, 46, 0x40000000);  // Listed colours, which the pixels of a resource follow.
     EXPECT_TRUE(ParseBitmapFile(bytes));
     EXPECT_FALSE(ParseBitmapResource(resource));
     for (std::size_t size = 0; size < bytes.size(); ++size) {
         EXPECT_FALSE(ParseBitmapFile({bytes.data(), size})) << size;
     }
+}
+
+TEST(SkinMembers, FollowTheDensity) {
+    for (const auto& [dpi, size, suffix] : {std::tuple(96, 16, ".bmp"),
+                                            {128, 21, ".bmp"},
+                                            {143, 24, ".bmp"},
+                                            {144, 24, "_vga.bmp"},
+                                            {192, 32, "_vga.bmp"}}) {
+        const SkinMembers members = SkinMembersFor(dpi);
+        EXPECT_EQ(members.icons + members.scrollBar,
+                  std::string("icons") + suffix + "scrollbar" + suffix)
+            << dpi;
+        EXPECT_EQ(members.tabIcons, "tab_icons_" + std::to_string(size) + ".bmp");
+        EXPECT_EQ(members.tabIconSize, size);
+    }
+    constexpr std::uint8_t kPixels[][3] = {
+        {255, 0, 255}, {255, 1, 255}, {254, 0, 255}, {255, 0, 254}};
+    for (const auto& pixel : kPixels) {
+        EXPECT_EQ(IsTransparentInTabIcons(pixel), &pixel == &kPixels[0]);
+    }
+    BitmapView view;
+    view.width = 50, view.height = 33;
+    const SquareGrid squares(view, 16);
+    EXPECT_TRUE(squares.Count() == 6 && squares.Left(4) == 16 && squares.Top(4) == 16);
 }
 
 TEST(SkinList, OffersFoldersAndArchives) {

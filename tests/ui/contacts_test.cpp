@@ -121,17 +121,9 @@ TEST_F(Contacts, LayoutsThatCannotBeStoredAreRefused) {
     const HWND dialog = OpenDialog(page, 2);
     ASSERT_TRUE(dialog);
     const HWND list = GetDlgItem(dialog, IDC_LAYOUTS_LIST);
-    const auto ticked = [&] {
-        std::wstring rows;
-        for (int i = 0; i < 13; ++i) {
-            const LRESULT state = SendMessageW(list, LVM_GETITEMSTATE, i, LVIS_STATEIMAGEMASK);
-            rows += state == INDEXTOSTATEIMAGEMASK(2) ? L'x' : L'-';
-        }
-        return rows;
-    };
     Tick(dialog, 8);
     ASSERT_TRUE(program_.Dismiss());
-    EXPECT_EQ(ticked(), L"---------x---") << "but Latin";
+    EXPECT_EQ(Ticks(list), L"---------x---") << "but Latin";
     for (int i = 0; i < 8; ++i) Tick(dialog, i);
     PostMessageW(dialog, WM_COMMAND, IDOK, 0);
     ASSERT_TRUE(program_.Dismiss());

@@ -160,7 +160,7 @@ HWND Page(HWND sheet, int control) {
     HWND page = nullptr;
     const bool shown = Until([&] {
         page = PropSheet_GetCurrentPageHwnd(sheet);
-        return page && IsWindowVisible(page) && GetDlgItem(page, control);
+        return page && IsWindowVisible(page) && (!control || GetDlgItem(page, control));
     });
     return shown ? page : nullptr;
 }
@@ -299,6 +299,16 @@ std::wstring Selected(HWND page, int control) {
         SendDlgItemMessageW(page, control, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text));
     }
     return text;
+}
+
+std::wstring Ticks(HWND list) {
+    std::wstring rows;
+    const LRESULT count = SendMessageW(list, LVM_GETITEMCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        const LRESULT state = SendMessageW(list, LVM_GETITEMSTATE, i, LVIS_STATEIMAGEMASK);
+        rows += state == INDEXTOSTATEIMAGEMASK(2) ? L'x' : L'-';
+    }
+    return rows;
 }
 
 std::wstring MenuBarText(HWND parent, int index) {

@@ -44,7 +44,7 @@ class Program {
     DWORD id_ = 0;
 };
 
-// A sheet's current page, once it shows and has `control`; null when it does not come.
+// A sheet's current page, once it shows and has `control`, if not 0; null when it does not come.
 HWND Page(HWND sheet, int control);
 void TurnTo(HWND sheet, int page);
 std::wstring TabText(HWND sheet, int page);
@@ -77,6 +77,8 @@ bool PickSource(HWND chooser, std::initializer_list<WPARAM> keys);
 void AskForHelp(HWND window);
 // The text of the selected entry; empty when none is.
 std::wstring Selected(HWND page, int control);
+// Of each row of a list with check boxes, whether it is ticked: "x-x".
+std::wstring Ticks(HWND list);
 std::wstring MenuBarText(HWND parent, int index);
 // Opens a menu of the menu bar by a tap and presses a mnemonic in it. Other processes' menus cannot
 // be read.

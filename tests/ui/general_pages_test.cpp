@@ -161,9 +161,11 @@ TEST_F(General, TabsAreMovedByKeysAndButtons) {
     const HWND list = GetDlgItem(page, IDC_TABS_LIST);
     ASSERT_TRUE(list);
     EXPECT_FALSE(IsEnabled(page, IDC_TABS_UP));
-    SendKeys(list, {VK_RIGHT});          // 1 2 3 4 5 6
-    Click(page, IDC_TABS_DOWN);          // 1 3 2 4 5 6
-    SendKeys(list, {VK_SPACE});          // The tasks are not shown.
+    EXPECT_EQ(Ticks(list), L"xxxxxx");
+    SendKeys(list, {VK_RIGHT});  // 1 2 3 4 5 6
+    Click(page, IDC_TABS_DOWN);  // 1 3 2 4 5 6
+    SendKeys(list, {VK_SPACE});  // The tasks are not shown.
+    EXPECT_EQ(Ticks(list), L"xx-xxx");
     SendKeys(list, {VK_DOWN, VK_LEFT});  // 1 3 4 2 5 6
     Click(page, IDC_TABS_UP);            // 1 4 3 2 5 6
     EXPECT_FALSE(IsEnabled(page, IDC_TABS_IN_ONE)) << "there is no tab host";
@@ -191,23 +193,31 @@ TEST_F(General, SettingsTravelInAFile) {
     ASSERT_TRUE(Ok(choose(IDM_EXPORT, L"Save As")));
     ASSERT_TRUE(Until([&] { return ReadBytes(kFile).size() > 100; }));
     const std::string exported = ReadBytes(kFile);
-
-    const auto import = [&](int answer) {
-        ASSERT_TRUE(Ok(choose(IDM_IMPORT, L"Open")));
-        const HWND question = program_.Sheet(L"Lum Diary Options");
-        ASSERT_TRUE(question);
+    // What is there is replaced when the user says so alone.
+    ASSERT_TRUE(WriteBytes(kFile, "mine", 4));
+    for (const int answer : {IDNO, IDYES}) {
+        const HWND dialog = choose(IDM_EXPORT, L"Save As");
+        PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+        HWND question = nullptr;
+        ASSERT_TRUE(Until([&] {
+            question = FindWindowW(L"#32770", L"Save As");
+            return question && BoxSays(question, L"Replace Lum Diary.dias?");
+        }));
         PostMessageW(question, WM_COMMAND, answer, 0);
-        ASSERT_TRUE(Until([&] { return !IsWindow(question); }));
-    };
-    Put(L"CalendarPeriod", 1);
-    import(IDNO);
-    EXPECT_EQ(Stored(L"CalendarPeriod"), 1u);
-    import(IDYES);
-    EXPECT_TRUE(Until([] { return Stored(L"CalendarPeriod") == 30u; }));
+        EXPECT_TRUE(Until([&] { return !IsWindow(answer == IDYES ? dialog : question); }));
+        EXPECT_EQ(ReadBytes(kFile) == "mine", answer == IDNO);
+        EXPECT_TRUE(answer == IDYES || Cancel(dialog));
+    }
+    EXPECT_TRUE(Until([&] { return ReadBytes(kFile) == exported; }));
+
     // The program may still have the file open.
     ASSERT_TRUE(Until([&] { return WriteBytes(kFile, exported.data(), exported.size() - 4); }));
-    import(IDYES);
-    ASSERT_TRUE(program_.Dismiss());
+    Put(L"CalendarPeriod", 1);
+    ASSERT_TRUE(Ok(choose(IDM_IMPORT, L"Open")));
+    const HWND question = program_.Sheet(L"Lum Diary Options");
+    PostMessageW(question, WM_COMMAND, IDYES, 0);
+    ASSERT_TRUE(Until([&] { return !IsWindow(question); }) && program_.Dismiss());
+    EXPECT_EQ(Stored(L"CalendarPeriod"), 30u) << "what came before the damage";
     EXPECT_EQ(program_.CloseAndWait(), 0u);
     EXPECT_EQ(plugin.Updates(), (std::vector<Plugin::Update>{{0, 0}}));
     DeleteFileW(kFile);

@@ -34,6 +34,8 @@ TEST_F(Pages, OkStoresTheShownPagesOnly) {
 
 // Every control is changed from its default, with the keys alone.
 TEST_F(Pages, EveryControlIsStored) {
+    constexpr const wchar_t* kNoteTypes[] = {L"Notes",     L"Recordings", L"Text files",
+                                             L"Documents", L"Workbooks",  L"Pictures"};
     ASSERT_TRUE(FurnishWith(L"weather"));
     OpenProductKey().WriteString(L"CurTaskPattern", L"xp1yz");
     Program program;
@@ -42,6 +44,9 @@ TEST_F(Pages, EveryControlIsStored) {
         const HWND page = OpenPage(program, first.entry, first.page, first.control);
         ASSERT_TRUE(page) << first.entry << ":" << first.page;
         for (const PageRow& row : rows) {
+            if (const int type = row.control - IDC_NOTES_TYPE_FIRST; type >= 0 && type < 6) {
+                EXPECT_EQ(Text(page, row.control), kNoteTypes[type]);
+            }
             if (row.select == kClick) {
                 const bool inverted =
                     row.control == IDC_PHONE_BACKSPACE || row.control == IDC_CONTACT_PHOTO_TEXT;
@@ -65,29 +70,53 @@ TEST_F(Pages, EveryControlIsStored) {
     EXPECT_EQ(Stored(L"dbgTextOffset"), 4u);
 }
 
-TEST_F(Pages, TransactionsNeedTheFinanceProgram) {
-    constexpr wchar_t kLibrary[] = L"\\Windows\\LumFinanceScheduledAPI.dll";
-    for (const bool present : {false, true}) {
-        SetUp();
-        DeleteFileW(kLibrary);
-        if (present) {
-            ASSERT_TRUE(FurnishWith(L"finance"));
+// What the device must have for a control to be of use, by each of the ways to give it to it.
+TEST_F(Pages, ControlsNeedTheirPrograms) {
+    constexpr wchar_t kFinance[] = L"\\Windows\\LumFinanceScheduledAPI.dll";
+    constexpr wchar_t kInformant[] = L"\\Windows\\PITools.dll";
+    constexpr wchar_t kPad[] = L"\\Program Files\\PhatPad\\PhatPadViewCtl.dll";
+    const auto takeAll = [&] {
+        for (const wchar_t* const file : {kFinance, kInformant, kPad}) DeleteFileW(file);
+        for (const wchar_t* const key :
+             {L"SOFTWARE\\Microsoft\\Today\\Items\\\"Lum Weather\"", L"SOFTWARE\\Developer One",
+              L"SOFTWARE\\Developer One, Inc.", L"SOFTWARE\\Lum Software House\\Lum Shell 2"}) {
+            DeleteKeyTree(HKEY_LOCAL_MACHINE, key);
         }
-        Program program;
-        const HWND show = OpenPage(program, 1, 1, IDC_SHOW_PAST);
-        ASSERT_TRUE(show);
-        EXPECT_EQ(GetDlgItem(show, IDC_SHOW_TRANSACTIONS) != nullptr, present);
-        ASSERT_TRUE(Ok(sheet_));
-        EXPECT_EQ(Stored(L"CalendarShowTransactions"), present ? std::optional(1ul) : std::nullopt);
-        const HWND page = OpenPage(program, 6, 0, IDC_SPECIAL_TRANSACTIONS);
-        ASSERT_TRUE(page);
-        EXPECT_EQ(IsEnabled(page, IDC_SPECIAL_TRANSACTIONS), present);
-        EXPECT_EQ(SendDlgItemMessageW(page, IDC_SPECIAL_PERIOD, CB_GETCURSEL, 0, 0), 3);
-        ASSERT_TRUE(Ok(sheet_));
-        EXPECT_EQ(Stored(L"SpecialShowTransactions"), present ? 1u : 0u);
-        EXPECT_EQ(program.CloseAndWait(), 0u);
+        DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\PhatWare");
+        DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\WebIS\\PocketInformant");
+    };
+    struct Case {
+        int entry, page, control;
+        const wchar_t *thing, *value;
+        DWORD stored, storedWithout;  // with no value, nothing is without
+    };
+    constexpr DWORD kNothing = 99;
+    const Case cases[] = {
+        {0, 0, IDC_PIM, L"pims", L"CurrentPIM", 0, 0},
+        {0, 5, IDC_TABS_IN_ONE, L"tab-host", L"AllTabsInShell", 1, 1},
+        {1, 0, IDC_GROUP_WEATHER, L"weather", L"AppGroup_Weather", 1, 1},
+        {1, 1, IDC_SHOW_TRANSACTIONS, L"finance", L"CalendarShowTransactions", 1, kNothing},
+        {4, 0, IDC_NOTES_TYPE_FIRST + 6, L"handwriting", L"NotesType6Enabled", 1, 1},
+        {4, 0, IDC_NOTES_PHATNOTES, L"handwriting", L"PhatNotesEnabled", 1, 1},
+        {6, 0, IDC_SPECIAL_TRANSACTIONS, L"finance", L"SpecialShowTransactions", 1, 0},
+    };
+    for (const Case& c : cases) {
+        for (const bool present : {false, true}) {
+            SCOPED_TRACE(testing::PrintToString(c.value) + (present ? " with it" : " without"));
+            takeAll();
+            SetUp();
+            ASSERT_TRUE(!present || FurnishWith(c.thing));
+            Program program;
+            const HWND page = OpenPage(program, c.entry, c.page, 0);
+            ASSERT_TRUE(page);
+            EXPECT_EQ(IsEnabled(page, c.control), present);
+            EXPECT_EQ(GetDlgItem(page, c.control) != nullptr,
+                      present || c.storedWithout != kNothing);
+            ASSERT_TRUE(Ok(sheet_));
+            EXPECT_EQ(Stored(c.value).value_or(kNothing), present ? c.stored : c.storedWithout);
+        }
     }
-    DeleteFileW(kLibrary);
+    takeAll();
 }
 
 TEST_F(Pages, ReturnTimeAndItsSwitch) {
@@ -145,6 +174,7 @@ TEST_F(Pages, TitlePatternsAreOneOverASheet) {
     const HWND titles = OpenPage(program, 2, 1, IDC_TASK_CHECKBOX), sheet = sheet_;
     const HWND list = GetDlgItem(titles, IDC_TITLE_FIELDS);
     ASSERT_TRUE(list);
+    EXPECT_EQ(Ticks(list), L"xxxx----") << "importance, the subject, a note, recurrence";
     SendMessageW(list, WM_KEYDOWN, VK_RIGHT, 0);  // Importance behind the subject.
     TurnTo(sheet, 2);
     const HWND icons = Page(sheet, IDC_FLAG_NOTE);
@@ -221,6 +251,7 @@ TEST_F(HiddenFolders, AreKeptByName) {
     for (const wchar_t* const folder : card) CreateDirectoryW(folder, nullptr);
     const Program program;
     Open(program);
+    EXPECT_EQ(Ticks(list_), L"xx-xxx") << "but Personal";
     SendKeys(list_, {VK_SPACE, VK_DOWN, VK_DOWN, VK_SPACE});  // Business of either, and Personal
     ASSERT_TRUE(Ok(sheet_));
     EXPECT_EQ(key.ReadString(L"HiddenFolders"), L"gone|business");

@@ -1,6 +1,9 @@
 // The program as a whole: its start, its instances, its end, and what it tells the plug-in.
+#include <sstream>
+
 #include "resources/ids.h"
 #include "tests/ui/device.h"
+#include "tests/ui/picture.h"
 
 namespace {
 
@@ -48,6 +51,8 @@ TEST_F(Whole, KeysTapsAndCommandsOpenWhatTheyName) {
     EXPECT_TRUE(Cancel(program.Sheet(L"General options")));
 
     const HWND main = program.Main();
+    const RECT place = RectOf(main), below = {0, kBar, 320, 240};
+    EXPECT_TRUE(EqualRect(&place, &below)) << "not below the navigation bar";
     PostMessageW(main, WM_COMMAND, IDM_ABOUT_BOX, 0);
     ASSERT_TRUE(program.Dismiss());
     PostMessageW(main, WM_COMMAND, ID_APP_ABOUT, 0);
@@ -62,26 +67,24 @@ TEST_F(Whole, KeysTapsAndCommandsOpenWhatTheyName) {
 TEST_F(Whole, CommandLineOpensPages) {
     struct Case {
         const wchar_t* arguments;
-        std::vector<std::wstring> sheets;  // besides the one that the test itself opens last
-        int control;                       // on the first sheet's page; 0: none opens
+        std::vector<std::wstring> sheets;  // besides that of the request that is the last of all
+        int control;                       // on the first sheet's page; 0: it has none
     };
     const std::vector<Case> cases = {
         {L"/x -p1:1", {L"Calendar options"}, IDC_SHOW_PAST},
         {L"-P1:99", {L"Calendar options"}, IDC_CALENDAR_PERIOD},
         {L"-P1:-1", {L"Calendar options"}, IDC_CALENDAR_PERIOD},
-        {L"-Px -P8:0 -P-1:0 -P7:0", {}, 0},  // Categories need a device that has some.
+        {L"-Px -P8:0 -P-1:0", {}, 0},
         {L"-P2:0 -P1:1", {L"Task options", L"Calendar options"}, IDC_TASK_SUBJECT},
     };
     for (const Case& c : cases) {
-        Program program(c.arguments);
-        ASSERT_TRUE(program.Main());
+        // Requests are served in order: once the last one is, all before it were.
+        Program program(std::wstring(c.arguments) + L" -P6:0");
+        ASSERT_TRUE(program.Sheet(L"Special event options"));
         if (c.control) {
             EXPECT_TRUE(Page(program.Sheet(c.sheets.front()), c.control))
                 << testing::PrintToString(c.arguments);
         }
-        // Requests are served in order: once this one is, all before it were.
-        program.Open(6, 0);
-        ASSERT_TRUE(program.Sheet(L"Special event options"));
         EXPECT_EQ(program.OpenSheets().size(), c.sheets.size() + 1)
             << testing::PrintToString(c.arguments);
         for (const std::wstring& sheet : c.sheets) EXPECT_TRUE(program.Sheet(sheet));
@@ -126,20 +129,57 @@ TEST_F(Whole, StartsBesideAnInstanceThatNeverShows) {
     CloseHandle(mutex);
 }
 
-TEST_F(Whole, HelpOpensAtThePagesAnchor) {
+// Where the help tells of each page, by the sheets.
+constexpr const wchar_t* kAnchors[] = {
+    L"general_common general_short_date general_long_date general_font general_group_style "
+    L"general_tabs general_skins general_auto_return",
+    L"calendar_common calendar_show calendar_tasks calendar_titles",
+    L"tasks_common tasks_view_style tasks_icons",
+    L"contacts_common contacts_view_style contacts_icons",
+    L"notes_common notes_filter",
+    L"messages_common messages_filter",
+    L"special_events_common"};
+
+TEST_F(Whole, EveryPageHasItsTitleAndItsHelp) {
     constexpr wchar_t kLog[] = L"\\peghelp.log";
-    DeleteFileW(kLog);
-    Program program(L"-P1:2");
-    const HWND page = Page(program.Sheet(L"Calendar options"), IDC_SHOW_TASKS);
-    ASSERT_TRUE(page);
-    AskForHelp(GetDlgItem(page, IDC_SHOW_TASKS));
-    EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == "LumDiary.htm#options_calendar_tasks\n"; }))
-        << ReadBytes(kLog);
-    ASSERT_TRUE(Cancel(program.Sheet(L"Calendar options")));
-    DeleteFileW(kLog);
-    AskForHelp(program.Main());
-    EXPECT_TRUE(Until([&] { return ReadBytes(kLog) == "LumDiary.htm#options_main_screen\n"; }))
-        << ReadBytes(kLog);
+    const auto look = [&](HWND window, const std::wstring& anchor, bool hasBand) {
+        const std::string place(anchor.begin(), anchor.end());
+        DeleteFileW(kLog);
+        AskForHelp(window);
+        const std::string asked = "LumDiary.htm#options_" + place + "\n";
+        ASSERT_TRUE(Until([&] { return ReadBytes(kLog) == asked; })) << place << ReadBytes(kLog);
+        if (!hasBand) return;
+        constexpr int kBand = 23;
+        const Picture shown = Picture::Settled(window);
+        const int paper = shown.Count(GetSysColor(COLOR_WINDOW), 0, kBand);
+        EXPECT_LT(paper, kBand * shown.width() - 100) << place;
+        EXPECT_GT(shown.Count(RGB(0, 0, 0), kBand, kBand + 1), 300) << place;
+    };
+    Program program;
+    for (int entry = 0; entry < 7; ++entry) {
+        std::wistringstream anchors(kAnchors[entry]);
+        int number = 0;
+        for (std::wstring anchor; anchors >> anchor; ++number) {
+            const HWND page = OpenPage(program, entry, number, 0);
+            ASSERT_TRUE(page) << entry << ":" << number;
+            look(page, anchor, true);
+            if (anchor == L"contacts_common") {
+                Select(page, IDC_CONTACT_LAYOUT, 2);  // after the layout in use and none
+                const HWND layouts = program.Sheet(L"Keyboard layouts");
+                look(layouts, L"layouts_select", true);
+                ASSERT_TRUE(Cancel(layouts));
+            }
+            ASSERT_TRUE(Cancel(sheet_));
+        }
+    }
+    program.Open(7, 0);
+    const HWND categories = program.Sheet(L"Category Icons");
+    look(categories, L"category_icons_main", true);
+    PostMessageW(categories, WM_COMMAND, IDC_CATEGORY_CHOOSE, 0);
+    const HWND chooser = program.Sheet(L"Choose icon");
+    look(chooser, L"category_icons_chooser", true);
+    ASSERT_TRUE(Cancel(chooser) && Cancel(categories));
+    look(program.Main(), L"main_screen", false);
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
