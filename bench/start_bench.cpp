@@ -8,8 +8,8 @@
 
 #include <string>
 
-#include "tests/bench/bench.h"
-#include "tests/bench/beside.h"
+#include "bench/bench.h"
+#include "bench/beside.h"
 
 namespace {
 

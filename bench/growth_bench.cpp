@@ -12,10 +12,10 @@
 #include <vector>
 
 #include "appearance/categories/icons_list_control.h"
+#include "bench/bench.h"
+#include "bench/beside.h"
 #include "pocketpc/common/mail_store.h"
 #include "resources/ids.h"
-#include "tests/bench/bench.h"
-#include "tests/bench/beside.h"
 #include "tools/walk/walker.h"
 
 namespace {

@@ -13,8 +13,8 @@
 #include "app/registry_exporter.h"
 #include "base/owned_handle.h"
 #include "base/read_file.h"
+#include "bench/bench.h"
 #include "settings/settings_key.h"
-#include "tests/bench/bench.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "app/language/language_file.h"
 #include "app/language/language_index.h"
-#include "tests/bench/bench.h"
+#include "bench/bench.h"
 
 namespace {
 

@@ -17,11 +17,11 @@
 #include "base/find_files.h"
 #include "base/mapped_file.h"
 #include "base/owned_handle.h"
+#include "bench/bench.h"
+#include "bench/beside.h"
 #include "pages/stores/mail_folder_tree.h"
 #include "pocketpc/common/mail_store.h"
 #include "settings/settings_key.h"
-#include "tests/bench/bench.h"
-#include "tests/bench/beside.h"
 
 namespace {
 
