@@ -71,7 +71,7 @@ MailFoldersView::MailFoldersView(HWND tree, std::vector<MailFolderNode> folders,
 void MailFoldersView::Insert(HTREEITEM parent, const MailFolderNode* account,
                              const std::vector<MailFolderNode>& folders) {
     for (const MailFolderNode& folder : folders) {
-        Place& place = places_.emplace_back(account ? account : &folder, &folder);
+        Place& place = places_.emplace_back(Place{account ? account : &folder, &folder});
         TVINSERTSTRUCTW insert = {};
         insert.hParent = parent;
         insert.hInsertAfter = TVI_LAST;

@@ -105,8 +105,12 @@ Outcome WalkCategories(const Program& program, const Storing& storing) {
         BrowseForIcons(program, chooser);
         PickSource(chooser, {VK_DOWN});  // all of them
         SendMessageW(chooser, WM_NULL, 0, 0);
+        // Both marks of a group, which are made when they are painted first.
+        const HWND icons = GetDlgItem(chooser, IDC_ICON_LIST);
+        for (const WPARAM key : {VK_HOME, VK_LEFT}) SendMessageW(icons, WM_KEYDOWN, key, 0);
         Draw(chooser);
-        PostKeys(GetDlgItem(chooser, IDC_ICON_LIST), {VK_DOWN, VK_DOWN, VK_DOWN});
+        SendMessageW(icons, WM_KEYDOWN, VK_RIGHT, 0);
+        PostKeys(icons, {VK_DOWN, VK_DOWN, VK_DOWN});
         storing();
         PostMessageW(chooser, WM_COMMAND, IDOK, 0);
         SendMessageW(chooser, WM_NULL, 0, 0);
