@@ -30,31 +30,39 @@ mkdir "$unpacked/device"
 ln -s "$unpacked/device" "$WINEPREFIX/dosdevices/s:"
 mkfifo "$place/keys"
 
-# Starts it, clicks the box that shows the tasks in the calendar, and puts the device away by a key.
-click_once() {
-    (cd "$unpacked" && exec wine cmd /c LumDiary.cmd <"$place/keys" >"$place/said" 2>&1) &
+# Starts it, does something in the program, and puts the device away by a key.
+with_program() { # ARGUMENT TITLE COMMAND...
+    (cd "$unpacked" && exec wine cmd /c LumDiary.cmd $1 <"$place/keys" >"$place/said" 2>&1) &
     local console=$!
     exec 3>"$place/keys"
-    await_window 'Lum Diary Options'
-    press c Return
-    await_window 'Calendar options'
-    press ctrl+Tab ctrl+Tab space Return
+    await_window "$2"
+    "${@:3}"
     settle
     echo >&3
     exec 3>&-
-    wait "$console" || fail "LumDiary.cmd failed: $(cat "$place/said")"
-    grep -q 'drive S:' "$place/said" || fail "It said: $(cat "$place/said")"
+    wait "$console" || fail "LumDiary.cmd failed"
+    grep -q 'drive S:' "$place/said" || fail "It found another drive"
     [ ! -e "$(echo "$unpacked/device/"*.tmp)" ] || fail "It leaves files behind"
-    quietly wine "$BIN/device_send.exe" today && fail "The Today screen stays"
-    product_values CalendarShowTasks
+    if quietly wine "$BIN/device_send.exe" today; then fail "The Today screen stays"; fi
+}
+
+# Clicks the box that shows the tasks in the calendar.
+click() {
+    press c Return
+    await_window 'Calendar options'
+    press ctrl+Tab ctrl+Tab space Return
 }
 
 # The second click finds what the first one stored.
 for expected in 0x0 0x1; do
-    value=$(click_once)
+    with_program '' 'Lum Diary Options' click
+    value=$(product_values CalendarShowTasks)
     [[ $value == *REG_DWORD*$expected* ]] || fail "Instead of $expected the setting is: $value"
     echo "The setting is $expected, as it should be"
 done
+with_program de 'Lum Diary Optionen' true
+cmp "$ROOT/shipped/help/LumDiary_de.htm" "$unpacked/device/Program Files/Lum Diary/LumDiary.htm"
+with_program en 'Lum Diary Options' true
 version=$(wine "$BIN/diarykit.exe" --version </dev/null | tr -d '\r')
 [ "$unpacked" = "$place/LumDiarySettings-$version" ] || fail "The tool's version is ${version:-none}"
 for license in "$unpacked"/licenses/*; do

@@ -34,15 +34,15 @@ make_package() { # OUTPUT
     stage=$ROOT/build/package/$name
     rm -rf "$ROOT/build/package"
     mkdir -p "$stage/program" "$stage/translations" "$1"
-    # A device as one is made here, but for what it may change itself.
-    furnish_device "$stage/files" "$BIN" 96
+    # A device as one is made here, but for what it may change itself. English, as LumDiary.cmd chooses the language.
+    DEVICE_LANGUAGE='' furnish_device "$stage/files" "$BIN" 96
     mv "$stage/files/device.ini" "$stage/program/"
     cp "$ROOT/pocketpc/furnishing/owner.txt" "$stage/program/"
     cp "$BIN"/{DiarySettings,today,devicectl,device_send,diarykit}.exe "$stage/program/"
     for library in coredll aygshell cemapi commctrl note_prj richink inkx any_library; do
         cp "$BIN/$library.dll" "$stage/program/"
     done
-    cp "$ROOT"/shipped/translations/*.txt "$stage/translations/"
+    cp "$ROOT"/shipped/translations/*.txt "$ROOT"/shipped/help/LumDiary_*.htm "$stage/translations/"
     cp "$ROOT/shipped/release/LumDiary.cmd" "$stage/"
     sed "s/VERSION/$version/" "$ROOT/shipped/release/README.txt" >"$stage/README.txt"
     copy_licenses "$stage/licenses"

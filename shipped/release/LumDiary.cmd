@@ -1,12 +1,15 @@
 @echo off
-rem Makes a simulated device beside this file, gives it a drive of its own, and opens the program on it.
+rem Makes a simulated device beside this file, gives it a drive of its own, and opens the program on it. A language such
+rem as fr behind the command is that of the program, which the device keeps.
 rem Paths stand in quotes and never behind "call" or between brackets, where &, ^ and ) in them would count.
 setlocal EnableExtensions DisableDelayedExpansion
 title Lum Diary
 set "package=%~dp0"
 set "program=%package%program"
 set "device=%package%device"
+set "installed=%device%\Program Files\Lum Diary"
 if not exist "%program%\DiarySettings.exe" goto incomplete
+if not "%~1"=="" if not "%~1"=="en" if not exist "%package%translations\LumDiary_%~1.txt" goto no_language
 
 if not exist "%device%\" md "%device%" 2>nul
 rem A file that no other folder has tells which drive is this device: one of an earlier start, or a new one.
@@ -27,6 +30,15 @@ if %errorlevel%==0 goto open
 xcopy "%package%files" "%device%" /e /h /q /y >nul
 if not %errorlevel%==0 goto not_furnished
 if not exist device.ini copy "%program%\device.ini" device.ini >nul
+if "%~1"=="" goto furnish
+if exist "%installed%\LumDiary_en.txt" move /y "%installed%\LumDiary_en.txt" "%installed%\LumDiary_en.txt.before" >nul
+echo %~1>.language
+:furnish
+set "language=en"
+if exist .language set /p language=<.language
+rem Whatever the language, the program reads LumDiary_en.txt.
+if exist "%package%translations\LumDiary_%language%.txt" copy /y "%package%translations\LumDiary_%language%.txt" "%installed%\LumDiary_en.txt" >nul
+if exist "%package%translations\LumDiary_%language%.htm" copy /y "%package%translations\LumDiary_%language%.htm" "%installed%\LumDiary.htm" >nul
 "%program%\devicectl.exe" set "HKLM\SOFTWARE\Apps\Lum Diary" InstallDir string "\Program Files\Lum Diary"
 if not %errorlevel%==0 goto not_furnished
 "%program%\devicectl.exe" set HKLM\Drivers\Display\GPE LogicalPixelsX dword 96
@@ -64,6 +76,9 @@ exit /b
 
 :incomplete
 echo The folder "program" is missing here. Unpack the whole archive, then start LumDiary.cmd from there.
+goto failed
+:no_language
+echo There is no translation %1; see the folder "translations".
 goto failed
 :read_only
 echo Nothing can be written to this folder. Move it, for example to your documents, and start LumDiary.cmd there.
