@@ -57,25 +57,13 @@ TEST_F(Language, StringsAndTextsAreTranslated) {
     EXPECT_EQ(table.Translate(L""), L"");
 }
 
-TEST_F(Language, WindowsAreTranslatedOneLevelDeep) {
-    LoadLines(L"Caption|Titel\nFirst|Erstes\nDeep|Tief\n");
-    const HWND window = CreateControl(L"STATIC", L"Caption", WS_POPUP | WS_CAPTION, nullptr);
-    const HWND first = CreateControl(L"BUTTON", L"First", WS_CHILD, window);
-    const HWND second = CreateControl(L"STATIC", L"Unknown", WS_CHILD, window);
-    const HWND deep = CreateControl(L"STATIC", L"Deep", WS_CHILD, second);
-    table.TranslateWindow(window);
-    EXPECT_EQ(WindowText(window), L"Titel");
-    EXPECT_EQ(WindowText(first), L"Erstes");
-    EXPECT_EQ(WindowText(second), L"Unknown");
-    EXPECT_EQ(WindowText(deep), L"Deep");
-    DestroyWindow(window);
-}
-
-TEST_F(Language, ComboBoxesKeepOrderSelectionAndData) {
+TEST_F(Language, WindowsAreTranslatedOneLevelDeepAndListsKeepOrderSelectionAndData) {
     LoadLines(L"Never|Zuletzt\nAlways|Immer\nCustom|Eigenes\n");
     for (const DWORD style : {CBS_DROPDOWNLIST, CBS_DROPDOWNLIST | CBS_SORT, CBS_DROPDOWN}) {
         for (const int selection : {-1, 0, 2}) {
-            const HWND window = CreateControl(L"STATIC", L"", WS_POPUP, nullptr);
+            const HWND window = CreateControl(L"STATIC", L"Never", WS_POPUP | WS_CAPTION, nullptr);
+            const HWND child = CreateControl(L"STATIC", L"Always", WS_CHILD, window);
+            const HWND deep = CreateControl(L"STATIC", L"Always", WS_CHILD, child);
             const HWND combo = CreateControl(L"COMBOBOX", L"", WS_CHILD | style, window);
             int data = 10;
             for (const wchar_t* item : {L"Always", L"Kept", L"Never"}) {
@@ -88,6 +76,8 @@ TEST_F(Language, ComboBoxesKeepOrderSelectionAndData) {
 
             table.TranslateWindow(window);
 
+            EXPECT_EQ(WindowText(window) + WindowText(child), L"ZuletztImmer");
+            EXPECT_EQ(WindowText(deep), L"Always");
             int index = 0;
             for (const wchar_t* item : {L"Immer", L"Kept", L"Zuletzt"}) {
                 wchar_t text[16] = {};

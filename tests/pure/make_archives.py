@@ -56,7 +56,8 @@ for name, data in {
     "too_large": archive(("icons.bmp", bytes(LARGEST + 1))),
     "claims_more": claiming(1000000),
     "claims_less": claiming(100),
-    "wrong_extra": in_directory(info_zip(), 46 + len("icons.bmp") + 2, "<H", 0xFFF0),
+    "wrong_sum": in_directory(plain, 16, "<I", 1),
+    "wrong_extra": in_directory(info_zip(), 46 + len("icons.bmp") + 2, "<H", 400),  # beyond its end
     "cut": plain[:len(plain) // 2],
 }.items():
     pathlib.Path(f"{name}.zip").write_bytes(data)

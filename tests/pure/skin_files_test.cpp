@@ -1,9 +1,12 @@
-// What skins are made of: bitmap files, strips and the names of the Skins folder.
+// What skins are made of: bitmap files, strips, archives and the names of the Skins folder.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "appearance/skins/archive.h"
 #include "appearance/skins/skin_list.h"
 #include "appearance/skins/skin_members.h"
 #include "appearance/skins/strip.h"
@@ -51,6 +54,7 @@ TEST(Strip, MagentaRowsEndPieces) {
 TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
     // Numbers of the header of a file with 3 rows of 4 pixels.
     const std::pair<std::size_t, std::vector<std::uint32_t>> refusals[] = {
+        {0, {'B' | 'X' << 8, 'X' | 'M' << 8}},
         {10, {53, 55, 0xFFFFFFFF}},                                       // where the pixels are
         {14, {12, 39}},                                                   // the header's size
         {18, {0, 5, 0x55555556, 0xFFFFFFFC}},                             // the width
@@ -102,6 +106,37 @@ TEST(SkinMembers, FollowTheDensity) {
     view.width = 50, view.height = 33;
     const SquareGrid squares(view, 16);
     EXPECT_TRUE(squares.Count() == 6 && squares.Left(4) == 16 && squares.Top(4) == 16);
+}
+
+Bytes ReadFile(const std::string& name) {
+    std::ifstream file(ARCHIVES + name + ".zip", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Archive, YieldsIntactMembersOnly) {
+    constexpr std::uint32_t kNone = ~0u;
+    // What marks such sizes is known to minizip by a long's width, which is that of every Windows.
+    constexpr bool kZip64 = sizeof(long) == 4;
+    const std::tuple<const char*, bool, std::uint32_t, bool> cases[] = {
+        {"stored", true, 30000, true},          {"deflated", true, 30000, true},
+        {"data_descriptor", true, 30000, true}, {"zip64", true, kZip64 ? 30000 : kNone, kZip64},
+        {"comment", true, 30000, true},         {"folders", true, 30000, true},
+        {"encrypted", true, kNone, false},      {"other_names", true, kNone, false},
+        {"bzip2", true, 30000, false},          {"largest", true, 16777216, true},
+        {"too_large", true, kNone, false},      {"claims_more", true, 1000000, false},
+        {"claims_less", true, 100, false},      {"wrong_extra", true, kNone, false},
+        {"wrong_sum", true, 30000, false},      {"cut", false, kNone, false}};
+    for (const auto& [name, opens, size, isRead] : cases) {
+        const Bytes file = ReadFile(name);
+        const auto archive = Archive::OfBytes(file);
+        EXPECT_TRUE(!file.empty() && (archive != nullptr) == opens) << name;
+        if (!archive) continue;
+        EXPECT_EQ(archive->MemberSize("icons.bmp").value_or(kNone), size) << name;
+        const std::optional<Bytes> bytes = archive->ReadMember("icons.bmp");
+        ASSERT_EQ(bytes.has_value(), isRead) << name;
+        if (!bytes || size != 30000) continue;
+        for (std::size_t i = 0; i < bytes->size(); ++i) ASSERT_EQ((*bytes)[i], i * 7 % 251) << name;
+    }
 }
 
 TEST(SkinList, OffersFoldersAndArchives) {

@@ -2,6 +2,7 @@
 #include <commctrl.h>
 
 #include <map>
+#include <set>
 
 #include "resources/ids.h"
 #include "tests/ui/device.h"
@@ -189,15 +190,18 @@ TEST_F(Painted, PreviewsFollowWhatIsSet) {
                 Click(page, control);
             else
                 Select(page, control, select);
-            ASSERT_TRUE(Until([&] { return !(Picture(Reach(page, c.preview)) == before); }))
-                << c.entry << ":" << c.page << " " << control << "=" << select;
+            ASSERT_TRUE(Until([&] {
+                return !(Picture::Settled(Reach(page, c.preview)) == before);
+            })) << c.entry
+                << ":" << c.page << " " << control << "=" << select;
         }
         ASSERT_TRUE(Cancel(sheet_));
     }
 }
 
 TEST_F(Painted, CategoriesHaveTheirColorsAndIcons) {
-    constexpr COLORREF kFirst = 0x446622, kSecond = 0x2255AA, kNone = 0x664422, kIcon = 0x335577;
+    // Of the palette, but for the icon's.
+    constexpr COLORREF kFirst = 0x2068FF, kSecond = 0x32CD32, kNone = 0x800080, kIcon = 0x335577;
     const std::wstring icon = std::wstring(kInstallFolder) + L"Icons\\Business.bmp";
     CreateDirectoryW(icon.substr(0, icon.rfind(L'\\')).c_str(), nullptr);
     WriteBitmap(icon, 12, 12, [](int, int) { return kIcon; });
@@ -205,6 +209,9 @@ TEST_F(Painted, CategoriesHaveTheirColorsAndIcons) {
     colors.WriteDword(L"Business", 0x64000000 | kFirst);
     colors.WriteDword(L"Personal", 0x64000000 | kSecond);
     colors.WriteDword(L"Holiday", 0xE4000000 | kNone);
+    OpenProductKey(L"IconSets")
+        .WriteString(L"1", (std::wstring(kInstallFolder) + L"Icons").c_str());
+    Put(L"IconSetID", 2);  // that folder
     const Program program(L"-P7:0");
     const HWND dialog = program.Sheet(L"Category Icons");
     ASSERT_TRUE(dialog);
@@ -221,7 +228,75 @@ TEST_F(Painted, CategoriesHaveTheirColorsAndIcons) {
     EXPECT_GT(Picture::Settled(button).Count(kFirst), kMark);
     SendKeys(list, {VK_DOWN});
     EXPECT_TRUE(Until([&] { return Picture(button).Count(kSecond) > kMark; }));
+    // The grid has a frame around that cell alone.
+    PostMessageW(dialog, WM_COMMAND, IDC_CATEGORY_COLOR, reinterpret_cast<LPARAM>(button));
+    const auto grid = [] { return FindWindowW(L"LumDiaryColorsListWnd.0", nullptr); };
+    EXPECT_TRUE(Until([&] {
+        if (!IsWindowVisible(grid())) return false;
+        const Picture cells(grid());
+        return cells.Count(kSecond) == 100 && cells.Count(kNone) == 100 &&
+               cells.Count(0x7F0000) == 4 * 17;
+    }));
+    PostMessageW(grid(), WM_CLOSE, 0, 0);
+    PostMessageW(dialog, WM_COMMAND, IDC_CATEGORY_CHOOSE, 0);
+    const HWND chooser = program.Sheet(L"Choose icon");
+    EXPECT_TRUE(
+        Until([&] { return Picture(GetDlgItem(chooser, IDC_ICON_LIST)).Count(kIcon) == 12 * 12; }));
     DeleteFileW(icon.c_str());
+}
+
+TEST_F(Painted, ColorsAndLinesSayWhatIsMeant) {
+    CSettingsKey today(HKEY_CURRENT_USER, L"Software\\Microsoft\\Today", true, false);
+    const std::wstring wallpaper = today.ReadString(L"Wallpaper");
+    today.DeleteValue(L"Wallpaper");
+    const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
+    struct Case {
+        int entry, page, preview, style;
+        COLORREF color;
+        int pixels;  // at least
+    };
+    const Case cases[] = {
+        {0, 4, IDC_STRIPE_PREVIEW, 0, highlight, 0},
+        {0, 4, IDC_STRIPE_PREVIEW, 1, highlight, 200},
+        {0, 4, IDC_STRIPE_PREVIEW, 3, highlight, 2000},
+        {1, 3, IDC_TITLE_PREVIEW, -1, highlight, 1000},             // selected
+        {1, 3, IDC_TITLE_PREVIEW, -1, 0xDC4040, 3 * 15},            // busy
+        {1, 3, IDC_TITLE_PREVIEW, -1, 0xF7CBA5, 3 * 7},             // tentative, half of it
+        {1, 3, IDC_TITLE_PREVIEW, -1, 0x0000FF, 3 * 7},             // in conflict
+        {1, 3, IDC_TITLE_PREVIEW, -1, RGB(0xFF, 0xF5, 0xC0), 500},  // its category's
+    };
+    const Program program;
+    for (const Case& c : cases) {
+        const HWND page = OpenPage(program, c.entry, c.page, c.preview);
+        ASSERT_TRUE(page);
+        if (c.style >= 0) Select(page, IDC_STRIPE_STYLE, c.style);
+        int pixels = 0;
+        EXPECT_TRUE(Until([&] {
+            pixels = Picture::Settled(Reach(page, c.preview)).Count(c.color);
+            return c.pixels ? pixels >= c.pixels : pixels == 0;
+        })) << c.entry
+            << " " << c.style << " " << std::hex << c.color << ": " << std::dec << pixels;
+        ASSERT_TRUE(Cancel(sheet_));
+    }
+    // A completed task is struck out.
+    for (const auto& [number, isStruck] : {std::pair(1, true), {2, false}}) {
+        const HWND page = OpenPage(program, 2, number, IDC_TITLE_PREVIEW);
+        EXPECT_TRUE(Until([&] {
+            const Picture shown = Picture::Settled(Reach(page, IDC_TITLE_PREVIEW));
+            return (shown.LongestLine(GetSysColor(COLOR_WINDOWTEXT)) > 40) == isStruck;
+        })) << number;
+        ASSERT_TRUE(Cancel(sheet_));
+    }
+    today.WriteString(L"Wallpaper", wallpaper.c_str());
+}
+
+TEST_F(Painted, EachEntryOfTheMainScreenHasAPictureOfItsOwn) {
+    const Program program;
+    const HWND list = FindWindowExW(program.Main(), nullptr, L"SysListView32", nullptr);
+    const Picture shown = Picture::Settled(list);
+    std::set<std::vector<COLORREF>> pictures;
+    for (int i = 0; i < 8; ++i) pictures.insert(shown.Part(i % 3 * 80 + 24, i / 3 * 76, 32, 36));
+    EXPECT_EQ(pictures.size(), 8u);
 }
 
 TEST_F(Painted, FoldersHaveTheirKindsAndTicks) {

@@ -55,6 +55,21 @@ class Picture {
         const auto found = std::find(pixels_.begin(), pixels_.end(), color);
         return found == pixels_.end() ? -1 : static_cast<int>(found - pixels_.begin()) / width();
     }
+    // The most pixels of a colour that stand side by side.
+    int LongestLine(COLORREF color) const {
+        int longest = 0;
+        for (int i = 0, length = 0; i < width() * height(); ++i) {
+            length = pixels_[i] == color ? (i % width() ? length + 1 : 1) : 0;
+            longest = std::max(longest, length);
+        }
+        return longest;
+    }
+    std::vector<COLORREF> Part(int left, int top, int across, int down) const {
+        std::vector<COLORREF> part;
+        for (int i = 0; i < across * down; ++i)
+            part.push_back(At(left + i % across, top + i / across));
+        return part;
+    }
     bool operator==(const Picture& other) const { return pixels_ == other.pixels_; }
 
   private:
