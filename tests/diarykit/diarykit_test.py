@@ -244,7 +244,7 @@ class Language(KitTest):
         self.assertEqual(checked(*texts), ["8 texts, 0 wrong"])
         found = checked("i" * 70, "M" * 8, "Double-clic:", "Semaine du premier janvier", "À l’échéance de la tâche", "M" * 99,
                         "M" * 99, "mot " * 45)
-        places = ("check box on page calendar_tasks", "button on page general_tabs", "label on page general_group_style",
+        places = ("check box on page calendar_tasks", "button on page general_tabs", "label on page messages_common",
                   "list entry on page calendar_common", "list entry on page calendar_tasks")
         self.assertEqual(len(found), 7)
         for number, (line, place) in enumerate(zip(found, places), 1):
