@@ -187,8 +187,9 @@ void Follow(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK FollowedProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     const WNDPROC procedure = followed.at(hwnd);
-    if (message == WM_NCDESTROY) followed.erase(hwnd);
     const LRESULT result = CallWindowProcW(procedure, hwnd, message, wParam, lParam);
+    // What the window sends itself meanwhile comes here, too.
+    if (message == WM_NCDESTROY) followed.erase(hwnd);
     Follow(hwnd, message, wParam, lParam);
     return result;
 }
