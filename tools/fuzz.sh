@@ -39,7 +39,8 @@ for name in "${names[@]}"; do
     done
     rm -rf "$target.new"
     cp -r "$corpus" "$target.new"
-    "$target" -set_cover_merge=1 -use_counters=0 "$target.new" "$target.found" >"$log.merge" 2>&1 || true
+    "$target" -set_cover_merge=1 -use_counters=0 -artifact_prefix="$target.found/" "$target.new" "$target.found" \
+        >"$log.merge" 2>&1 || true
     for input in "$corpus"/*; do rm -f "$target.new/$(basename "$input")"; done
     count=$(findings "$target.found")
     broken=$((broken + count))
