@@ -3,8 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "appearance/categories/icon_header.h"
 #include "appearance/categories/icon_picture.h"
-#include "appearance/categories/icon_size.h"
 #include "base/find_files.h"
 #include "base/mapped_file.h"
 #include "base/scale.h"
@@ -49,7 +49,7 @@ std::vector<std::wstring> FindBitmapFiles(const std::wstring& folder) {
 }
 
 OwnedBitmap LoadIconBitmap(const std::wstring& path) {
-    if (!ReadBitmapSize(MappedFile(path).bytes())) return {};
+    if (!ReadIconHeader(MappedFile(path).bytes())) return {};
     return OwnedBitmap(SHLoadDIBitmap(path.c_str()));
 }
 
@@ -57,9 +57,9 @@ bool HasIcons(const std::wstring& folder) {
     const int largest = ScaleY(kLargestIcon);
     for (const std::wstring& name : FindBitmapFiles(folder)) {
         const MappedFile file(JoinPath(folder, name));
-        const std::optional<BitmapSize> size = ReadBitmapSize(file.bytes());
-        if (size && size->width <= largest && size->height <= largest &&
-            ReadIconPicture(file.bytes()))
+        const std::optional<BitmapFileHeader> header = ReadIconHeader(file.bytes());
+        if (header && header->info.width <= largest && header->info.height <= largest &&
+            ReadIconPicture(file.bytes(), *header))
             return true;
     }
     return false;

@@ -6,7 +6,7 @@
 #include "app/language/language_table.h"
 #include "appearance/categories/icon_digest.h"
 #include "appearance/categories/icon_files.h"
-#include "appearance/categories/icon_size.h"
+#include "appearance/categories/icon_header.h"
 #include "base/mapped_file.h"
 #include "base/names.h"
 #include "base/scale.h"
@@ -29,9 +29,10 @@ void IconLibrary::LoadFolder(const std::wstring& folder) {
     for (std::wstring& file : FindBitmapFiles(folder)) {
         Icon icon = {&loadedFolders_.back(), std::move(file)};
         const MappedFile mapped(icon.Path());
-        const std::optional<BitmapSize> size = ReadBitmapSize(mapped.bytes());
-        if (!size || size->width > largestWidth || size->height > largestHeight) continue;
-        std::optional<IconPicture> picture = ReadIconPicture(mapped.bytes());
+        const std::optional<BitmapFileHeader> header = ReadIconHeader(mapped.bytes());
+        if (!header || header->info.width > largestWidth || header->info.height > largestHeight)
+            continue;
+        std::optional<IconPicture> picture = ReadIconPicture(mapped.bytes(), *header);
         if (!picture) continue;
         icon.picture = std::move(*picture);
         const std::optional<IconDigest> digest = digester.Digest(mapped.bytes());

@@ -2,8 +2,6 @@
 
 #include <bit>
 
-#include "appearance/categories/icon_size.h"
-#include "base/bitmap_header.h"
 #include "base/byte_reader.h"
 
 namespace {
@@ -29,9 +27,8 @@ bool AreMasks(std::span<const std::uint8_t> masks) {
 
 }  // namespace
 
-std::optional<IconPicture> ReadIconPicture(std::span<const std::uint8_t> file) {
-    if (!ReadBitmapSize(file)) return {};
-    const BitmapFileHeader header = *ParseBitmapFileHeader(file);
+std::optional<IconPicture> ReadIconPicture(std::span<const std::uint8_t> file,
+                                           const BitmapFileHeader& header) {
     const BitmapHeader& info = header.info;
     const auto all = file.subspan(kBitmapFileHeaderSize);
     const auto masks = info.masked ? all.subspan(kHeaderSize, kMasksSize) : all.first(0);

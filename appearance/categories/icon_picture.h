@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+#include "base/bitmap_header.h"
+
 // A bitmap's description, with the colours or masks that it lists, and its pixels, in one piece of
 // memory: the header is one of 40 bytes, whichever the file had.
 struct IconPicture {
@@ -15,6 +17,7 @@ struct IconPicture {
     std::int16_t height = 0;
 };
 
-// The picture of a bitmap file, which is copied. None where ReadBitmapSize finds no size, and where
-// masks overlap or have gaps.
-std::optional<IconPicture> ReadIconPicture(std::span<const std::uint8_t> file);
+// The picture of a bitmap file, which is copied. `header` is what ReadIconHeader read of it. None
+// where masks overlap or have gaps.
+std::optional<IconPicture> ReadIconPicture(std::span<const std::uint8_t> file,
+                                           const BitmapFileHeader& header);

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "app/language/module.h"
-#include "appearance/categories/icon_size.h"
+#include "appearance/categories/icon_header.h"
 #include "appearance/drawing/theme_colors.h"
 #include "base/scale.h"
 

@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "appearance/categories/icon_catalogue.h"
+#include "appearance/categories/icon_header.h"
 #include "appearance/categories/icon_picture.h"
-#include "appearance/categories/icon_size.h"
 #include "tests/fuzz/fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -21,14 +21,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } else {
         REQUIRE(catalogue.titles().empty());
     }
-    if (const auto bitmap = ReadBitmapSize({data, size})) {
-        REQUIRE(bitmap->width > 0 && bitmap->height > 0);
+    if (const auto header = ReadIconHeader({data, size})) {
+        const BitmapHeader& bitmap = header->info;
+        REQUIRE(bitmap.width > 0 && bitmap.height > 0);
         // One bit a pixel at least, in rows of whole double words.
-        const std::size_t row = (static_cast<std::size_t>(bitmap->width) + 31) / 32 * 4;
-        REQUIRE(row * static_cast<std::size_t>(bitmap->height) < size);
-        if (const auto picture = ReadIconPicture({data, size})) {
-            REQUIRE(picture->width == bitmap->width && picture->height == bitmap->height);
-            REQUIRE(picture->pixels + row * bitmap->height <= picture->bytes.size());
+        const std::size_t row = (static_cast<std::size_t>(bitmap.width) + 31) / 32 * 4;
+        REQUIRE(row * static_cast<std::size_t>(bitmap.height) < size);
+        if (const auto picture = ReadIconPicture({data, size}, *header)) {
+            REQUIRE(picture->width == bitmap.width && picture->height == bitmap.height);
+            REQUIRE(picture->pixels + row * bitmap.height <= picture->bytes.size());
         }
     }
     return 0;

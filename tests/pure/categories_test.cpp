@@ -6,8 +6,8 @@
 #include "appearance/categories/color_grid.h"
 #include "appearance/categories/icon_catalogue.h"
 #include "appearance/categories/icon_grid.h"
+#include "appearance/categories/icon_header.h"
 #include "appearance/categories/icon_picture.h"
-#include "appearance/categories/icon_size.h"
 #include "appearance/categories/icon_sources.h"
 #include "appearance/categories/short_path.h"
 #include "appearance/drawing/category_color.h"
@@ -66,7 +66,7 @@ TEST(IconCatalogue, FindsTheFirstGroupAndRefusesWhatIsCut) {
     EXPECT_FALSE(catalogue.Read(Bytes{1, 0, 0, 0, 'A', 0, 'A', 0}));
 }
 
-TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
+TEST(IconHeader, LetsOnlyWholeBitmapsThrough) {
     struct Case {
         const char* what;
         std::uint32_t header, width, height, bits, compression, colors, pixels;
@@ -105,12 +105,14 @@ TEST(IconSize, LetsOnlyWholeBitmapsThrough) {
             Append(file, field);
         }
         file.resize(pixels + c.early + c.pixels);
-        const std::optional<BitmapSize> size = ReadBitmapSize(file);
-        const BitmapSize expected = {static_cast<int>(c.width),
-                                     static_cast<int>(c.height > 0x8000 ? 2 : c.height)};
-        EXPECT_EQ(size, c.good ? std::optional(expected) : std::nullopt) << c.what;
+        const std::optional<BitmapFileHeader> header = ReadIconHeader(file);
+        ASSERT_EQ(header.has_value(), c.good) << c.what;
+        if (!header) continue;
+        EXPECT_EQ(header->info.width, static_cast<int>(c.width)) << c.what;
+        EXPECT_EQ(header->info.height, static_cast<int>(c.height > 0x8000 ? 2 : c.height))
+            << c.what;
     }
-    EXPECT_EQ(ReadBitmapSize({}), std::nullopt);
+    EXPECT_FALSE(ReadIconHeader({}));
 }
 
 // Of files with one pixel, FF, behind everything: what the picture says from its depth on, without
@@ -156,7 +158,9 @@ TEST(IconPicture, HasOneHeaderWhicheverTheFileHad) {
         file.insert(file.end(), c.rest.begin(), c.rest.end());
         file[10] = static_cast<std::uint8_t>(file.size());
         file.insert(file.end(), {0xFF, 0, 0, 0});
-        const std::optional<IconPicture> picture = ReadIconPicture(file);
+        const std::optional<BitmapFileHeader> fileHeader = ReadIconHeader(file);
+        ASSERT_TRUE(fileHeader) << c.what;
+        const std::optional<IconPicture> picture = ReadIconPicture(file, *fileHeader);
         ASSERT_EQ(picture.has_value(), !c.after.empty()) << c.what;
         if (!picture) continue;
         Bytes bytes = picture->bytes;

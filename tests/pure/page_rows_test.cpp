@@ -106,7 +106,8 @@ TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
 
 TEST(PageRows, WhatCouldNotBeReadIsStoredOnceItCouldOrWasChanged) {
     Page page;
-    HeldRows rows({rows::Check(1, kFirst), rows::Check(2, kSecond)});
+    HeldRows rows({rows::Check(3, &CDiarySettings::keypadNoBackspace), rows::Check(1, kFirst),
+                   rows::Check(2, kSecond)});
     page.values.unread = true;
     rows.Load(page.controls, page.values, page.shared);
     rows.Refresh(page.controls, page.values, page.shared);

@@ -66,6 +66,8 @@ TEST(BitmapFile, RefusesWhatIsNoPlain24BitBitmap) {
             Bytes bytes = Strip("..M");
             Put(bytes, offset, value);
             EXPECT_FALSE(ParseBitmapFile(bytes)) << offset << ": " << value;
+            EXPECT_TRUE(offset < 14 || !ParseBitmapResource(std::span(bytes).subspan(14)))
+                << offset << ": " << value;
         }
     }
     Bytes bytes = Strip("..M");

@@ -3,7 +3,8 @@
 #include <nlohmann/json.hpp>
 
 #include "appearance/categories/icon_catalogue.h"
-#include "appearance/categories/icon_size.h"
+#include "appearance/categories/icon_header.h"
+#include "appearance/categories/icon_picture.h"
 #include "base/scale.h"
 #include "tools/diarykit/commands/commands.h"
 #include "tools/diarykit/commands/print_findings.h"
@@ -30,13 +31,15 @@ int Check(const Options& options) {
     const int largest = ScaleLength(kLargestIcon, options.dpi);
     for (const std::string& path : BitmapsIn(options.folder)) {
         const std::vector<std::uint8_t> file = ReadInput(path);
-        const auto size = ReadBitmapSize(file);
-        if (!size) {
+        const auto header = ReadIconHeader(file);
+        if (!header || !ReadIconPicture(file, *header)) {
             findings.push_back({path, 0, "no whole, uncompressed bitmap; it is passed over"});
             continue;
         }
-        const std::string area = std::to_string(size->width) + " x " + std::to_string(size->height);
-        if (size->width > largest || size->height > largest) {
+        const BitmapHeader& bitmap = header->info;
+        const std::string area =
+            std::to_string(bitmap.width) + " x " + std::to_string(bitmap.height);
+        if (bitmap.width > largest || bitmap.height > largest) {
             findings.push_back({path, 0,
                                 area + " pixels, more than " + std::to_string(largest) +
                                     "; it is passed over on screens of " +

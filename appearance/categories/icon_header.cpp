@@ -1,6 +1,4 @@
-#include "appearance/categories/icon_size.h"
-
-#include "base/bitmap_header.h"
+#include "appearance/categories/icon_header.h"
 
 namespace {
 
@@ -20,12 +18,12 @@ bool IsKnownFormat(const BitmapHeader& header) {
 
 }  // namespace
 
-std::optional<BitmapSize> ReadBitmapSize(std::span<const std::uint8_t> file) {
-    const std::optional<BitmapFileHeader> header = ParseBitmapFileHeader(file);
+std::optional<BitmapFileHeader> ReadIconHeader(std::span<const std::uint8_t> file) {
+    std::optional<BitmapFileHeader> header = ParseBitmapFileHeader(file);
     if (!header || header->info.size > kLongestHeader || !IsKnownFormat(header->info) ||
         header->pixels < kBitmapFileHeaderSize + header->info.infoSize ||
         header->pixels + header->info.PixelBytes() > file.size()) {
-        return std::nullopt;
+        return {};
     }
-    return BitmapSize{header->info.width, header->info.height};
+    return header;
 }
