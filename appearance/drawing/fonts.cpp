@@ -54,7 +54,7 @@ ListFontSettings Stored() {
     result.height = static_cast<std::int32_t>(key.Read(settings::FontHeight));
     result.clearType = key.Read(settings::ClearTypeWhenDrawing);
     const bool system = key.Read(settings::UseSystem) != 0;
-    return system ? ListFontSettings::OfSystem() : result;
+    return system ? ListFontSettings::OfSystem().value_or(result) : result;
 }
 
 DWORD SystemPixels() {
@@ -88,7 +88,7 @@ void SetFont(HWND window, const OwnedFont& font) {
 
 }  // namespace
 
-ListFontSettings ListFontSettings::OfSystem() {
+std::optional<ListFontSettings> ListFontSettings::OfSystem() {
     LOGFONTW font = {};
     font.lfHeight = -static_cast<LONG>(SystemPixels());
     font.lfWeight = FW_NORMAL;
@@ -99,12 +99,13 @@ ListFontSettings ListFontSettings::OfSystem() {
     {
         const OwnedFont made(CreateFontIndirectW(&font));
         const WindowDc screen;
+        if (!made || !screen.get()) return {};
         const SelectedObject selected(screen.get(), made.get());
-        GetTextMetricsW(screen.get(), &metrics);
+        if (!GetTextMetricsW(screen.get(), &metrics)) return {};
     }
     const int dpi = VerticalDpi();
     const int height = (std::abs(metrics.tmHeight) * 96 + dpi / 2) / dpi;
-    return {kSystemFace, metrics.tmHeight < 0 ? -height : height, 0};
+    return ListFontSettings{kSystemFace, metrics.tmHeight < 0 ? -height : height, 0};
 }
 
 HFONT ListFont(FontStyle style, bool strikeOut) {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "base/owned_handle.h"
@@ -13,8 +14,9 @@ struct ListFontSettings {
     std::int32_t height = 0;      // pixels at 96 dots per inch
     std::uint32_t clearType = 0;  // 0: as the system does, 1: always on, 2: always off
 
-    // What follows from the system's font: Tahoma in the shell's text size.
-    static ListFontSettings OfSystem();
+    // What follows from the system's font: Tahoma in the shell's text size. None where its height
+    // cannot be measured, for want of memory.
+    static std::optional<ListFontSettings> OfSystem();
     bool operator==(const ListFontSettings&) const = default;
 };
 

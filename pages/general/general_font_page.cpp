@@ -67,7 +67,7 @@ void GeneralFontPage::OnLoad(PageValues& values) {
     current_.face = values.Read(settings::FontName);
     ShowExplanation(Item(IDC_FONT_EXPLANATION),
                     GetLanguageTable().LoadString(IDS_FONT_EXPLANATION));
-    if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem();
+    if (IsChecked(IDC_FONT_SYSTEM)) current_ = ListFontSettings::OfSystem().value_or(current_);
 }
 
 void GeneralFontPage::OnTranslated() {
@@ -96,7 +96,7 @@ void GeneralFontPage::ShowFont() {
 
 void GeneralFontPage::FollowSystem() {
     if (!IsChecked(IDC_FONT_SYSTEM)) return;
-    current_ = ListFontSettings::OfSystem();
+    current_ = ListFontSettings::OfSystem().value_or(current_);
     ShowFont();
 }
 

@@ -24,7 +24,8 @@ TEST(Fonts, ListFontsFollowTheSettings) {
     DeleteKeyTree(HKEY_LOCAL_MACHINE, kProductKey);
     ResetListFonts();
     // A fresh device has the system's font, and notes the default of whoever draws.
-    EXPECT_EQ(Describe(ListFont(FontStyle::kNormal)).lfHeight, ListFontSettings::OfSystem().height);
+    EXPECT_EQ(Describe(ListFont(FontStyle::kNormal)).lfHeight,
+              ListFontSettings::OfSystem()->height);
     EXPECT_EQ(OpenProductKey().ReadDword(L"ClearType", 9), 0u);
     for (const auto& [name, value] :
          {std::pair{L"UseSystem", 0}, {L"FontHeight", 16}, {L"ClearType", 1}}) {
