@@ -33,7 +33,7 @@ struct Tally {
     }
 };
 
-class FailingCalls : public DeviceTest, public testing::WithParamInterface<int> {
+class FailingCalls : public DeviceTest, public testing::WithParamInterface<Step> {
   protected:
     void SetUp() override {
         DeviceTest::SetUp();
@@ -78,7 +78,7 @@ class FailingCalls : public DeviceTest, public testing::WithParamInterface<int> 
 };
 
 TEST_P(FailingCalls, CostNothingThatWasNotBeingStored) {
-    const Step& step = Steps()[static_cast<std::size_t>(GetParam())];
+    const Step& step = GetParam();
     {
         Start();
         Prepared(step);
@@ -126,10 +126,7 @@ TEST_P(FailingCalls, CostNothingThatWasNotBeingStored) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Step, FailingCalls, testing::Range(0, static_cast<int>(Steps().size())),
-                         [](const auto& step) {
-                             return std::string(Steps()[static_cast<std::size_t>(step.param)].name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Step, FailingCalls, testing::ValuesIn(Steps()), NameOfStep);
 
 class StartingCalls : public FailingCalls {};
 TEST_F(StartingCalls, DoNotKeepTheProgramFromStarting) {

@@ -14,7 +14,7 @@ using namespace ui;
 
 using Clock = std::chrono::steady_clock;
 
-class Kills : public DeviceTest {
+class Kills : public DeviceTest, public testing::WithParamInterface<Step> {
   protected:
     // Runs a step and ends the program `delay` after it begins to store; returns how long it took
     // from then on.
@@ -36,62 +36,55 @@ class Kills : public DeviceTest {
     }
 };
 
-TEST_F(Kills, LeaveEveryValueOldOrNew) {
+TEST_P(Kills, LeaveEveryValueOldOrNew) {
+    const Step& step = GetParam();
     const char* const wanted = std::getenv("KILLS");
-    const int kills = wanted ? atoi(wanted) : 11;
-    std::mt19937 random(kills);
-    std::vector<const Step*> steps;
-    for (const Step& step : Steps()) {
-        if (std::string(step.name) != "about") steps.push_back(&step);
-    }
+    const int kills = wanted ? atoi(wanted) / static_cast<int>(Steps().size()) + 1 : 1;
+    std::mt19937 random(kills + step.name[0]);
     int whileStoring = 0, partialExports = 0, changed = 0;
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        const Step& step = *steps[i];
-        Prepared(step);
-        {
-            const Program creating;
-            ASSERT_TRUE(creating.Main());
-            step.run(creating, [] {});  // Creates what first reads create.
-        }
-        const Program first;
-        ASSERT_TRUE(first.Main());
-        const Holdings before = Prepared(step);
-        Clock::time_point begun;
-        ASSERT_TRUE(step.run(first, [&] { begun = Clock::now(); }).closed) << step.name;
-        const Clock::duration span = Clock::now() - begun;
-        first.CloseAndWait();
-        const Holdings then = Holdings::Read();
-        const int last = kills * static_cast<int>(i + 1) / static_cast<int>(steps.size());
-        for (int k = kills * static_cast<int>(i) / static_cast<int>(steps.size()); k < last; ++k) {
-            before.Restore();
-            {
-                const Program program;
-                ASSERT_TRUE(program.Main());
-                const auto delay = span * (random() % 1000) / 1000;
-                whileStoring += Run(step, program, delay) < span;
-            }
-            Holdings now = Holdings::Read();
-            if (const auto file = now.files.find(kExportFile);
-                std::string(step.name) == "export" && file != now.files.end() &&
-                file->second != then.files.at(kExportFile)) {
-                ++partialExports;
-                EXPECT_FALSE(RegistryExporter().Import(kExportFile));
-                DeleteFileW(kExportFile);
-                now = Holdings::Read();
-            }
-            std::erase_if(now.files,
-                          [](const auto& file) { return file.first.ends_with(L".new"); });
-            for (const std::string& damage : Damage(before, then, now))
-                ADD_FAILURE() << step.name << ": " << damage;
-            changed += now != before;
-            const Program next;
-            EXPECT_TRUE(next.Main()) << step.name;
-            EXPECT_EQ(next.CloseAndWait(), 0u) << step.name;
-        }
-        before.Restore();
+    Prepared(step);
+    {
+        const Program creating;
+        ASSERT_TRUE(creating.Main());
+        step.run(creating, [] {});  // Creates what first reads create.
     }
+    const Program first;
+    ASSERT_TRUE(first.Main());
+    const Holdings before = Prepared(step);
+    Clock::time_point begun = Clock::now();
+    ASSERT_TRUE(step.run(first, [&] { begun = Clock::now(); }).closed);
+    const Clock::duration span = Clock::now() - begun;
+    first.CloseAndWait();
+    const Holdings then = Holdings::Read();
+    for (int k = 0; k < kills; ++k) {
+        before.Restore();
+        {
+            const Program program;
+            ASSERT_TRUE(program.Main());
+            const auto delay = span * (random() % 1000) / 1000;
+            whileStoring += Run(step, program, delay) < span;
+        }
+        Holdings now = Holdings::Read();
+        if (const auto file = now.files.find(kExportFile);
+            std::string(step.name) == "export" && file != now.files.end() &&
+            file->second != then.files.at(kExportFile)) {
+            ++partialExports;
+            EXPECT_FALSE(RegistryExporter().Import(kExportFile));
+            DeleteFileW(kExportFile);
+            now = Holdings::Read();
+        }
+        std::erase_if(now.files, [](const auto& file) { return file.first.ends_with(L".new"); });
+        for (const std::string& damage : Damage(before, then, now)) ADD_FAILURE() << damage;
+        changed += now != before;
+        const Program next;
+        EXPECT_TRUE(next.Main());
+        EXPECT_EQ(next.CloseAndWait(), 0u);
+    }
+    before.Restore();
     printf("%d ended, %d before the step was over, %d had stored something, %d exports in part\n",
            kills, whileStoring, changed, partialExports);
 }
+
+INSTANTIATE_TEST_SUITE_P(Step, Kills, testing::ValuesIn(Steps()), NameOfStep);
 
 }  // namespace

@@ -98,10 +98,10 @@ Figures Count(DWORD id) {
 
 constexpr int kCounted = 2;  // rounds
 
-class Leaks : public DeviceTest, public testing::WithParamInterface<int> {};
+class Leaks : public DeviceTest, public testing::WithParamInterface<Step> {};
 
 TEST_P(Leaks, NothingGrowsAfterTheTenthTime) {
-    const Step& step = Steps()[static_cast<std::size_t>(GetParam())];
+    const Step& step = GetParam();
     const char* const wanted = std::getenv("ROUNDS");
     const int rounds = wanted ? atoi(wanted) : 12;
     Program program;
@@ -139,9 +139,6 @@ TEST_P(Leaks, NothingGrowsAfterTheTenthTime) {
     EXPECT_EQ(program.CloseAndWait(), 0u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Step, Leaks, testing::Range(0, static_cast<int>(Steps().size())),
-                         [](const auto& step) {
-                             return std::string(Steps()[static_cast<std::size_t>(step.param)].name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Step, Leaks, testing::ValuesIn(Steps()), NameOfStep);
 
 }  // namespace

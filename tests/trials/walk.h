@@ -2,6 +2,8 @@
 // Each step opens something, changes something in it, confirms it and is over when all is closed.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <span>
 #include <string>
@@ -22,6 +24,10 @@ struct Step {
 };
 
 std::span<const Step> Steps();
+
+// For tests that are made for each step.
+inline void PrintTo(const Step& step, std::ostream* out) { *out << step.name; }
+inline std::string NameOfStep(const testing::TestParamInfo<Step>& step) { return step.param.name; }
 
 // Has a window with all in it painted, at once.
 void Draw(HWND window);
