@@ -34,8 +34,8 @@ class PageValues {
     virtual std::uint32_t Read(const NumberSetting& setting) = 0;
     virtual std::wstring Read(const TextSetting& setting) = 0;
     // Whether something that is stored could not be read since this was asked last.
-    virtual bool TakeUnread() { return false; }
-    virtual bool HasUnread() const { return false; }
+    virtual bool TakeUnread() = 0;
+    virtual bool HasUnread() const = 0;
     virtual void Write(const NumberSetting& setting, std::uint32_t value) = 0;
     virtual void Write(const TextSetting& setting, const std::wstring& text) = 0;
 };

@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::uint8_t kSecondStore = 'F';
 constexpr std::uint8_t kMessagingStore = 'M';
-constexpr std::size_t kLengths = 3;  // the kind and the two lengths of a record
 
 template <typename Entries>
 auto Find(Entries& entries, const MailFolderRef& folder) {
@@ -49,14 +48,9 @@ void MailFilter::Remove(const MailFolderRef& folder) {
 
 std::optional<std::vector<std::uint8_t>> MailFilterBytes(
     const std::vector<MailFilter::Entry>& entries) {
-    std::size_t size = 0;
-    for (const MailFilter::Entry& entry : entries) {
-        if (!entry.folder.CanBeStored()) return std::nullopt;
-        size += kLengths + entry.folder.identifier.size() + 2 * StoredLength(entry.name);
-    }
     std::vector<std::uint8_t> bytes;
-    bytes.reserve(size);
     for (const auto& [folder, name] : entries) {
+        if (!folder.CanBeStored()) return std::nullopt;
         bytes.push_back(folder.inSecondStore ? kSecondStore : kMessagingStore);
         bytes.push_back(static_cast<std::uint8_t>(folder.identifier.size()));
         bytes.insert(bytes.end(), folder.identifier.begin(), folder.identifier.end());

@@ -2,23 +2,22 @@
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 namespace {
 
 constexpr std::wstring_view kBetween = L" - ";
 constexpr int kLargestNumber = 99'999'999;
 
-// The number that a text begins with, behind blanks; one that no name of ours has counts as none.
-std::optional<int> LeadingNumber(std::wstring_view text) {
+// The number that a text begins with, behind blanks. 0 without one, and for one that no name of
+// ours has.
+int LeadingNumber(std::wstring_view text) {
     std::size_t i = std::min(text.find_first_not_of(L' '), text.size());
     int number = 0;
-    const std::size_t begin = i;
     for (; i < text.size() && text[i] >= L'0' && text[i] <= L'9'; ++i) {
         number = number * 10 + static_cast<int>(text[i] - L'0');
-        if (number > kLargestNumber) return std::nullopt;
+        if (number > kLargestNumber) return 0;
     }
-    return i > begin ? std::optional(number) : std::nullopt;
+    return number;
 }
 
 std::wstring Numbered(const std::wstring& base, int number) {
@@ -30,9 +29,8 @@ std::wstring NumberedName(const std::wstring& base, const std::vector<std::wstri
     int number = 1;
     for (const std::wstring& filter : filters) {
         if (!filter.starts_with(base)) continue;
-        if (const auto found = LeadingNumber(std::wstring_view(filter).substr(base.size()))) {
-            number = std::max(number, *found + 1);
-        }
+        const int found = LeadingNumber(std::wstring_view(filter).substr(base.size()));
+        number = std::max(number, found + 1);
     }
     return Numbered(base, number);
 }

@@ -165,7 +165,7 @@ TEST(IconPicture, HasOneHeaderWhicheverTheFileHad) {
         if (!picture) continue;
         Bytes bytes = picture->bytes;
         EXPECT_EQ(bytes.size(), picture->pixels + 4u) << c.what;
-        EXPECT_EQ(bytes[0], 40) << c.what;
+        EXPECT_TRUE(bytes[0] == 40 && bytes[14] == c.after[0]) << c.what;
         EXPECT_EQ(picture->width * 100 + picture->height, 101) << c.what;
         bytes.erase(bytes.begin(), bytes.begin() + 14);
         std::erase(bytes, 0);
@@ -218,6 +218,8 @@ TEST(IconGrid, LiesGroupBelowGroup) {
     EXPECT_EQ(grid.Move(std::nullopt, IconMove::kDown, 60), IconPlace{});
     EXPECT_EQ(IconGrid().Move(std::nullopt, IconMove::kDown, 60), std::nullopt);
     EXPECT_EQ(IconGrid(metrics, 5, {{2, true}}).columns(), 1);
+    const IconGrid oneIsLast(metrics, 85, {{4, true}});
+    EXPECT_EQ(oneIsLast.Move(IconPlace{0, 1}, IconMove::kDown, 60), (IconPlace{0, 3}));
 }
 
 TEST(IconSources, ShowsAnyOfThem) {
@@ -318,7 +320,7 @@ TEST(ColorGrid, LiesOnTheScreenAsDesigned) {
     for (const auto& [grid, point, cell] : cells) {
         EXPECT_EQ(grid.CellAt(point.x, point.y), cell) << point.x << "," << point.y;
     }
-    EXPECT_EQ(ClampToGrid({8, 5}), (GridCell{7, 4}));
+    EXPECT_TRUE(ClampToGrid({8, 5}) == (GridCell{7, 4}) && ClampToGrid({-1, -1}) == GridCell{});
 
     const std::tuple<GridArea, int, int, GridPoint> places[] = {
         {{10, 20, 50, 40}, 240, 320, {10, 39}},

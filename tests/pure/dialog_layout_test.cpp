@@ -87,6 +87,10 @@ TEST(DialogLayout, ColumnsMakeRoomForThemselvesAlone) {
                     200, 120, {{1, 20}});
     EXPECT_EQ(laid.At(0) + "; " + laid.At(1), "10 10 90 100; 10 100 90 112");
     EXPECT_EQ(laid.At(2) + "; " + laid.At(3), "110 10 190 40; 110 74 190 92");
+    const Laid wide(
+        {{1, 10, 10, 60, 24, ControlKind::kText, 80}, {2, 110, 10, 190, 24}, {3, 10, 40, 90, 54}},
+        200, 100, {});
+    EXPECT_EQ(wide.At(0) + "; " + wide.At(1), "10 10 90 24; 110 10 190 24");
 }
 
 TEST(DialogLayout, LabelsStayInLineAndFieldsKeepWhatTouchesThem) {

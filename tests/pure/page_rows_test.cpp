@@ -58,6 +58,7 @@ class FakeValues : public PageValues {
     }
     std::wstring Read(const TextSetting&) override { return {}; }
     bool TakeUnread() override { return unread; }
+    bool HasUnread() const override { return unread; }
     void Write(const NumberSetting& setting, std::uint32_t value) override {
         stored[setting.name] = value;
     }
@@ -84,7 +85,7 @@ TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
     Page page;
     page.values.stored[L"Second"] = 5;  // Any number but 0 shows as checked.
     page.shared.keypadNoBackspace = 1;
-    HeldRows rows({rows::Check(1, kSecond), rows::Check(2, kFirst),
+    HeldRows rows({rows::NoValue(4), rows::Check(1, kSecond), rows::Check(2, kFirst),
                    rows::InvertedCheck(3, &CDiarySettings::keypadNoBackspace)});
     rows.Load(page.controls, page.values, page.shared);
     EXPECT_EQ(page.values.readOrder, (std::vector<std::wstring>{L"Second", L"First"}));

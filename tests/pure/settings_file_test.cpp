@@ -45,6 +45,7 @@ struct Notes : SettingsSink {
 };
 
 using Bytes = std::vector<std::uint8_t>;
+using std::string_literals::operator""s;
 
 // A file of numbers, each of four bytes, and of short pieces of text that come as they are.
 Bytes File(std::initializer_list<std::uint32_t> numbers) {
@@ -90,7 +91,7 @@ struct Case {
     const char* what;
     Bytes file;
     bool read;
-    const char* seen;
+    std::string seen;
 };
 
 void ExpectSeen(const std::vector<Case>& cases) {
@@ -151,6 +152,9 @@ TEST(SettingsFile, ValuesWithoutBytes) {
          "root 1 ;{;{;=0 bytes;=0 bytes;ab=#7;};};"},
         {"before an end tag inside", File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 4, kAb, 4, 7, 1, 3, 1}),
          true, "root 1 ;{;{;=0 bytes;ab=#7;};};"},
+        {"where an end tag inside seems to follow",
+         File({0, 1, 0, 2, 0, 2, 0, 4, 0, 3, 4, 4, 1, 3, 1, 0x377, 0x300, 0x100, 0}), true,
+         "root 1 ;{;{;=0 bytes;\1\0=1 bytes;};};"s},
         {"behind an unknown tag", File({0, 1, 0, 2, 0, 9, 4, 0, 3, 3, 1}), true,
          "root 1 ;{;=0 bytes;};"},
         {"before what seems to be the file's end",

@@ -230,6 +230,7 @@ TEST(NoteLabel, FitsItsColumn) {
         {(1u << 20) - 1, L"1023K", L"17.2M"},
         {1u << 20, L"1.00M", L"17.2M"},
         {(5u << 20) + 7, L"5.00M", L"87.2M"},
+        {1u << 29, L"512M", L"8947M"},
         {1u << 30, L"1.00G", L"1789M"},
         {0xFFFFFFFF, L"3.10G", L"7158M"}};
     for (const auto& [number, size, duration] : kCases) {
