@@ -53,7 +53,7 @@ TEST(MailFilter, NamesNewOnes) {
         {{L"Set 3", L"Set 1"}, L"Set 4"},
         {{L"Sets", L"A Set 9", L"set 8", L"Set x", L"Set -3"}, L"Set 1"},
         {{L"Set7", L"Set 99999999999"}, L"Set 8"},
-        {{L"Set 10", L"Set 9"}, L"Set 11"},
+        {{L"A", L"Set 10", L"Set 9"}, L"Set 11"},
         {{L"Set 129"}, L"Set 130"},
     };
     for (const auto& [filters, name] : cases) {

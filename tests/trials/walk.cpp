@@ -22,11 +22,12 @@ BOOL CALLBACK Paint(HWND window, LPARAM) {
     return TRUE;
 }
 
+// Away from what the device has stored, which is what the row would change to.
 void Change(HWND page, const PageRow& row) {
     if (row.select == kClick) {
         Click(page, row.control);
     } else {
-        Select(page, row.control, row.select);
+        Select(page, row.control, row.select == 0);
     }
 }
 
