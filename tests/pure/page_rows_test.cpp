@@ -74,6 +74,7 @@ class HeldRows : private std::vector<Row>, public PageRows {
 
 constexpr NumberSetting kFirst{L"First", 1};
 constexpr NumberSetting kSecond{L"Second", 0};
+constexpr NumberSetting kThird{L"Third", 1};
 
 struct Page {
     FakeControls controls;
@@ -107,8 +108,8 @@ TEST(PageRows, LoadReadsInOrderAndSaveWritesEveryRow) {
 
 TEST(PageRows, WhatCouldNotBeReadIsStoredOnceItCouldOrWasChanged) {
     Page page;
-    HeldRows rows({rows::Check(3, &CDiarySettings::keypadNoBackspace), rows::Check(1, kFirst),
-                   rows::Check(2, kSecond)});
+    HeldRows rows({rows::Check(1, kFirst), rows::Check(3, &CDiarySettings::keypadNoBackspace),
+                   rows::Check(2, kSecond), rows::Check(4, kThird)});
     page.values.unread = true;
     rows.Load(page.controls, page.values, page.shared);
     rows.Refresh(page.controls, page.values, page.shared);
@@ -117,9 +118,10 @@ TEST(PageRows, WhatCouldNotBeReadIsStoredOnceItCouldOrWasChanged) {
     rows.Save(page.controls, page.values, page.shared);
     EXPECT_EQ(page.values.stored, (std::map<std::wstring, std::uint32_t>{{L"Second", 1}}));
     page.values = {};
-    page.values.stored[L"First"] = 0;
+    page.values.stored = {{L"First", 0}, {L"Third", 0}};
     rows.Refresh(page.controls, page.values, page.shared);
     EXPECT_TRUE(!page.controls.IsChecked(1) && page.controls.IsChecked(2));
+    EXPECT_FALSE(page.controls.IsChecked(4));
     page.values.stored.clear();
     rows.Save(page.controls, page.values, page.shared);
     EXPECT_TRUE(page.values.stored.contains(L"First"));
@@ -133,11 +135,17 @@ TEST(PageRows, ListsSelectStoredNumbersAndKeepUnlistedOnes) {
         std::uint32_t stored;
         int selection;        // after loading
         std::uint32_t saved;  // untouched
-    } const cases[] = {{kIndex, 0, 0, 0},  {kIndex, 3, 3, 3},
-                       {kIndex, 4, -1, 4}, {kIndex, 0xFFFFFFFF, -1, 0xFFFFFFFF},
-                       {kText, 7, 1, 7},   {kText, 10, 2, 10},
-                       {kText, 8, -1, 8},  {kText, 0xFFFFFFF9, -1, 0xFFFFFFF9},
-                       {kChoice, 0, 0, 0}, {kChoice, 3, 3, 3},
+    } const cases[] = {{kIndex, 0, 0, 0},
+                       {kIndex, 3, 3, 3},
+                       {kIndex, 4, -1, 4},
+                       {kIndex, 0xFFFFFFFF, -1, 0xFFFFFFFF},
+                       {kText, 7, 1, 7},
+                       {kText, 1, 0, 1},
+                       {kText, 10, 2, 10},
+                       {kText, 8, -1, 8},
+                       {kText, 0xFFFFFFF9, -1, 0xFFFFFFF9},
+                       {kChoice, 0, 0, 0},
+                       {kChoice, 3, 3, 3},
                        {kChoice, 99, 0, 0}};  // Falls back to the first entry.
     const std::vector<FakeControls::Item> fixed = {{L"1"}, {L"7"}, {L"10"}, {L"x"}};
     for (const auto& c : cases) {
@@ -240,7 +248,6 @@ TEST(PageRows, KeptWhileOnIsNotStored) {
 }
 
 TEST(PageRows, WhatTheDeviceLacksIsGreyedOrRemoved) {
-    constexpr NumberSetting kThird{L"Third", 1};
     const auto absent = [] { return false; };
     Page page;
     page.controls.controls[2] = {};
@@ -248,6 +255,7 @@ TEST(PageRows, WhatTheDeviceLacksIsGreyedOrRemoved) {
                    rows::Check(2, kThird).RemovedWithout(absent),
                    rows::Check(3, kSecond).GreyedWithout(absent).DisabledBy(1)});
     rows.Load(page.controls, page.values, page.shared);
+    rows.Refresh(page.controls, page.values, page.shared);
     rows.UpdateEnabled(page.controls);
     EXPECT_EQ(page.values.stored[L"First"], 0u);  // the default of a device without it
     EXPECT_FALSE(page.controls.controls[1].enabled);

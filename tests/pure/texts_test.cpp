@@ -323,6 +323,10 @@ TEST(OfferedLayouts, UnknownPiecesShiftTheActivePosition) {
 TEST(OfferedLayouts, ActivatesWhatItHas) {
     const KeyboardLayout a, b, c;
     OfferedLayouts offered = {{&a, &b}, 0};
+    for (const wchar_t* const name : {L"", L",", L"a,b"}) {
+        EXPECT_FALSE(OfferedLayouts::CanBeListed(name));
+    }
+    EXPECT_TRUE(OfferedLayouts::CanBeListed(L"a b"));
     EXPECT_TRUE(offered.Contains(&a) && offered.Contains(&b) && !offered.Contains(&c));
     offered.Activate(&b);
     EXPECT_EQ(offered.active, 1);
