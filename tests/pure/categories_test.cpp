@@ -165,7 +165,7 @@ TEST(IconPicture, HasOneHeaderWhicheverTheFileHad) {
         if (!picture) continue;
         Bytes bytes = picture->bytes;
         EXPECT_EQ(bytes.size(), picture->pixels + 4u) << c.what;
-        EXPECT_TRUE(bytes[0] == 40 && bytes[14] == c.after[0]) << c.what;
+        EXPECT_TRUE(bytes[0] == 40 && bytes[12] == 1 && bytes[14] == c.after[0]) << c.what;
         EXPECT_EQ(picture->width * 100 + picture->height, 101) << c.what;
         bytes.erase(bytes.begin(), bytes.begin() + 14);
         std::erase(bytes, 0);

@@ -233,7 +233,7 @@ TEST_F(KeptRows, LoadedOffShowsEmptyAndKeeps) {
 TEST(PageRows, KeptWhileOnIsNotStored) {
     Page page;
     page.values.stored = {{L"First", 1}, {L"Second", 1}};
-    HeldRows rows({rows::Check(1, kFirst), rows::Check(2, kSecond).KeptWhileOn(1)});
+    HeldRows rows({rows::Check(2, kSecond).KeptWhileOn(1), rows::Check(1, kFirst)});
     rows.Load(page.controls, page.values, page.shared);
     rows.UpdateEnabled(page.controls);
     EXPECT_FALSE(page.controls.IsChecked(2) || page.controls.controls[2].enabled);
