@@ -17,14 +17,9 @@ struct GridCell {
     bool operator==(const GridCell&) const = default;
 };
 
-// The cell of a colour; of one that the palette lacks, a cell outside the grid.
-GridCell FindPaletteColor(std::uint32_t color);
-
 inline constexpr GridCell kNoCell = {-1, -1};
-constexpr bool IsInGrid(const GridCell& cell) {
-    return cell.column >= 0 && cell.column < kColorColumns && cell.row >= 0 &&
-           cell.row < kColorRows;
-}
+// The cell of a colour; kNoCell of one that the palette lacks.
+GridCell FindPaletteColor(std::uint32_t color);
 GridCell ClampToGrid(GridCell cell);
 
 // Where the cells of the colour grid lie, in pixels of a screen of the given density.

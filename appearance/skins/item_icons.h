@@ -51,6 +51,5 @@ inline constexpr int kItemIconCount = 40;
 enum class ScrollBarPart { kUp, kDown, kThumb, kTrack };
 inline constexpr int kScrollBarPartCount = 4;
 
-// The tab icons, from the left.
-enum class TabIcon { kCalendar, kTasks, kContacts, kNotes, kMessages, kSpecialEvents };
+// The tab icons, from the left: calendar, tasks, contacts, notes, messages, special events.
 inline constexpr int kTabIconCount = 6;

@@ -297,7 +297,7 @@ TEST(ColorGrid, LiesOnTheScreenAsDesigned) {
     EXPECT_EQ(ColorPalette[1], 0x00002AA5u);
     EXPECT_EQ(FindPaletteColor(0x00FAE6E6), (GridCell{6, 4}));
     EXPECT_EQ(FindPaletteColor(kNoColor), (GridCell{0, 0}));
-    EXPECT_FALSE(IsInGrid(FindPaletteColor(0x00123456)));
+    EXPECT_EQ(FindPaletteColor(0x00123456), kNoCell);
 
     const ColorGrid usual(96, 96), fine(192, 192), uneven(192, 96);
     EXPECT_EQ(usual.width(), 148);
