@@ -121,12 +121,13 @@ Outcome WalkCategories(const Program& program, const Storing& storing) {
     return {Ok(dialog)};
 }
 
-Outcome WalkAbout(const Program& program, const Storing&) {
+Outcome WalkAbout(const Program& program, const Storing& storing) {
     PostMessageW(program.Main(), WM_COMMAND, IDM_ABOUT_BOX, 0);
     if (!program.Dismiss()) return {};
     PostMessageW(program.Main(), WM_COMMAND, ID_APP_ABOUT, 0);
     const HWND about = program.Sheet(L"About");
     Draw(about);
+    storing();
     return {about && Ok(about)};
 }
 
