@@ -1,10 +1,10 @@
 #include "appearance/categories/icon_files.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "appearance/categories/icon_header.h"
-#include "appearance/categories/icon_picture.h"
 #include "base/find_files.h"
 #include "base/mapped_file.h"
 #include "base/scale.h"
@@ -53,16 +53,19 @@ OwnedBitmap LoadIconBitmap(const std::wstring& path) {
     return OwnedBitmap(SHLoadDIBitmap(path.c_str()));
 }
 
+std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file) {
+    const std::optional<BitmapFileHeader> header = ReadIconHeader(file);
+    if (!header || header->info.width > ScaleX(kLargestIcon) ||
+        header->info.height > ScaleY(kLargestIcon))
+        return {};
+    return ReadIconPicture(file, *header);
+}
+
 bool HasIcons(const std::wstring& folder) {
-    const int largest = ScaleY(kLargestIcon);
-    for (const std::wstring& name : FindBitmapFiles(folder)) {
-        const MappedFile file(JoinPath(folder, name));
-        const std::optional<BitmapFileHeader> header = ReadIconHeader(file.bytes());
-        if (header && header->info.width <= largest && header->info.height <= largest &&
-            ReadIconPicture(file.bytes(), *header))
-            return true;
-    }
-    return false;
+    const std::vector<std::wstring> names = FindBitmapFiles(folder);
+    return std::any_of(names.begin(), names.end(), [&folder](const std::wstring& name) {
+        return ReadOfferedIcon(MappedFile(JoinPath(folder, name)).bytes());
+    });
 }
 
 std::vector<std::wstring> FindFixedIconSources() {

@@ -2,10 +2,13 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "appearance/categories/icon_picture.h"
 #include "appearance/categories/icon_sources.h"
 #include "base/owned_handle.h"
 
@@ -24,7 +27,11 @@ std::wstring JoinPath(const std::wstring& folder, const std::wstring& name);
 // Loads an icon's bitmap; null when there is none or the file is malformed.
 OwnedBitmap LoadIconBitmap(const std::wstring& path);
 
-// Whether a folder holds a bitmap of icon size and so is offered as a source of icons.
+// A bitmap file as an icon to choose; no value when it is malformed, or larger than an icon may be
+// on this screen.
+std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file);
+
+// Whether a folder holds an icon to choose and so is offered as a source of icons.
 bool HasIcons(const std::wstring& folder);
 
 // The sources that the device offers by itself: the diary's own icon set, and those of other

@@ -6,10 +6,8 @@
 #include "app/language/language_table.h"
 #include "appearance/categories/icon_digest.h"
 #include "appearance/categories/icon_files.h"
-#include "appearance/categories/icon_header.h"
 #include "base/mapped_file.h"
 #include "base/names.h"
-#include "base/scale.h"
 #include "settings/install_path.h"
 
 IconLibrary::IconLibrary() {
@@ -25,14 +23,10 @@ void IconLibrary::LoadFolder(const std::wstring& folder) {
 
     loadedFolders_.push_back(std::move(name));
     const IconDigester digester;
-    const int largestWidth = ScaleX(kLargestIcon), largestHeight = ScaleY(kLargestIcon);
     for (std::wstring& file : FindBitmapFiles(folder)) {
         Icon icon = {&loadedFolders_.back(), std::move(file)};
         const MappedFile mapped(icon.Path());
-        const std::optional<BitmapFileHeader> header = ReadIconHeader(mapped.bytes());
-        if (!header || header->info.width > largestWidth || header->info.height > largestHeight)
-            continue;
-        std::optional<IconPicture> picture = ReadIconPicture(mapped.bytes(), *header);
+        std::optional<IconPicture> picture = ReadOfferedIcon(mapped.bytes());
         if (!picture) continue;
         icon.picture = std::move(*picture);
         const std::optional<IconDigest> digest = digester.Digest(mapped.bytes());

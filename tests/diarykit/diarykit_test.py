@@ -362,9 +362,12 @@ class Artwork(KitTest):
         self.assertEqual(checked("icons.dat"), (0, icons))
         self.put("i/d.bmp", sound[:-1])
         self.put("i/e.bmp", bitmap(31, 2, lambda x, y: (1, 1, 1)))
+        masks = struct.pack("<III", 0x7C00, 0x3E0, 0x3F)
+        self.put("i/f.bmp", struct.pack("<2sIIIIiiHHI", b"BM", 70, 0, 66, 40, 1, 1, 1, 16, 3) + bytes(20) + masks + bytes(4))
         self.assertEqual(checked("icons.dat"), (1, icons + [
             f"i{os.sep}d.bmp: no whole, uncompressed bitmap; it is passed over",
-            f"i{os.sep}e.bmp: 31 x 2 pixels, more than 30; it is passed over on screens of 96 dpi"]))
+            f"i{os.sep}e.bmp: 31 x 2 pixels, more than 30; it is passed over on screens of 96 dpi",
+            f"i{os.sep}f.bmp: its color masks are empty, overlap or have gaps; it is passed over"]))
         self.assertEqual(checked("--dpi", "192")[1][2], f"i{os.sep}e.bmp: 31 x 2, Other Icons")
         self.assertEqual(self.run_kit("icons", "check", "icons.dat")[0], 2)
 

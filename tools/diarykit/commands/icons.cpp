@@ -32,8 +32,13 @@ int Check(const Options& options) {
     for (const std::string& path : BitmapsIn(options.folder)) {
         const std::vector<std::uint8_t> file = ReadInput(path);
         const auto header = ReadIconHeader(file);
-        if (!header || !ReadIconPicture(file, *header)) {
+        if (!header) {
             findings.push_back({path, 0, "no whole, uncompressed bitmap; it is passed over"});
+            continue;
+        }
+        if (!ReadIconPicture(file, *header)) {
+            findings.push_back(
+                {path, 0, "its color masks are empty, overlap or have gaps; it is passed over"});
             continue;
         }
         const BitmapHeader& bitmap = header->info;
