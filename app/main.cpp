@@ -31,7 +31,7 @@ void MoveToVisibleDesktop(HWND hwnd) {
 
 int Run(const wchar_t* commandLine, int showCommand) {
     SHInitExtraControls();
-    RegisterPreviewWindow();  // Before the language file's template creates every dialog.
+    RegisterPreviewWindow();  // Before the language file's template may create dialogs.
     GetLanguageTable().Load(GetInstallPath(L"LumDiary_en.txt"));
 
     RECT desktop = {};

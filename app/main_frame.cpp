@@ -89,7 +89,7 @@ std::optional<LRESULT> MainFrame::OnMessage(UINT message, WPARAM wParam, LPARAM 
 bool MainFrame::OnCreate() {
     startTabs_ = TabSettings::Read();
     GetThemeColors().Refresh();
-    SetWindowTextW(hwnd(), GetLanguageTable().LoadString(IDS_APP_TITLE).c_str());
+    SetWindowTextW(hwnd(), LanguageTable::LoadSource(IDS_APP_TITLE).c_str());
 
     SHMENUBARINFO bar = {};
     bar.cbSize = sizeof bar;

@@ -92,10 +92,15 @@ bool LanguageTable::Load(const std::wstring& path) {
 }
 
 std::wstring LanguageTable::LoadString(unsigned id) const {
+    const std::wstring text = LoadSource(id);
+    const std::wstring* translation = index_.Find(text);
+    return translation ? translation->substr(0, kStringLength - 1) : text;
+}
+
+std::wstring LanguageTable::LoadSource(unsigned id) {
     wchar_t text[kStringLength] = {};
     const int length = ::LoadString(ResourceLibrary(), id, text, kStringLength);
-    const std::wstring* translation = index_.Find({text, static_cast<std::size_t>(length)});
-    return translation ? translation->substr(0, kStringLength - 1) : text;
+    return {text, static_cast<std::size_t>(length)};
 }
 
 std::wstring LanguageTable::Translate(const std::wstring& text) const {

@@ -18,6 +18,9 @@ class LanguageTable {
 
     // A string of the resource library, translated; empty when the library has none with this id.
     std::wstring LoadString(unsigned id) const;
+    // The same not yet translated, for a window before TranslateWindow: a translation may itself be
+    // a text that has another.
+    static std::wstring LoadSource(unsigned id);
     std::wstring Translate(const std::wstring& text) const;
 
     // Translate a window and its direct children, the items of combo boxes among them; the buttons

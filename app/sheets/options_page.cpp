@@ -147,7 +147,7 @@ void OptionsPage::Enable(int control, bool enabled) { EnableWindow(Item(control)
 void OptionsPage::Remove(int control) { DestroyWindow(Item(control)); }
 
 void OptionsPage::AddItem(int control, unsigned label, std::int32_t value) {
-    AddItem(control, GetLanguageTable().LoadString(label), value);
+    AddItem(control, LanguageTable::LoadSource(label), value);
 }
 
 void OptionsPage::AddItem(int control, const std::wstring& text, std::int32_t value) {

@@ -18,6 +18,7 @@ class PageControls {
     virtual void SetChecked(int control, bool checked) = 0;
     virtual void Enable(int control, bool enabled) = 0;
     virtual void Remove(int control) = 0;
+    // While the page is made: it is translated with the whole page.
     virtual void AddItem(int control, unsigned label, std::int32_t value) = 0;
     virtual int Selection(int control) const = 0;  // -1: none
     virtual void SetSelection(int control, int index) = 0;

@@ -24,7 +24,8 @@ TEST_F(Translation, AppearsInTitlesTabsTextsListsAndBars) {
                           L"Settings|Ändern\r\nHelp|Hilfe\r\nExit|&Beenden\r\n"
                           L"Task options|Aufgaben\r\nGeneral|Allgemein\r\n"
                           L"Completed tasks|Erledigte Aufgaben\r\n"
-                          L"Whole subject|Ganzer Betreff\r\nOne line|Eine Zeile\r\n"));
+                          L"Whole subject|Ganzer Betreff\r\nOne line|Eine Zeile\r\n"
+                          L"Eine Zeile|Translated twice\r\n"));
     Program program(L"-P2:0");
     EXPECT_EQ(Text(program.Main()), L"Tagebuch-Einstellungen");
     EXPECT_EQ(MenuBarText(program.Main(), 0), L"Ändern");
