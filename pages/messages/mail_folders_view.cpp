@@ -179,7 +179,10 @@ std::optional<LRESULT> MailFoldersView::OnNotification(const NMHDR& header, HWND
 
 void MailFoldersView::ToggleItem(HTREEITEM item) {
     const Place& place = PlaceOf(item);
-    SetTick(place, !ticked_.contains(&place));
+    const bool ticked = !ticked_.contains(&place);
+    // Stores may share a folder, which then stands in the tree more than once.
+    const auto [begin, end] = byFolder_.equal_range(place.folder->folder);
+    for (auto same = begin; same != end; ++same) SetTick(*same->second, ticked);
     toggled_(*place.folder);
 }
 

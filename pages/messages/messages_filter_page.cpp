@@ -82,10 +82,10 @@ class MessagesFilterPage : public OptionsPage {
     bool IsTaken(const std::wstring& name) const;
     bool RefuseFilter(int filter, unsigned reason);
 
-    void ShowAutomaticName();
+    void ShowName();
+    std::wstring ShownName() const;
     std::wstring AutomaticName() const;
     std::wstring FreeName() const;
-    std::wstring TypedName() const;
     void ListSuggestedNames();
     // Of a folder that may no longer be there.
     MailFolderNames NamesOf(const MailFolderRef& folder) const;
@@ -94,7 +94,7 @@ class MessagesFilterPage : public OptionsPage {
     std::vector<std::wstring> builtInNames_;
     int chosen_ = -1;
     MailFilter new_;
-    bool nameTyped_ = false;  // by the user, so that it no longer follows the folders
+    std::wstring typedName_;  // the user's for the new filter; empty while it follows the folders
     std::wstring active_;     // the active filter's name when the page opened
     bool activeDeleted_ = false;
 };
@@ -135,7 +135,7 @@ void MessagesFilterPage::LoadFilters() {
 void MessagesFilterPage::ListFilters() {
     const CMailFoldersFilters& filters = GetMailFoldersFilters();
     SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER, CB_RESETCONTENT, 0, 0);
-    AddItem(IDC_MAIL_FILTER, IDS_MAIL_FILTER_NEW, kNewFilter);
+    AddItem(IDC_MAIL_FILTER, GetLanguageTable().LoadString(IDS_MAIL_FILTER_NEW), kNewFilter);
     SetSelection(IDC_MAIL_FILTER, 0);
     std::vector<int> shown = filters.SortedIndices();
     // The chosen one also while no folder is ticked.
@@ -155,10 +155,9 @@ void MessagesFilterPage::ListFilters() {
 
 void MessagesFilterPage::Choose(int filter) {
     chosen_ = filter;
-    nameTyped_ = false;
     ListFilters();
     view_->ShowTicks(Edited().entries);
-    ShowAutomaticName();
+    ShowName();
     OnUpdate();
 }
 
@@ -182,7 +181,7 @@ void MessagesFilterPage::OnToggled(const MailFolderNode& folder) {
         edited.Add(folder.folder,
                    fits ? folder.path : folder.name.substr(0, kLongestMailFolderName));
     }
-    ShowAutomaticName();
+    ShowName();
     OnUpdate();
 }
 
@@ -207,8 +206,8 @@ bool MessagesFilterPage::OnCommand(int id, int code) {
             // The focus is with the edit control within it.
             if (code == CBN_SETFOCUS) ScrollIntoView(Item(id));
             if (code == CBN_DROPDOWN) ListSuggestedNames();
-            if (code == CBN_SELCHANGE) nameTyped_ = true;
-            if (code == CBN_EDITCHANGE) nameTyped_ = !TypedName().empty();
+            if (code == CBN_SELCHANGE) typedName_ = ItemText(id, Selection(id));
+            if (code == CBN_EDITCHANGE) typedName_ = ShownName();
             break;
         case IDC_MAIL_FILTER_ADD:
             if (code == BN_CLICKED) AddNewFilter();
@@ -229,7 +228,7 @@ std::optional<INT_PTR> MessagesFilterPage::OnControlNotification(const NMHDR& he
 
 bool MessagesFilterPage::AddNewFilter() {
     if (new_.entries.empty()) return true;
-    new_.name = nameTyped_ ? TypedName() : FreeName();
+    new_.name = typedName_.empty() ? FreeName() : typedName_;
     if (IsTaken(new_.name)) {
         return Refuse(IDC_MAIL_FILTER_NAME,
                       FillIn(GetLanguageTable().LoadString(IDS_MAIL_FILTER_TAKEN), {new_.name}));
@@ -241,6 +240,7 @@ bool MessagesFilterPage::AddNewFilter() {
         filters.push_back(new_);
     }
     new_ = {};
+    typedName_.clear();
     Choose(place);
     return true;
 }
@@ -278,20 +278,20 @@ std::wstring MessagesFilterPage::FreeName() const {
                           [this](const std::wstring& name) { return IsTaken(name); });
 }
 
-void MessagesFilterPage::ShowAutomaticName() {
-    if (nameTyped_) return;
-    const std::wstring name = chosen_ < 0 ? AutomaticName() : Edited().name;
-    SetWindowTextW(Item(IDC_MAIL_FILTER_NAME), name.c_str());
+void MessagesFilterPage::ShowName() {
+    const std::wstring automatic = typedName_.empty() ? AutomaticName() : typedName_;
+    const std::wstring& name = chosen_ < 0 ? automatic : Edited().name;
+    if (name != ShownName()) SetWindowTextW(Item(IDC_MAIL_FILTER_NAME), name.c_str());
 }
 
-std::wstring MessagesFilterPage::TypedName() const {
+std::wstring MessagesFilterPage::ShownName() const {
     wchar_t text[kLongestMailFilterName + 1] = {};
     GetWindowTextW(Item(IDC_MAIL_FILTER_NAME), text, static_cast<int>(std::size(text)));
     return Trimmed(text);
 }
 
 void MessagesFilterPage::ListSuggestedNames() {
-    const std::wstring text = TypedName();
+    const std::wstring text = ShownName();
     SendDlgItemMessageW(hwnd(), IDC_MAIL_FILTER_NAME, CB_RESETCONTENT, 0, 0);
     if (const MailFolderNode* folder = view_->Selected()) {
         std::vector<std::wstring> containing;

@@ -9,8 +9,9 @@ namespace {
 using namespace ui;
 
 // The folders as the tree sorts them: an account's place, and that of a folder within it.
-constexpr int kHomeMail = 1, kOutlook = 2;
-constexpr int kArchive = 0, kInbox = 3;
+constexpr int kHomeMail = 1, kOutlook = 2, kTexts = 3;
+constexpr int kArchive = 0, kDrafts = 2, kInbox = 3;
+constexpr int kTextsDrafts = 1;
 
 class MessagesPages : public DeviceTest {
   protected:
@@ -82,6 +83,11 @@ TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
     Press(kOutlook, kArchive);
     EXPECT_EQ(name(), L"Inbox");
     TypeName(L"Mine");
+    ChooseFilter(L"Inbox");
+    EXPECT_EQ(name(), L"Inbox");
+    ChooseFilter(L"(new filter)");
+    EXPECT_EQ(name(), L"Mine");
+    EXPECT_TRUE(IsTicked(kOutlook, kInbox));
     TypeName(L"");
     Press(kHomeMail, 0);
     ASSERT_TRUE(Ok(sheet_));
@@ -112,6 +118,28 @@ TEST_F(MessagesPages, FiltersAreMadeChangedAndDeleted) {
         EXPECT_EQ(StoredText(L"EmailFilter"), confirm ? L"" : L"Mail filter 1");
     }
     EXPECT_EQ(program.CloseAndWait(), 0u);
+}
+
+TEST_F(MessagesPages, AFolderThatAccountsShareIsTickedInEach) {
+    constexpr wchar_t kStore[] = L"\\mail.store";
+    const std::string store = ReadBytes(kStore);
+    std::string shared = store;
+    const std::string own = "000000000d00000012000000", others = "000000000100000006000000";
+    ASSERT_NE(shared.find(own), shared.npos);
+    shared.replace(shared.find(own), own.size(), others);
+    ASSERT_TRUE(WriteBytes(kStore, shared.data(), shared.size()));
+    Program program;
+    Open(program);
+    const auto ticked = [this] {
+        return std::pair(IsTicked(kOutlook, kDrafts), IsTicked(kTexts, kTextsDrafts));
+    };
+    EXPECT_EQ(ticked(), std::pair(false, false));
+    Press(kOutlook, kDrafts);
+    EXPECT_EQ(ticked(), std::pair(true, true));
+    Press(kTexts, kTextsDrafts);
+    EXPECT_EQ(ticked(), std::pair(false, false));
+    EXPECT_EQ(Text(page_, IDC_MAIL_FILTER_NAME), L"New filter");
+    EXPECT_TRUE(WriteBytes(kStore, store.data(), store.size()));
 }
 
 TEST_F(MessagesPages, WhatCannotBeStoredKeepsTheSheetOpen) {
