@@ -12,6 +12,7 @@
 #include "app/registry_exporter.h"
 #include "app/reload_after_import.h"
 #include "base/fill_in.h"
+#include "base/put_in_place.h"
 #include "base/read_file.h"
 #include "base/wait_cursor.h"
 #include "resources/ids.h"
@@ -57,6 +58,12 @@ bool ExportTo(const wchar_t* path) {
     return exporter.Export(path, HKEY_LOCAL_MACHINE, kProductKey);
 }
 
+// The way back, if it can be kept; if not, the one there was stays.
+void KeepBeforeImport() {
+    const std::wstring path = GetInstallPath(L"Before import.dias");
+    if (ExportTo(FreshName(path).c_str())) PutInPlace(path);
+}
+
 // The question whether to import a file; what the user could not expect of it follows in paragraphs
 // of its own.
 std::wstring ImportQuestion(const std::wstring& path, std::span<const std::uint8_t> file) {
@@ -85,7 +92,7 @@ bool ImportSettings(HWND owner) {
     const std::wstring question = ImportQuestion(*path, file);
     if (Say(question.c_str(), MB_YESNO | MB_ICONQUESTION) != IDYES) return false;
     const WaitCursor wait;
-    ExportTo(GetInstallPath(L"Before import.dias").c_str());  // The way back, if it can be kept.
+    KeepBeforeImport();
     const bool done = RegistryExporter().Import(file);
     ReloadAfterImport();  // Even of a file that failed, something was stored.
     if (!done) SayThatItFailed(IDS_IMPORT_FAILED);

@@ -70,6 +70,12 @@ TEST_F(Import, StoresWhatTheFileHasAndReachesWhatIsLoaded) {
     ASSERT_TRUE(CopyFileW(kBefore, kFile, FALSE));
     ASSERT_TRUE(RunImport(program));
     EXPECT_EQ(Stored(L"OneClick"), 2u);
+    // Where no new one can be made, the one there is stays.
+    const std::string before = ReadBytes(kBefore);
+    const OwnedKey product = OpenKey(HKEY_LOCAL_MACHINE, kProductKey);
+    RegSetValueExW(product.get(), L"List", 0, REG_MULTI_SZ, nullptr, 0);
+    ASSERT_TRUE(RunImport(program));
+    EXPECT_TRUE(ReadBytes(kBefore) == before);
     OpenProductKey().WriteString(L"Contacts_layouts", L"Mine");
     EXPECT_EQ(Selected(OpenPage(program, 3, 0, IDC_CONTACT_LAYOUT), IDC_CONTACT_LAYOUT), L"Mine");
     EXPECT_EQ(program.CloseAndWait(), 0u);
