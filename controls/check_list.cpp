@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "controls/list_column.h"
+
 namespace {
 
 // The state images of a list with check boxes.
@@ -13,8 +15,7 @@ void CheckList::Attach(HWND list, Order order) {
     list_ = list;
     order_ = order;
     SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
-    LVCOLUMNW column = {};
-    SendMessageW(list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+    AddColumn(list);
 }
 
 void CheckList::Insert(int position, const std::wstring& text, LPARAM data, bool checked) {
@@ -27,11 +28,7 @@ void CheckList::Insert(int position, const std::wstring& text, LPARAM data, bool
     SetChecked(position, checked);
 }
 
-void CheckList::FitColumn() {
-    RECT area;
-    GetClientRect(list_, &area);
-    SendMessageW(list_, LVM_SETCOLUMNWIDTH, 0, area.right);
-}
+void CheckList::FitColumn() { ::FitColumn(list_); }
 
 void CheckList::Clear() { SendMessageW(list_, LVM_DELETEALLITEMS, 0, 0); }
 

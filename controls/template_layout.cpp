@@ -1,13 +1,12 @@
 #include "controls/template_layout.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <utility>
 
 #include "app/language/module.h"
 #include "base/scale.h"
 #include "controls/control_text.h"
+#include "controls/list_column.h"
 #include "resources/ids.h"
 
 namespace {
@@ -148,11 +147,6 @@ bool TemplateLayout::Move(const Control& control, const ControlPlace& place, int
     SetWindowPos(control.hwnd, nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
                  wanted.bottom - dropped - wanted.top,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
-    if (IsOfClass(control.hwnd, WC_LISTVIEWW)) {
-        // Lists have one column.
-        RECT client;
-        GetClientRect(control.hwnd, &client);
-        SendMessageW(control.hwnd, LVM_SETCOLUMNWIDTH, 0, client.right);
-    }
+    if (IsOfClass(control.hwnd, WC_LISTVIEWW)) FitColumn(control.hwnd);
     return true;
 }

@@ -8,6 +8,7 @@
 #include "appearance/categories/icon_library.h"
 #include "base/scale.h"
 #include "controls/focus_keeper.h"
+#include "controls/list_column.h"
 #include "resources/ids.h"
 
 namespace {
@@ -74,8 +75,7 @@ void CategoryDialog::CreateListColumn() {
     rowHeight_.Reset(
         ImageList_Create(ScaleX(kIconCell), ScaleY(kIconCell) + 2 * ScaleY(1), ILC_COLOR, 0, 1));
     SendMessageW(list, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(rowHeight_.get()));
-    LVCOLUMNW column = {};
-    SendMessageW(list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+    AddColumn(list);
 }
 
 void CategoryDialog::ListCategories(int selected) {
@@ -97,6 +97,7 @@ void CategoryDialog::ListCategories(int selected) {
         if (i == selected) SendMessageW(list, LVM_ENSUREVISIBLE, item.iItem, FALSE);
     }
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+    FitColumn(list);  // The scroll bar may have come or gone.
     Refresh();
 }
 
