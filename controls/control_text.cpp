@@ -24,10 +24,15 @@ std::wstring TextOf(HWND control) {
     return text;
 }
 
+// A control for ink does not tell its font, which is the dialog's.
+HFONT FontOf(HWND control) {
+    const LRESULT own = SendMessageW(control, WM_GETFONT, 0, 0);
+    return reinterpret_cast<HFONT>(own ? own : SendMessageW(GetParent(control), WM_GETFONT, 0, 0));
+}
+
 SIZE Measure(HWND control, const std::wstring& text, UINT format, int width = 0) {
     const WindowDc dc(control);
-    const SelectedObject font(dc.get(),
-                              reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    const SelectedObject font(dc.get(), FontOf(control));
     RECT area = {0, 0, width, 0};
     DrawTextW(dc.get(), text.c_str(), static_cast<int>(text.size()), &area,
               DT_CALCRECT | DT_NOPREFIX | format);
