@@ -53,10 +53,9 @@ OwnedBitmap LoadIconBitmap(const std::wstring& path) {
     return OwnedBitmap(SHLoadDIBitmap(path.c_str()));
 }
 
-std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file) {
+std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file, int widest) {
     const std::optional<BitmapFileHeader> header = ReadIconHeader(file);
-    if (!header || header->info.width > ScaleX(kLargestIcon) ||
-        header->info.height > ScaleY(kLargestIcon))
+    if (!header || header->info.width > widest || header->info.height > ScaleY(kLargestIcon))
         return {};
     return ReadIconPicture(file, *header);
 }
@@ -64,7 +63,8 @@ std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file) {
 bool HasIcons(const std::wstring& folder) {
     const std::vector<std::wstring> names = FindBitmapFiles(folder);
     return std::any_of(names.begin(), names.end(), [&folder](const std::wstring& name) {
-        return ReadOfferedIcon(MappedFile(JoinPath(folder, name)).bytes());
+        // Here the width counts as the height does.
+        return ReadOfferedIcon(MappedFile(JoinPath(folder, name)).bytes(), ScaleY(kLargestIcon));
     });
 }
 

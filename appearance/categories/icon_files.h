@@ -27,9 +27,9 @@ std::wstring JoinPath(const std::wstring& folder, const std::wstring& name);
 // Loads an icon's bitmap; null when there is none or the file is malformed.
 OwnedBitmap LoadIconBitmap(const std::wstring& path);
 
-// A bitmap file as an icon to choose; no value when it is malformed, or larger than an icon may be
-// on this screen.
-std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file);
+// A bitmap file as an icon to choose; no value when it is malformed, wider than `widest` pixels or
+// higher than an icon may be on this screen.
+std::optional<IconPicture> ReadOfferedIcon(std::span<const std::uint8_t> file, int widest);
 
 // Whether a folder holds an icon to choose and so is offered as a source of icons.
 bool HasIcons(const std::wstring& folder);

@@ -6,8 +6,10 @@
 #include "app/language/language_table.h"
 #include "appearance/categories/icon_digest.h"
 #include "appearance/categories/icon_files.h"
+#include "appearance/categories/icon_header.h"
 #include "base/mapped_file.h"
 #include "base/names.h"
+#include "base/scale.h"
 #include "settings/install_path.h"
 
 IconLibrary::IconLibrary() {
@@ -23,10 +25,11 @@ void IconLibrary::LoadFolder(const std::wstring& folder) {
 
     loadedFolders_.push_back(std::move(name));
     const IconDigester digester;
+    const int widest = ScaleX(kLargestIcon);
     for (std::wstring& file : FindBitmapFiles(folder)) {
         Icon icon = {&loadedFolders_.back(), std::move(file)};
         const MappedFile mapped(icon.Path());
-        std::optional<IconPicture> picture = ReadOfferedIcon(mapped.bytes());
+        std::optional<IconPicture> picture = ReadOfferedIcon(mapped.bytes(), widest);
         if (!picture) continue;
         icon.picture = std::move(*picture);
         const std::optional<IconDigest> digest = digester.Digest(mapped.bytes());

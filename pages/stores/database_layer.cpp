@@ -66,7 +66,7 @@ const CEGUID& DatabaseLayer::PimVolume() {
 }
 
 DatabaseHandle DatabaseLayer::Open(const DatabaseRequest& request, CEOID* oid) {
-    CEOID found = 0;
+    CEOID found = request.oid;
     DatabaseHandle database;
     if (IsNewerPocketPc()) {
         database = OpenOnNewer(request, found);

@@ -35,7 +35,8 @@ struct DatabaseSort {
 
 struct DatabaseRequest {
     const CEGUID* volume = nullptr;  // null: where the device keeps the owner's data
-    std::wstring name;
+    std::wstring name;               // counts when there is no oid
+    CEOID oid = 0;
     DatabaseSort sort;
     DWORD flags = 0;  // CEDB_AUTOINCREMENT
     CENOTIFYREQUEST* notify = nullptr;
