@@ -258,8 +258,9 @@ class Language(KitTest):
 
 class LanguagePseudo(KitTest):
     def test_texts_are_longer_and_keep_what_is_filled_in(self):
-        template = "$$$$$$$$ NEW FILE $$$$$$$\r\nVersion|\r\n%s: &Add %d%% to %1|\r\n8|\r\nA\\nB\\\\\\|cdefghijk|x\r\n"
+        template = "$$$$$$$$ NEW FILE $$$$$$$\r\nVersion|\r\n%s: &Add %d%% to %1|\r\n&%d|\r\n8|\r\nA\\nB\\\\\\|cdefghijk|x\r\n"
         expected = ("$$$$$$$$ NEW FILE $$$$$$$|\r\nVersion|[Véršîöňé]\r\n%s: &Add %d%% to %1|[%s: &Aďď %d%% ťö %1 éöûäý]\r\n"
+                    "&%d|[&%d]\r\n"
                     "8|\r\nA\\nB\\\\\\|cdefghijk|[Ä\\nB\\\\\\|čďéfğhîjk éöû]\r\n")
         self.assertEqual(self.run_kit("language", "pseudo", self.put("t", utf16(template))), (0, utf16(expected)))
         long = "x" * 2000

@@ -61,14 +61,22 @@ std::vector<std::wstring> Entries(HWND control) {
 
 SIZE Measure(HWND control, const std::wstring& text, int width) {
     const HDC dc = GetDC(control);
-    const HGDIOBJ old =
-        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    LRESULT font = SendMessageW(control, WM_GETFONT, 0, 0);
+    if (!font) font = SendMessageW(GetParent(control), WM_GETFONT, 0, 0);
+    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(font));
     RECT area = {0, 0, width, 0};
     DrawTextW(dc, text.c_str(), -1, &area,
               DT_CALCRECT | DT_NOPREFIX | (width ? DT_WORDBREAK : DT_SINGLELINE));
     SelectObject(dc, old);
     ReleaseDC(control, dc);
     return {area.right, area.bottom};
+}
+
+// As the control itself has broken its lines.
+int InkHeight(HWND ink, const std::wstring& text) {
+    POINTL last = {};
+    SendMessageW(ink, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&last), text.size() - 1);
+    return static_cast<int>(last.y + Measure(ink, text, 0).cy);
 }
 
 int Widest(HWND control) {
@@ -91,7 +99,9 @@ void MeasureText(HWND control, LONG style, int dpi, Seen& seen) {
     };
     switch (seen.kind) {
         case Kind::kLabel:
-            if (!text.empty()) wrapped(0);
+            if (text.empty()) break;
+            wrapped(0);
+            if (ClassOf(control) == L"richink") seen.wantedHeight = InkHeight(control, text);
             break;
         case Kind::kCheckBox:
             if (style & BS_MULTILINE) {

@@ -22,7 +22,7 @@ bool IsLetterOrDigit(wchar_t c) {
 std::size_t LengthKept(std::wstring_view rest) {
     const wchar_t next = rest.size() > 1 ? rest[1] : L'\0';
     if (rest[0] == L'%' && (IsLetterOrDigit(next) || next == L'%')) return 2;
-    if (rest[0] == L'&' && next) return 2;
+    if (rest[0] == L'&' && next && next != L'%') return 2;
     return 0;
 }
 
