@@ -206,7 +206,9 @@ bool MessagesFilterPage::OnCommand(int id, int code) {
             // The focus is with the edit control within it.
             if (code == CBN_SETFOCUS) ScrollIntoView(Item(id));
             if (code == CBN_DROPDOWN) ListSuggestedNames();
-            if (code == CBN_SELCHANGE) typedName_ = ItemText(id, Selection(id));
+            if (code == CBN_SELCHANGE) {
+                typedName_ = Trimmed(ItemText(id, Selection(id))).substr(0, kLongestMailFilterName);
+            }
             if (code == CBN_EDITCHANGE) typedName_ = ShownName();
             break;
         case IDC_MAIL_FILTER_ADD:

@@ -182,6 +182,11 @@ TEST_F(MessagesPages, ANewFilterChangesNoOther) {
     TypeName(L"iNBOX");
     ASSERT_TRUE(IsRefused(program));
     EXPECT_EQ(Kinds(L"Inbox"), "MMFF");
+    constexpr wchar_t kSuggested[] = L"Inbox - Outlook E-mail";
+    SendMessageW(page_, WM_COMMAND, MAKEWPARAM(IDC_MAIL_FILTER_NAME, CBN_DROPDOWN), 0);
+    Select(page_, IDC_MAIL_FILTER_NAME, kSuggested);
+    for (const wchar_t* const other : {L"Inbox", L"(new filter)"}) ChooseFilter(other);
+    EXPECT_EQ(Text(page_, IDC_MAIL_FILTER_NAME), kSuggested);
     TypeName(L"");
     ASSERT_TRUE(Ok(sheet_)) << "the same folders are the same filter";
     EXPECT_EQ(StoredText(L"EmailFilter"), L"Outlook E-mail - Inbox");
