@@ -175,6 +175,12 @@ class Settings(KitTest):
                            "[hkey_local_machine\\a\\C]\n\"é\\\"\"=hex(3):0a,\\ \n b\n\"t\"=\"x\ny\"\n").encode())
         self.assertEqual(self.run_kit("settings", "from-reg", "a.reg"), (0, dias(
             key("B", key("D", value("n", 255))), key("C", value('é"', b"\x0a\x0b"), value("t", "x\ny")), path="\\A")))
+        deepest = "REGEDIT4\n[HKEY_USERS\\z]\n[HKEY_USERS" + "\\d" * 64
+        self.put("a.reg", (deepest + "]\n").encode())
+        self.assertEqual(self.run_kit("settings", "from-reg", "a.reg", "-o", "a.dias")[0], 0)
+        self.assertEqual(self.run_kit("settings", "to-reg", "a.dias", "-o", "b.reg")[0], 0)
+        self.put("a.reg", (deepest + "\\d]\n").encode())
+        self.check(1, ["a.reg:3: deeper than a registry nests keys"], "settings", "from-reg", "a.reg")
         for text, line, fault in (
                 ("[x]\n", 1, 'does not begin with "Windows Registry Editor Version 5.00"'),
                 (head, 2, "names no key"), (head + '"a"="b"\n', 2, "stands before the first key"),

@@ -36,7 +36,8 @@ class TreeSink : public SettingsSink {
     bool EnterKey(const std::wstring& name) override {
         const std::wstring path = TidyPath(paths_.empty() ? name : paths_.back() + L'\\' + name);
         const std::size_t depth = DepthOf(settings_.path) + DepthOf(path);
-        if (paths_.size() >= kDeepestKey || depth > kDeepestKey) return false;
+        // The outermost key has no name, and others may have none.
+        if (paths_.size() > kDeepestKey || depth > kDeepestKey) return false;
         paths_.push_back(path);
         settings_.Key(path);
         return true;
