@@ -3,7 +3,9 @@
 # the current drive.
 #
 # usage: device_test.sh NAME DPI WIDTHxHEIGHT PROGRAM ARGUMENTS...
-set -euo pipefail
+set -eEuo pipefail
+# Nearly all is done quietly; what failed shall be told nevertheless.
+trap 'echo "error: $BASH_COMMAND failed (line $LINENO of $(basename "${BASH_SOURCE[0]}"))" >&2' ERR
 ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$ROOT/tools/common.sh"
 . "$ROOT/tools/wine.sh"

@@ -22,6 +22,14 @@ BOOL CALLBACK Paint(HWND window, LPARAM) {
     return TRUE;
 }
 
+// Painted, as some objects are made when something is painted first: nobody shall wait for them by
+// chance. Null when it does not open.
+HWND Opened(const Program& program, const wchar_t* title) {
+    const HWND window = program.Sheet(title);
+    if (window) Draw(window);
+    return window;
+}
+
 // Away from what the device has stored, which is what the row would change to.
 void Change(HWND page, const PageRow& row) {
     if (row.select == kClick) {
@@ -38,7 +46,7 @@ void UsePage(const Program& program, HWND page) {
     } else if (const HWND layouts = GetDlgItem(page, IDC_CONTACT_LAYOUT)) {
         Select(page, IDC_CONTACT_LAYOUT,
                static_cast<int>(SendMessageW(layouts, CB_GETCOUNT, 0, 0)) - 2);
-        const HWND dialog = program.Sheet(L"Keyboard layouts");
+        const HWND dialog = Opened(program, L"Keyboard layouts");
         SendDlgItemMessageW(dialog, IDC_LAYOUTS_LIST, WM_KEYDOWN, VK_SPACE, 0);
         Draw(dialog);
         Ok(dialog);
@@ -85,23 +93,21 @@ void UseColors(HWND dialog) {
 
 void BrowseForIcons(const Program& program, HWND chooser) {
     PickSource(chooser, {VK_UP});
-    const HWND folders = program.Sheet(L"Choose folder");
-    Draw(folders);
+    const HWND folders = Opened(program, L"Choose folder");
     PostKeys(GetDlgItem(folders, IDC_FOLDER_TREE), {VK_END});
     Cancel(folders);
 }
 
 Outcome WalkCategories(const Program& program, const Storing& storing) {
     program.Open(7, 0);
-    const HWND dialog = program.Sheet(L"Category Icons");
+    const HWND dialog = Opened(program, L"Category Icons");
     if (!dialog) return {};
-    Draw(dialog);
     UseColors(dialog);
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_CATEGORY_CHOOSE, BN_CLICKED),
                  reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_CATEGORY_CHOOSE)));
     // Without categories, which a failing call may cost, there is nothing to choose for.
     if (IsWindowEnabled(GetDlgItem(dialog, IDC_CATEGORY_CHOOSE))) {
-        const HWND chooser = program.Sheet(L"Choose icon");
+        const HWND chooser = Opened(program, L"Choose icon");
         if (!chooser) return {};
         BrowseForIcons(program, chooser);
         PickSource(chooser, {VK_DOWN});  // all of them
@@ -121,12 +127,16 @@ Outcome WalkCategories(const Program& program, const Storing& storing) {
     return {Ok(dialog)};
 }
 
+bool Confirm(const Program& program) {
+    const HWND box = Opened(program, L"Lum Diary Options");
+    return box && Ok(box);
+}
+
 Outcome WalkAbout(const Program& program, const Storing& storing) {
     PostMessageW(program.Main(), WM_COMMAND, IDM_ABOUT_BOX, 0);
-    if (!program.Dismiss()) return {};
+    if (!Confirm(program)) return {};
     PostMessageW(program.Main(), WM_COMMAND, ID_APP_ABOUT, 0);
-    const HWND about = program.Sheet(L"About");
-    Draw(about);
+    const HWND about = Opened(program, L"About");
     storing();
     return {about && Ok(about)};
 }
@@ -135,20 +145,20 @@ Outcome WalkAbout(const Program& program, const Storing& storing) {
 Outcome AwaitEnd(const Program& program) {
     SendMessageW(program.Main(), WM_NULL, 0, 0);  // Is served when all is done, or said.
     const bool said = !program.OpenSheets().empty();
-    return {!said || program.Dismiss(), said};
+    return {!said || Confirm(program), said};
 }
 
 Outcome WalkExport(const Program& program, const Storing& storing) {
     PostMessageW(program.Main(), WM_COMMAND, IDM_EXPORT, 0);
-    const HWND dialog = program.Sheet(L"Save As");
+    const HWND dialog = Opened(program, L"Save As");
     storing();
     return Ok(dialog) ? AwaitEnd(program) : Outcome{};
 }
 
 Outcome WalkImport(const Program& program, const Storing& storing) {
     PostMessageW(program.Main(), WM_COMMAND, IDM_IMPORT, 0);
-    if (!Ok(program.Sheet(L"Open"))) return {};
-    const HWND question = program.Sheet(L"Lum Diary Options");
+    if (!Ok(Opened(program, L"Open"))) return {};
+    const HWND question = Opened(program, L"Lum Diary Options");
     storing();
     PostMessageW(question, WM_COMMAND, IDYES, 0);
     return Until([&] { return !IsWindow(question); }) ? AwaitEnd(program) : Outcome{};
