@@ -48,6 +48,24 @@ std::wstring FindProgram(const std::wstring& name) {
     return {};
 }
 
+// Of some hundred processes Wine fails to make one, before any of the program's code runs. Devices
+// do not, so it is made anew.
+bool Start(const std::wstring& path, const std::wstring& commandLine, DWORD flags,
+           PROCESS_INFORMATION& started) {
+    constexpr int kTries = 3;
+    for (int tries = 0; tries < kTries; ++tries) {
+        std::wstring given = commandLine;
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof startup;
+        if (CreateProcessW(path.c_str(), given.data(), nullptr, nullptr, FALSE, flags, nullptr,
+                           nullptr, &startup, &started)) {
+            return true;
+        }
+        if (GetLastError() != ERROR_INTERNAL_ERROR) break;
+    }
+    return false;
+}
+
 }  // namespace
 
 // What a device's programs cannot choose must be left out. Security attributes and the start-up
@@ -67,13 +85,8 @@ extern "C" BOOL WINAPI Pocket_CreateProcessW(LPCWSTR image, LPWSTR arguments, LP
     }
     std::wstring commandLine = L"\"" + path + L"\"";
     if (arguments && *arguments) commandLine.append(L" ").append(arguments);
-    STARTUPINFOW desktopStartup = {};
-    desktopStartup.cb = sizeof desktopStartup;
     PROCESS_INFORMATION started = {};
-    if (!CreateProcessW(path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, flags, nullptr,
-                        nullptr, &desktopStartup, &started)) {
-        return FALSE;
-    }
+    if (!Start(path, commandLine, flags, started)) return FALSE;
     if (process) {
         *process = started;
     } else {

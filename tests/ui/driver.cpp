@@ -14,7 +14,6 @@ constexpr wchar_t kMainWindow[] = L"DiarySettings_MainWnd";
 constexpr UINT kOpenEntry = 2255;
 constexpr DWORD kLimit = 10'000;  // milliseconds
 constexpr int kTextLength = 512;
-constexpr int kTries = 3;
 
 // Memory of another process, for messages that carry addresses.
 class RemoteMemory {
@@ -85,16 +84,12 @@ std::vector<HWND> VisibleDialogs(DWORD process) {
 
 Program::Program(const std::wstring& arguments) {
     const std::wstring program = FolderOfTests() + L"DiarySettings.exe";
+    std::wstring given = arguments;
     PROCESS_INFORMATION started = {};
-    // Of some hundred processes Wine fails to make one, before any of the program's code runs.
-    for (int tries = 0; tries < kTries && !started.hProcess; ++tries) {
-        std::wstring given = arguments;
-        if (!CreateProcessW(program.c_str(), given.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                            nullptr, nullptr, &started) &&
-            GetLastError() != ERROR_INTERNAL_ERROR)
-            break;
+    if (!CreateProcessW(program.c_str(), given.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        nullptr, &started)) {
+        return;
     }
-    if (!started.hProcess) return;
     CloseHandle(started.hThread);
     process_ = started.hProcess;
     id_ = started.dwProcessId;
