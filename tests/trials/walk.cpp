@@ -22,8 +22,8 @@ BOOL CALLBACK Paint(HWND window, LPARAM) {
     return TRUE;
 }
 
-// Painted, as some objects are made when something is painted first: nobody shall wait for them by
-// chance. Null when it does not open.
+// A dialog, painted at once, as some objects are made when something is painted first, which else
+// happens at a moment of chance. Null when it does not open.
 HWND Opened(const Program& program, const wchar_t* title) {
     const HWND window = program.Sheet(title);
     if (window) Draw(window);
